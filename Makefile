@@ -1,0 +1,39 @@
+# The two commands of a newcomer:
+#   make run    install what is missing, build, start Pluvane on the example network
+#   make test   install what is missing, build (normal and sanitizer builds), run every test
+JOBS ?= $(shell nproc)
+EXAMPLE = Exemples/Exemple.mtf
+
+.PHONY: run test deps build build-asan bench fuzz clean
+
+run: build
+	cd build/bin && ./pluvane $(EXAMPLE)
+
+test: build build-asan
+	QT_QPA_PLATFORM=offscreen ctest --test-dir build --output-on-failure
+	QT_QPA_PLATFORM=offscreen ctest --test-dir build-asan --output-on-failure
+
+deps:
+	@bash tools/install-deps.sh
+
+build: deps
+	@[ -f build/build.ninja ] || cmake -S . -B build -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo
+	cmake --build build -j $(JOBS)
+
+# The sanitizer build covers the core and the command line; the Qt programs are
+# exercised by the normal build.
+build-asan: deps
+	@[ -f build-asan/build.ninja ] || cmake -S . -B build-asan -G Ninja -DCMAKE_BUILD_TYPE=Debug \
+	  -DPLUVANE_SANITIZE=ON -DPLUVANE_BUILD_UI=OFF -DPLUVANE_BENCH=OFF
+	cmake --build build-asan -j $(JOBS)
+
+bench: build
+	for b in build/bin/bench_*; do $$b; done
+
+fuzz: deps
+	@[ -f build-fuzz/build.ninja ] || CXX=clang++ cmake -S . -B build-fuzz -G Ninja \
+	  -DCMAKE_BUILD_TYPE=RelWithDebInfo -DPLUVANE_FUZZ=ON -DPLUVANE_BUILD_UI=OFF -DPLUVANE_BENCH=OFF
+	cmake --build build-fuzz -j $(JOBS)
+
+clean:
+	rm -rf build build-asan build-fuzz
