@@ -73,7 +73,7 @@ struct GridChange {
     kCells,          // cells col1..col2, row1..row2 changed (text or attributes)
     kRowsInserting,  // rows row1..row2 are about to appear
     kRowsInserted,
-    kRowsRemoving,   // rows row1..row2 are about to go
+    kRowsRemoving,  // rows row1..row2 are about to go
     kRowsRemoved,
     kColsInserting,  // columns col1..col2 are about to appear
     kColsInserted,

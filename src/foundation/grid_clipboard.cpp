@@ -17,8 +17,7 @@ void SSPaste(Grid& grid, std::string_view clipboard_text) {
     grid.ClipboardPaste(block.col1, block.row1, clipboard_text);
     std::string value = grid.Text(block.col1, block.row1);
     for (int row = std::max(block.row1, 1); row <= std::min(block.row2, grid.MaxRows()); ++row) {
-      for (int col = std::max(block.col1, 1); col <= std::min(block.col2, grid.MaxCols());
-           ++col) {
+      for (int col = std::max(block.col1, 1); col <= std::min(block.col2, grid.MaxCols()); ++col) {
         if (!grid.Locked(col, row)) grid.SetText(col, row, value);
       }
     }
@@ -26,6 +25,8 @@ void SSPaste(Grid& grid, std::string_view clipboard_text) {
   grid.SetRedraw(was_on);
 }
 
-bool IsPasteKey(int key_code, bool control) { return control && (key_code == 86 || key_code == 118); }
+bool IsPasteKey(int key_code, bool control) {
+  return control && (key_code == 86 || key_code == 118);
+}
 
 }  // namespace pluvane

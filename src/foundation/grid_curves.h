@@ -35,7 +35,6 @@ struct CurveArrays {
 // first blank cell of column 1. X must rise as SSCheckRising has it; in mode
 // "SEC" it holds the heights of a section. On failure the message is shown,
 // the cursor stands on the row before the step at fault, and the arrays are empty.
-bool SSToCurveArrays(Grid& grid, const std::string& mode, CurveArrays& arrays,
-                     UserInterface& ui);
+bool SSToCurveArrays(Grid& grid, const std::string& mode, CurveArrays& arrays, UserInterface& ui);
 
 }  // namespace pluvane

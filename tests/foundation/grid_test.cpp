@@ -85,8 +85,7 @@ TEST(Grid, CellAttributes) {
 TEST(Grid, ListCellsKeepIndexAndTextTogether) {
   Grid grid(1, 1);
   grid.SetType(1, 1, CellType::List("1 Aucune\t2 Horton\t3 SCS"));
-  EXPECT_EQ(grid.ListEntries(1, 1),
-            (std::vector<std::string>{"1 Aucune", "2 Horton", "3 SCS"}));
+  EXPECT_EQ(grid.ListEntries(1, 1), (std::vector<std::string>{"1 Aucune", "2 Horton", "3 SCS"}));
   EXPECT_EQ(grid.ListIndex(1, 1), -1);
   grid.SetListIndex(1, 1, 1);
   EXPECT_EQ(grid.Text(1, 1), "2 Horton");
@@ -244,11 +243,10 @@ TEST(Grid, ListenersHearSizeCellsCursorAndLayout) {
   grid.SetActiveCell(2, 1);
   grid.SetCaption("t");
   using K = GridChange;
-  EXPECT_EQ(rec.Kinds(),
-            (std::vector<GridChange::Kind>{K::kRowsInserting, K::kRowsInserted, K::kRowsRemoving,
-                                           K::kRowsRemoved, K::kColsInserting, K::kColsInserted,
-                                           K::kColsRemoving, K::kColsRemoved, K::kCells,
-                                           K::kActiveCell, K::kLayout}));
+  EXPECT_EQ(rec.Kinds(), (std::vector<GridChange::Kind>{
+                             K::kRowsInserting, K::kRowsInserted, K::kRowsRemoving, K::kRowsRemoved,
+                             K::kColsInserting, K::kColsInserted, K::kColsRemoving, K::kColsRemoved,
+                             K::kCells, K::kActiveCell, K::kLayout}));
   EXPECT_EQ(rec.changes[0].row1, 3);
   EXPECT_EQ(rec.changes[0].row2, 4);
   EXPECT_EQ(rec.changes[2].row1, 2);
