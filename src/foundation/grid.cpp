@@ -126,6 +126,20 @@ Cell* Grid::Mutable(int col, int row) {
   return &rows_[row].cells[col];
 }
 
+void Grid::UpdateCell(int col, int row, const std::function<void(Cell&)>& change) {
+  Cell* cell = Mutable(col, row);
+  if (!cell) return;
+  change(*cell);
+  CellsChanged(col, row, col, row);
+}
+
+void Grid::UpdateColumn(int col, const std::function<void(Cell&)>& change) {
+  if (col < 0 || col > MaxCols()) return;
+  change(columns_[col].format);
+  for (int row = 1; row <= MaxRows(); ++row) change(rows_[row].cells[col]);
+  CellsChanged(col, 1, col, MaxRows());
+}
+
 void Grid::SetText(int col, int row, std::string_view text) {
   Cell* cell = Mutable(col, row);
   if (!cell) return;
@@ -146,39 +160,26 @@ bool Grid::IsBlank(int col, int row) const {
 }
 
 void Grid::SetType(int col, int row, const CellType& type) {
-  Cell* cell = Mutable(col, row);
-  if (!cell) return;
-  cell->type = type;
-  cell->list_index = -1;
-  CellsChanged(col, row, col, row);
+  UpdateCell(col, row, [&](Cell& cell) {
+    cell.type = type;
+    cell.list_index = -1;
+  });
 }
 
 void Grid::SetLocked(int col, int row, bool locked) {
-  if (Cell* cell = Mutable(col, row)) {
-    cell->locked = locked;
-    CellsChanged(col, row, col, row);
-  }
+  UpdateCell(col, row, [&](Cell& cell) { cell.locked = locked; });
 }
 
 void Grid::SetBackColour(int col, int row, std::int32_t colour) {
-  if (Cell* cell = Mutable(col, row)) {
-    cell->back_colour = colour;
-    CellsChanged(col, row, col, row);
-  }
+  UpdateCell(col, row, [&](Cell& cell) { cell.back_colour = colour; });
 }
 
 void Grid::SetForeColour(int col, int row, std::int32_t colour) {
-  if (Cell* cell = Mutable(col, row)) {
-    cell->fore_colour = colour;
-    CellsChanged(col, row, col, row);
-  }
+  UpdateCell(col, row, [&](Cell& cell) { cell.fore_colour = colour; });
 }
 
 void Grid::SetNote(int col, int row, std::string_view note) {
-  if (Cell* cell = Mutable(col, row)) {
-    cell->note = note;
-    CellsChanged(col, row, col, row);
-  }
+  UpdateCell(col, row, [&](Cell& cell) { cell.note = note; });
 }
 
 std::vector<std::string> Grid::ListEntries(int col, int row) const {
@@ -202,31 +203,21 @@ void Grid::SetListIndex(int col, int row, int index) {
 }
 
 void Grid::SetColumnType(int col, const CellType& type) {
-  if (col < 0 || col > MaxCols()) return;
-  columns_[col].format.type = type;
-  for (int row = 1; row <= MaxRows(); ++row) {
-    rows_[row].cells[col].type = type;
-    rows_[row].cells[col].list_index = -1;
-  }
-  CellsChanged(col, 1, col, MaxRows());
+  UpdateColumn(col, [&](Cell& cell) {
+    cell.type = type;
+    cell.list_index = -1;
+  });
 }
 
 void Grid::SetColumnLocked(int col, bool locked) {
-  if (col < 0 || col > MaxCols()) return;
-  columns_[col].format.locked = locked;
-  for (int row = 1; row <= MaxRows(); ++row) rows_[row].cells[col].locked = locked;
-  CellsChanged(col, 1, col, MaxRows());
+  UpdateColumn(col, [&](Cell& cell) { cell.locked = locked; });
 }
 
 void Grid::SetColumnColours(int col, std::int32_t back_colour, std::int32_t fore_colour) {
-  if (col < 0 || col > MaxCols()) return;
-  columns_[col].format.back_colour = back_colour;
-  columns_[col].format.fore_colour = fore_colour;
-  for (int row = 1; row <= MaxRows(); ++row) {
-    rows_[row].cells[col].back_colour = back_colour;
-    rows_[row].cells[col].fore_colour = fore_colour;
-  }
-  CellsChanged(col, 1, col, MaxRows());
+  UpdateColumn(col, [&](Cell& cell) {
+    cell.back_colour = back_colour;
+    cell.fore_colour = fore_colour;
+  });
 }
 
 void Grid::ClipboardPaste(int col, int row, std::string_view text) {

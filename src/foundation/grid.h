@@ -220,6 +220,10 @@ class Grid {
   static constexpr double kDefaultRowHeight = 255;
 
   Cell* Mutable(int col, int row);
+  // Applies a change to one cell, or to a column's format and its data cells,
+  // and tells the listeners.
+  void UpdateCell(int col, int row, const std::function<void(Cell&)>& change);
+  void UpdateColumn(int col, const std::function<void(Cell&)>& change);
   Row MakeRow() const;
   void CellsChanged(int col1, int row1, int col2, int row2);
   void Notify(const GridChange& change);

@@ -3,24 +3,18 @@
 #include <gtest/gtest.h>
 
 #include "foundation/scripted_ui.h"
+#include "grid_fixture.h"
 
 namespace pluvane {
 namespace {
 
 // A grid of the given rows, its columns headed "Nom", "Valeur", "Note", owned
 // by the form "Bibliothèque".
-Grid Table(std::initializer_list<std::initializer_list<const char*>> rows) {
-  Grid grid(3, static_cast<int>(rows.size()));
+Grid Table(GridRows rows) {
+  Grid grid = FilledGrid(3, rows, "Bibliothèque");
   grid.SetColHead(1, "Nom");
   grid.SetColHead(2, "Valeur");
   grid.SetColHead(3, "Note");
-  grid.SetCaption("Bibliothèque");
-  int r = 1;
-  for (const auto& row : rows) {
-    int c = 1;
-    for (const char* t : row) grid.SetText(c++, r, t);
-    ++r;
-  }
   grid.SetActiveCell(3, 1);
   return grid;
 }

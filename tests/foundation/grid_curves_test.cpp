@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "foundation/scripted_ui.h"
+#include "grid_fixture.h"
 
 namespace pluvane {
 namespace {
@@ -109,17 +110,7 @@ TEST(SSLoadCurve4, FourColumnsAndTheGridWidensIfNeeded) {
 }
 
 // A grid of X in column 1 and two series, owned by the form "Loi".
-Grid Series(std::initializer_list<std::initializer_list<const char*>> rows) {
-  Grid grid(3, static_cast<int>(rows.size()));
-  grid.SetCaption("Loi");
-  int r = 1;
-  for (const auto& row : rows) {
-    int c = 1;
-    for (const char* t : row) grid.SetText(c++, r, t);
-    ++r;
-  }
-  return grid;
-}
+Grid Series(GridRows rows) { return FilledGrid(3, rows, "Loi"); }
 
 TEST(SSToCurveArrays, WholeGridUpToTheFirstBlankRow) {
   ScriptedUi ui;

@@ -8,7 +8,7 @@ namespace {
 Grid Column(std::initializer_list<const char*> texts) {
   Grid grid(2, static_cast<int>(texts.size()));
   int row = 1;
-  for (const char* t : texts) grid.SetText(1, row++, t);
+  for (const char* text : texts) grid.SetText(1, row++, text);
   return grid;
 }
 
