@@ -40,8 +40,8 @@ bool LoadCurve(Grid& grid, const std::string& file, const std::string& name, int
   for (++line; line != lines.end() && line->find('\'') == std::string::npos; ++line) {
     if (Trim(*line).empty()) continue;
     if (offset && points.empty()) lift = Val(CharMid(*line, 2 * kFieldWidth + 1));
-    std::vector<double> point;
-    for (int col = 0; col < columns; ++col) point.push_back(Field(*line, col));
+    std::vector<double> point(static_cast<std::size_t>(columns));
+    for (int col = 0; col < columns; ++col) point[col] = Field(*line, col);
     point[1] += lift;
     points.push_back(std::move(point));
   }
