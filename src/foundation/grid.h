@@ -95,6 +95,11 @@ class Grid {
   using Listener = std::function<void(const GridChange&)>;
 
   explicit Grid(int max_cols = 1, int max_rows = 0);
+  // A grid is owned by one form; a copy would carry the view's listeners along.
+  Grid(const Grid&) = delete;
+  Grid& operator=(const Grid&) = delete;
+  Grid(Grid&&) = default;
+  Grid& operator=(Grid&&) = default;
 
   // --- Size -------------------------------------------------------------
   int MaxRows() const { return static_cast<int>(rows_.size()) - 1; }
