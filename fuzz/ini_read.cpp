@@ -14,8 +14,8 @@ namespace {
 
 const std::string& IniPath() {
   static const std::string path = [] {
-    auto dir = std::filesystem::temp_directory_path() /
-               ("pluvane_fuzz_ini_" + std::to_string(::getpid()));
+    auto dir =
+        std::filesystem::temp_directory_path() / ("pluvane_fuzz_ini_" + std::to_string(::getpid()));
     std::filesystem::create_directories(dir);
     return (dir / "pluvane.ini").string();
   }();

@@ -76,9 +76,7 @@ std::string PadText(std::string_view text, int width, int alignment) {
 
 std::string PadInt(std::int16_t value, int width) { return PadLeft(std::to_string(value), width); }
 
-std::string PadLong(std::int32_t value, int width) {
-  return PadLeft(std::to_string(value), width);
-}
+std::string PadLong(std::int32_t value, int width) { return PadLeft(std::to_string(value), width); }
 
 std::string FormatFixed(double value, int width, int decimals) {
   decimals = std::max(decimals, 0);

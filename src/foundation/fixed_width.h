@@ -28,7 +28,6 @@ std::string FormatFixed(double value, int width, int decimals);
 
 // Puts `text` and `what` in capitals, then replaces the first occurrence of
 // `what` by `replacement` (kept as given) until none is left.
-std::string ReplaceText(std::string_view text, std::string_view what,
-                        std::string_view replacement);
+std::string ReplaceText(std::string_view text, std::string_view what, std::string_view replacement);
 
 }  // namespace pluvane

@@ -112,9 +112,9 @@ std::string ReadQuoted(TextReader& reader, int& position, std::string* raw_line)
 bool FindQuotedKey(UserInterface& ui, const std::string& file, std::string_view key) {
   TextReader reader(file);
   if (!reader.IsOpen()) {
-    ui.ShowMessage("Fichier " + file +
-                       " introuvable!\nEnregistrer les données et Quitter le programme!",
-                   "", MessageIcon::kNone);
+    ui.ShowMessage(
+        "Fichier " + file + " introuvable!\nEnregistrer les données et Quitter le programme!", "",
+        MessageIcon::kNone);
     return false;
   }
   while (!reader.AtEnd()) {

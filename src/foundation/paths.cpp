@@ -43,11 +43,25 @@ std::vector<std::string> ReadLinesOrThrow(const std::string& file) {
 // The folder to search for a file that SplitPath took apart.
 std::string LookupFolder(const std::string& folder) { return folder.empty() ? "." : folder; }
 
+// The names of the plain files of a folder, in sorted order; none when the
+// folder cannot be read.
+std::vector<std::string> PlainFileNames(const std::string& folder) {
+  std::vector<std::string> names;
+  std::error_code ec;
+  for (fs::directory_iterator it(LookupFolder(folder), ec), end; !ec && it != end;
+       it.increment(ec)) {
+    std::error_code type_ec;
+    if (it->is_regular_file(type_ec)) names.push_back(it->path().filename().string());
+  }
+  std::sort(names.begin(), names.end());
+  return names;
+}
+
 // The name on disk of an existing file, or empty.
 std::string NameOnDisk(const std::string& path) {
   std::string folder, name, base, ext;
   SplitPath(path, folder, name, base, ext);
-  std::string found = FindFileNoCase(LookupFolder(folder), name);
+  std::string found = FindFileNoCase(folder, name);
   return found.empty() ? std::string() : fs::path(found).filename().string();
 }
 
@@ -119,16 +133,10 @@ std::string FindFileNoCase(const std::string& folder, std::string_view name) {
   if (name.empty()) return {};
   std::string exact = JoinPath(folder, name);
   if (FileExist(exact)) return exact;
-  std::error_code ec;
-  std::string best;
-  for (fs::directory_iterator it(LookupFolder(folder), ec), end; !ec && it != end;
-       it.increment(ec)) {
-    std::error_code type_ec;
-    if (!it->is_regular_file(type_ec)) continue;
-    std::string entry = it->path().filename().string();
-    if (EqualsNoCase(entry, name) && (best.empty() || entry < best)) best = entry;
+  for (const auto& entry : PlainFileNames(folder)) {
+    if (EqualsNoCase(entry, name)) return JoinPath(folder, entry);
   }
-  return best.empty() ? std::string() : JoinPath(folder, best);
+  return {};
 }
 
 bool MatchesPattern(std::string_view name, std::string_view pattern) {
@@ -169,18 +177,9 @@ void AppendFile(const std::string& source, const std::string& destination) {
 }
 
 int vbFileKill(UserInterface& ui, const std::string& folder, std::string_view pattern) {
-  std::vector<std::string> names;
-  std::error_code ec;
-  for (fs::directory_iterator it(LookupFolder(folder), ec), end; !ec && it != end;
-       it.increment(ec)) {
-    std::error_code type_ec;
-    if (!it->is_regular_file(type_ec)) continue;
-    std::string name = it->path().filename().string();
-    if (MatchesPattern(name, pattern)) names.push_back(name);
-  }
-  std::sort(names.begin(), names.end());
   int count = 0;
-  for (const auto& name : names) {
+  for (const auto& name : PlainFileNames(folder)) {
+    if (!MatchesPattern(name, pattern)) continue;
     std::string path = JoinPath(folder, name);
     if (::unlink(path.c_str()) != 0) {
       AppError error = FileError(errno);

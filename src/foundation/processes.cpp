@@ -21,8 +21,7 @@ namespace {
 constexpr int kCannotWait = -1;
 
 // Starts the command; the system's error code on failure, else 0 with `pid` set.
-int StartProcess(const std::string& command_line, const std::string& working_folder,
-                 pid_t& pid) {
+int StartProcess(const std::string& command_line, const std::string& working_folder, pid_t& pid) {
   std::vector<std::string> args = SplitCommandLine(command_line);
   if (args.empty()) return ENOENT;
   std::vector<char*> argv;

@@ -29,8 +29,7 @@ int RunAndWait(UserInterface& ui, const std::string& command_line,
 // exit code (128 + the signal when a signal ended it), or on a failed start
 // the error code plus -2147221504. The window style (0 to 6) of the old
 // system has no meaning here.
-std::int32_t ShellAndWait(UserInterface& ui, const std::string& command_line,
-                          int window_style = 6);
+std::int32_t ShellAndWait(UserInterface& ui, const std::string& command_line, int window_style = 6);
 
 // Shows a text file in the desktop's text editor and returns at once. When no
 // editor can be started the user is told where to put one (`app_folder`).

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "expect_message.h"
 #include "foundation/scripted_ui.h"
 #include "test_files.h"
 
@@ -36,10 +37,8 @@ TEST(AskOpenFile, MissingFileIsRefusedWithItsMessage) {
   ui.Queue("/nonexistent/r.mtf");
   EXPECT_EQ(AskOpenFile(ui, "T", "", "", ""), "");
   ASSERT_EQ(ui.Messages().size(), 2u);
-  EXPECT_EQ(ui.Last().kind, "message");
-  EXPECT_EQ(ui.Last().text, "Le fic sélectionné n'existe pas, recommencer svp...");
-  EXPECT_EQ(ui.Last().title, "");
-  EXPECT_EQ(ui.Last().icon, MessageIcon::kNone);
+  ExpectLastMessage(ui, "Le fic sélectionné n'existe pas, recommencer svp...", "",
+                    MessageIcon::kNone);
 }
 
 TEST(AskSaveFile, NameNeedNotExist) {
@@ -82,10 +81,7 @@ TEST(AskConfirm, YesNoBoxWithDefaultTitle) {
   ScriptedUi ui;
   ui.QueueYes();
   EXPECT_TRUE(AskConfirm(ui, "Supprimer le scénario ?"));
-  EXPECT_EQ(ui.Last().kind, "yesno");
-  EXPECT_EQ(ui.Last().text, "Supprimer le scénario ?");
-  EXPECT_EQ(ui.Last().title, "Confirmation");
-  EXPECT_EQ(ui.Last().icon, MessageIcon::kQuestion);
+  ExpectLastMessage(ui, "Supprimer le scénario ?", "Confirmation", MessageIcon::kQuestion, "yesno");
   ui.QueueNo();
   EXPECT_FALSE(AskConfirm(ui, "Encore ?", "Suppression"));
   EXPECT_EQ(ui.Last().title, "Suppression");

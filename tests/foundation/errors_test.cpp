@@ -4,6 +4,7 @@
 
 #include <cerrno>
 
+#include "expect_message.h"
 #include "foundation/scripted_ui.h"
 
 namespace pluvane {
@@ -20,10 +21,8 @@ TEST(ShowError, DescriptionCarriageReturnContextAndNumberedTitle) {
   AppError error(53, "Fichier introuvable");
   ShowError(ui, &error, "GenFicLi1");
   ASSERT_EQ(ui.Messages().size(), 1u);
-  EXPECT_EQ(ui.Last().kind, "message");
-  EXPECT_EQ(ui.Last().text, "Fichier introuvable\rGenFicLi1");
-  EXPECT_EQ(ui.Last().title, "Pluvane (erreur n°53, L0)");
-  EXPECT_EQ(ui.Last().icon, MessageIcon::kExclamation);
+  ExpectLastMessage(ui, "Fichier introuvable\rGenFicLi1", "Pluvane (erreur n°53, L0)",
+                    MessageIcon::kExclamation);
 }
 
 TEST(ShowError, SourceAndLineOfTheError) {

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "expect_message.h"
 #include "foundation/scripted_ui.h"
 #include "test_files.h"
 
@@ -114,10 +115,7 @@ TEST(SplitLine, MissingClosingQuoteShowsItsMessageAndGivesZero) {
   EXPECT_EQ(SplitLine(ui, "a \"b c", e), 0);
   EXPECT_TRUE(e.empty());
   ASSERT_EQ(ui.Messages().size(), 1u);
-  EXPECT_EQ(ui.Last().kind, "message");
-  EXPECT_EQ(ui.Last().text, "Un 2eme guillemet manque pour l'element b c");
-  EXPECT_EQ(ui.Last().title, "");
-  EXPECT_EQ(ui.Last().icon, MessageIcon::kNone);
+  ExpectLastMessage(ui, "Un 2eme guillemet manque pour l'element b c", "", MessageIcon::kNone);
 }
 
 TEST(GetEline, ShortLineFillsZerosButNeverTheLastElement) {
@@ -163,9 +161,8 @@ TEST(GetEline, MissingQuoteBeepsShowsItsMessageAndKeepsTheRest) {
   EXPECT_EQ(e, (Elements{"1", "q", "r"}));
   EXPECT_EQ(ui.beeps, 1);
   ASSERT_EQ(ui.Messages().size(), 1u);
-  EXPECT_EQ(ui.Last().text, " Erreur dans GetEline.\r\n Un guillemet manquant dans la ligne abc def");
-  EXPECT_EQ(ui.Last().title, "");
-  EXPECT_EQ(ui.Last().icon, MessageIcon::kNone);
+  ExpectLastMessage(ui, " Erreur dans GetEline.\r\n Un guillemet manquant dans la ligne abc def",
+                    "", MessageIcon::kNone);
 }
 
 TEST(ReadQuoted, ReadsEachLineAndItsQuotedPart) {
@@ -212,11 +209,10 @@ TEST(FindQuotedKey, MissingFileShowsItsMessage) {
   ScriptedUi ui;
   EXPECT_FALSE(FindQuotedKey(ui, "/nonexistent/lib.sec", "x"));
   ASSERT_EQ(ui.Messages().size(), 1u);
-  EXPECT_EQ(ui.Last().text,
-            "Fichier /nonexistent/lib.sec introuvable!\n"
-            "Enregistrer les données et Quitter le programme!");
-  EXPECT_EQ(ui.Last().title, "");
-  EXPECT_EQ(ui.Last().icon, MessageIcon::kNone);
+  ExpectLastMessage(ui,
+                    "Fichier /nonexistent/lib.sec introuvable!\n"
+                    "Enregistrer les données et Quitter le programme!",
+                    "", MessageIcon::kNone);
 }
 
 }  // namespace

@@ -5,6 +5,7 @@
 
 #include <filesystem>
 
+#include "expect_message.h"
 #include "foundation/errors.h"
 #include "foundation/scripted_ui.h"
 #include "test_files.h"
@@ -233,9 +234,8 @@ TEST(vbFileKill, FailureShowsTheErrorAndGivesZero) {
   ScriptedUi ui;
   EXPECT_EQ(vbFileKill(ui, "/proc/self", "COMM"), 0);
   ASSERT_EQ(ui.Messages().size(), 1u);
-  EXPECT_EQ(ui.Last().text, "Permission refusée\rvbFileKill /proc/self/comm");
-  EXPECT_EQ(ui.Last().title, "Pluvane (erreur n°70, L0)");
-  EXPECT_EQ(ui.Last().icon, MessageIcon::kExclamation);
+  ExpectLastMessage(ui, "Permission refusée\rvbFileKill /proc/self/comm",
+                    "Pluvane (erreur n°70, L0)", MessageIcon::kExclamation);
 }
 
 TEST(vbFileKill, ReadOnlyFolderShowsTheError) {

@@ -5,6 +5,7 @@
 
 #include <filesystem>
 
+#include "expect_message.h"
 #include "foundation/scripted_ui.h"
 #include "test_files.h"
 
@@ -54,10 +55,9 @@ TEST(RunAndWait, FailedStartShowsTheCodeAndReturnsIt) {
   ScriptedUi ui;
   EXPECT_EQ(RunAndWait(ui, "/nonexistent/Velmar scenario", ""), 2);
   ASSERT_EQ(ui.Messages().size(), 1u);
-  EXPECT_EQ(ui.Last().text,
-            "Le fichier spécifié est introuvable.\rerreur no 2 (/nonexistent/Velmar scenario)");
-  EXPECT_EQ(ui.Last().title, "Pluvane (erreur n°2, L0)");
-  EXPECT_EQ(ui.Last().icon, MessageIcon::kExclamation);
+  ExpectLastMessage(
+      ui, "Le fichier spécifié est introuvable.\rerreur no 2 (/nonexistent/Velmar scenario)",
+      "Pluvane (erreur n°2, L0)", MessageIcon::kExclamation);
 }
 
 TEST(RunAndWait, MissingWorkingFolderIsAFailedStart) {
@@ -118,11 +118,10 @@ TEST(EditFile, NoEditorSaysWhereToPutOne) {
   ui.edit_file_succeeds = false;
   EXPECT_FALSE(EditFile(ui, "/data/r.msg", "/opt/pluvane"));
   ASSERT_EQ(ui.Messages().size(), 1u);
-  EXPECT_EQ(ui.Last().text,
-            "L'éditeur NotePad.exe ou WordPad.exe non trouvé dans votre système.\r\n"
-            "Placez-le dans le répertoire/opt/pluvane");
-  EXPECT_EQ(ui.Last().title, "Editer /data/r.msg");
-  EXPECT_EQ(ui.Last().icon, MessageIcon::kInformation);
+  ExpectLastMessage(ui,
+                    "L'éditeur NotePad.exe ou WordPad.exe non trouvé dans votre système.\r\n"
+                    "Placez-le dans le répertoire/opt/pluvane",
+                    "Editer /data/r.msg", MessageIcon::kInformation);
 }
 
 TEST(GetWinVersion, NoWindowsVersionHere) { EXPECT_EQ(GetWinVersion(), ""); }
