@@ -104,6 +104,11 @@ void ScriptedUi::ShowStatus(const std::string& text) { statuses_.push_back(text)
 
 void ScriptedUi::ShowProgress(int value) { progress_.push_back(value); }
 
+std::string ScriptedUi::PrintLines(const std::vector<std::string>& lines, double) {
+  if (print_error.empty()) printed.push_back(lines);
+  return print_error;
+}
+
 bool ScriptedUi::EditFile(const std::string& path) {
   edited_files_.push_back(path);
   return edit_file_succeeds;

@@ -44,6 +44,9 @@ class ScriptedUi : public UserInterface {
   std::function<void(const std::string&)> echo;
   // What EditFile answers.
   bool edit_file_succeeds = true;
+  // What PrintLines answers (empty: printed), and what it was given.
+  std::string print_error;
+  std::vector<std::vector<std::string>> printed;
 
   void ShowMessage(const std::string& text, const std::string& title, MessageIcon icon) override;
   bool AskYesNo(const std::string& text, const std::string& title, MessageIcon icon,
@@ -64,6 +67,7 @@ class ScriptedUi : public UserInterface {
   void ShowStatus(const std::string& text) override;
   void ShowProgress(int value) override;
   bool EditFile(const std::string& path) override;
+  std::string PrintLines(const std::vector<std::string>& lines, double point_size) override;
   void PumpEvents() override { ++pumps_; }
 
  private:

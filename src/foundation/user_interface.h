@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace pluvane {
 
@@ -62,6 +63,11 @@ class UserInterface {
   // Opens a text file for reading in a plain text editor and returns at once.
   // False when no editor could be started.
   virtual bool EditFile(const std::string& path) = 0;
+
+  // Prints lines of text, one printer line each, in the given type size, after
+  // the print dialog. Returns an empty text on success, else the description of
+  // what went wrong (the dialog cancelled included).
+  virtual std::string PrintLines(const std::vector<std::string>& lines, double point_size) = 0;
 
   // Lets pending events run during a long treatment (repaint, cancel button).
   virtual void PumpEvents() {}

@@ -8,6 +8,9 @@
 #include <QFontDialog>
 #include <QInputDialog>
 #include <QMessageBox>
+#include <QPainter>
+#include <QPrintDialog>
+#include <QPrinter>
 #include <QPushButton>
 #include <QUrl>
 
@@ -146,6 +149,31 @@ void QtUserInterface::ShowProgress(int value) {
 bool QtUserInterface::EditFile(const std::string& path) {
   if (!QFileInfo::exists(Q(path))) return false;
   return QDesktopServices::openUrl(QUrl::fromLocalFile(Q(path)));
+}
+
+std::string QtUserInterface::PrintLines(const std::vector<std::string>& lines,
+                                        double point_size) {
+  QPrinter printer;
+  QPrintDialog dialog(&printer, owner_);
+  if (dialog.exec() != QDialog::Accepted) return "Impression annulée";
+  QPainter painter;
+  if (!painter.begin(&printer)) return "L'imprimante ne répond pas";
+  QFont font("DejaVu Sans");
+  font.setPointSizeF(point_size);
+  painter.setFont(font);
+  const int line_height = painter.fontMetrics().lineSpacing();
+  const QRect page = printer.pageLayout().paintRectPixels(printer.resolution());
+  int y = line_height;
+  for (const auto& line : lines) {
+    if (y > page.height()) {
+      printer.newPage();
+      y = line_height;
+    }
+    painter.drawText(0, y, QString::fromStdString(line));
+    y += line_height;
+  }
+  painter.end();
+  return {};
 }
 
 void QtUserInterface::PumpEvents() { QApplication::processEvents(); }

@@ -38,6 +38,7 @@ class QtUserInterface : public UserInterface {
   void ShowStatus(const std::string& text) override;
   void ShowProgress(int value) override;
   bool EditFile(const std::string& path) override;
+  std::string PrintLines(const std::vector<std::string>& lines, double point_size) override;
   void PumpEvents() override;
   void Beep() override;
 
