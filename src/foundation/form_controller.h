@@ -1,0 +1,39 @@
+// The logic of a data-entry form, apart from any window: its caption, the
+// grids it owns, the commands of its buttons. A generic window shows any
+// controller; tests fill the grids, run a command and read what was said.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "foundation/grid.h"
+
+namespace pluvane {
+
+struct FormCommand {
+  std::string name;     // "cmdOk", "cmdAnnul", "mnSave"...
+  std::string caption;  // "&Ok", "Annuler"...
+  bool enabled = true;
+};
+
+class FormController {
+ public:
+  virtual ~FormController() = default;
+
+  virtual std::string Caption() const = 0;
+  virtual std::vector<Grid*> Grids() = 0;
+  virtual std::vector<FormCommand> Commands() const = 0;
+  // Runs the command of that name; unknown names do nothing.
+  virtual void Run(const std::string& command) = 0;
+
+  // True once a command has unloaded the form.
+  bool Closed() const { return closed_; }
+
+ protected:
+  void Close() { closed_ = true; }
+
+ private:
+  bool closed_ = false;
+};
+
+}  // namespace pluvane
