@@ -175,6 +175,8 @@ std::vector<int> Surface::InsertBatch(std::vector<SurfaceObject> objects, bool e
       numbers[i] = first + i;
       Attach(numbers[i], std::make_unique<SurfaceObject>(std::move(object)));
       journal_.Add(ExistsRecord{numbers[i], nullptr});
+      // A link read without its vertices runs between the centres of its ends.
+      if (link && Object(numbers[i])->shape.points.size() < 2) PlaceLinkEnds(numbers[i]);
     }
   }
   return numbers;
