@@ -331,22 +331,23 @@ bool ReadText(const Json& value, TextFormat& t) {
   });
 }
 
-bool ReadTags(const Json& value, TagNames& names, std::vector<Tag>& tags) {
-  if (!value.is_array()) return false;
-  tags.reserve(value.size());
-  for (const Json& pair : value) {
-    if (!pair.is_array() || pair.size() != 2 || !pair[0].is_string() || !pair[1].is_string())
-      return false;
-    tags.push_back(Tag{names.Intern(pair[0].get_ref<const std::string&>()),
-                       pair[1].get_ref<const std::string&>()});
-  }
+// The tags of a record: the index of the list read beside the tree.
+struct TagSource {
+  std::vector<std::vector<Tag>>& lists;
+};
+
+bool ReadTags(const Json& value, TagSource& source, std::vector<Tag>& tags) {
+  if (!value.is_number_unsigned()) return false;
+  const auto index = value.get<std::uint64_t>();
+  if (index >= source.lists.size()) return false;
+  tags = std::move(source.lists[index]);
   return true;
 }
 
-bool ReadObjectArray(const Json& value, TagNames& names, int depth,
+bool ReadObjectArray(const Json& value, TagSource& tags, int depth,
                      std::vector<SurfaceObject>& objects);
 
-bool ReadObject(const Json& value, TagNames& names, int depth, std::size_t position,
+bool ReadObject(const Json& value, TagSource& tags, int depth, std::size_t position,
                 SurfaceObject& object) {
   if (!value.is_object()) return false;
   // Kind first: which members are known depends on it.
@@ -370,14 +371,15 @@ bool ReadObject(const Json& value, TagNames& names, int depth, std::size_t posit
            GetInt32(member[3], s.box.bottom);
       has_box = true;
     } else if (key == "tags") {
-      ok = ReadTags(member, names, object.tags);
+      ok = ReadTags(member, tags, object.tags);
       has_tags = true;
     } else if (key == "ends" && link) {
       ok = member.is_array() && member.size() == 2 && GetInt32(member[0], object.ends[0]) &&
            GetInt32(member[1], object.ends[1]);
       has_ends = true;
-    } else if (key == "group" && group) {
-      ok = depth < kMaxGroupDepth && ReadObjectArray(member, names, depth + 1, s.children);
+    } else if (key == "group") {
+      // Only a group has one; elsewhere its tags could not be kept as they came.
+      ok = group && depth < kMaxGroupDepth && ReadObjectArray(member, tags, depth + 1, s.children);
     } else if (key == "layer") {
       ok = GetInt64(member, s.layer);
     } else if (key == "hidden") {
@@ -429,13 +431,13 @@ bool LinksBound(const std::vector<SurfaceObject>& objects) {
   return true;
 }
 
-bool ReadObjectArray(const Json& value, TagNames& names, int depth,
+bool ReadObjectArray(const Json& value, TagSource& tags, int depth,
                      std::vector<SurfaceObject>& objects) {
   if (!value.is_array()) return false;
   objects.reserve(value.size());
   for (const Json& entry : value) {
     objects.emplace_back();
-    if (!ReadObject(entry, names, depth, objects.size() - 1, objects.back())) return false;
+    if (!ReadObject(entry, tags, depth, objects.size() - 1, objects.back())) return false;
   }
   return LinksBound(objects);
 }
@@ -482,16 +484,126 @@ bool ReadPage(const Json& value, PageState& page, Json& extra) {
   return true;
 }
 
-Json Parse(std::string_view text) {
-  return Json::parse(text.begin(), text.end(), nullptr, false);
+// Builds the JSON tree of a file, except the tag lists of objects, which are
+// read straight into tags (they are most of a network file, and a tree of
+// them would cost more than the rest). A tag list stands in the tree as its
+// index in `tag_lists`.
+class TreeReader {
+ public:
+  TreeReader(Json& root, TagNames& names, std::vector<std::vector<Tag>>& tag_lists)
+      : tree_(root, false), names_(names), tag_lists_(tag_lists) {}
+
+  bool null() { return !in_tags_ && tree_.null(); }
+  bool boolean(bool v) { return !in_tags_ && tree_.boolean(v); }
+  bool number_integer(Json::number_integer_t v) { return !in_tags_ && tree_.number_integer(v); }
+  bool number_unsigned(Json::number_unsigned_t v) { return !in_tags_ && tree_.number_unsigned(v); }
+  bool number_float(Json::number_float_t v, const std::string& s) {
+    return !in_tags_ && tree_.number_float(v, s);
+  }
+  bool binary(Json::binary_t& v) { return !in_tags_ && tree_.binary(v); }
+  bool string(std::string& v) {
+    if (!in_tags_) return tree_.string(v);
+    if (tag_depth_ != 2 || pair_fill_ >= 2) return false;
+    if (pair_fill_++ == 0) {
+      tag_lists_.back().push_back(Tag{names_.Intern(v), {}});
+    } else {
+      tag_lists_.back().back().value = std::move(v);
+    }
+    return true;
+  }
+  bool start_object(std::size_t n) {
+    if (in_tags_) return false;
+    frames_.push_back(Frame{false, std::move(pending_key_)});
+    pending_key_.clear();
+    return tree_.start_object(n);
+  }
+  bool key(std::string& k) {
+    if (in_tags_) return false;
+    if (k == "tags" && InObjectRecord()) {
+      in_tags_ = true;
+      tag_depth_ = 0;
+      tag_lists_.emplace_back();
+    }
+    pending_key_ = k;
+    return tree_.key(k);
+  }
+  bool end_object() {
+    if (in_tags_) return false;
+    frames_.pop_back();
+    return tree_.end_object();
+  }
+  bool start_array(std::size_t n) {
+    if (in_tags_) {
+      if (tag_depth_ >= 2) return false;
+      ++tag_depth_;
+      pair_fill_ = 0;
+      return true;
+    }
+    frames_.push_back(Frame{true, std::move(pending_key_)});
+    pending_key_.clear();
+    return tree_.start_array(n);
+  }
+  bool end_array() {
+    if (in_tags_) {
+      if (tag_depth_ == 2) {
+        if (pair_fill_ != 2) return false;
+        tag_depth_ = 1;
+        return true;
+      }
+      if (tag_depth_ != 1) return false;
+      in_tags_ = false;
+      return tree_.number_unsigned(tag_lists_.size() - 1);
+    }
+    frames_.pop_back();
+    return tree_.end_array();
+  }
+  bool parse_error(std::size_t, const std::string&, const nlohmann::detail::exception&) {
+    return false;
+  }
+
+ private:
+  struct Frame {
+    bool array;
+    std::string key;
+  };
+  bool InObjectRecord() const { return IsRecord(frames_.size() - 1); }
+  // Whether frame i is an object record: an entry of the clipboard's list,
+  // of the file's object list, or of the group of a record.
+  bool IsRecord(std::size_t i) const {
+    if (i == 0 || i >= frames_.size() || frames_[i].array || !frames_[i - 1].array) return false;
+    const std::string& list = frames_[i - 1].key;
+    if (i == 1) return frames_[0].array;
+    if (i == 2) return !frames_[0].array && list == "objects";
+    return list == "group" && IsRecord(i - 2);
+  }
+
+  nlohmann::detail::json_sax_dom_parser<Json> tree_;
+  TagNames& names_;
+  std::vector<std::vector<Tag>>& tag_lists_;
+  std::vector<Frame> frames_;
+  std::string pending_key_;
+  bool in_tags_ = false;
+  int tag_depth_ = 0;
+  int pair_fill_ = 0;
+};
+
+// False when the text is not JSON; a tag list that is not a list of pairs of
+// texts makes it fail too.
+bool Parse(std::string_view text, TagNames& names, Json& root,
+           std::vector<std::vector<Tag>>& tag_lists) {
+  TreeReader reader(root, names, tag_lists);
+  return Json::sax_parse(text.begin(), text.end(), &reader, nlohmann::detail::input_format_t::json,
+                         true);
 }
 
 }  // namespace
 
 bool ReadNetworkDocument(std::string_view text, TagNames& names, NetworkDocument& document) {
   try {
-    const Json root = Parse(text);
-    if (!root.is_object()) return false;
+    Json root;
+    std::vector<std::vector<Tag>> tag_lists;
+    if (!Parse(text, names, root, tag_lists) || !root.is_object()) return false;
+    TagSource tags{tag_lists};
     auto format = root.find("format");
     if (format == root.end() || !format->is_string() || *format != kFormatName) return false;
     bool has_objects = false;
@@ -503,7 +615,7 @@ bool ReadNetworkDocument(std::string_view text, TagNames& names, NetworkDocument
       } else if (key == "page") {
         if (!ReadPage(value, document.page, document.page_extra)) return false;
       } else if (key == "objects") {
-        if (!ReadObjectArray(value, names, 0, document.objects)) return false;
+        if (!ReadObjectArray(value, tags, 0, document.objects)) return false;
         has_objects = true;
       } else {
         document.document_extra[key] = value;
@@ -517,7 +629,11 @@ bool ReadNetworkDocument(std::string_view text, TagNames& names, NetworkDocument
 
 bool ReadObjectList(std::string_view text, TagNames& names, std::vector<SurfaceObject>& objects) {
   try {
-    return ReadObjectArray(Parse(text), names, 0, objects);
+    Json root;
+    std::vector<std::vector<Tag>> tag_lists;
+    if (!Parse(text, names, root, tag_lists)) return false;
+    TagSource tags{tag_lists};
+    return ReadObjectArray(root, tags, 0, objects);
   } catch (const std::exception&) {
     return false;
   }

@@ -230,6 +230,10 @@ TEST_F(SurfaceFile, MalformedFilesAreRefusedWithoutChange) {
       {"link end out of range", R"({"format":"pluvane-network","objects":[{"kind":2,"box":[0,0,1,1],"tags":[]},{"kind":21,"ends":[0,2],"box":[0,0,1,1],"tags":[]}]})"},
       {"link end negative", R"({"format":"pluvane-network","objects":[{"kind":2,"box":[0,0,1,1],"tags":[]},{"kind":21,"ends":[-1,0],"box":[0,0,1,1],"tags":[]}]})"},
       {"link on itself", R"({"format":"pluvane-network","objects":[{"kind":2,"box":[0,0,1,1],"tags":[]},{"kind":21,"ends":[0,1],"box":[0,0,1,1],"tags":[]}]})"},
+      {"link to a link", R"({"format":"pluvane-network","objects":[{"kind":2,"box":[0,0,1,1],"tags":[]},{"kind":2,"box":[0,0,1,1],"tags":[]},{"kind":21,"ends":[0,1],"box":[0,0,1,1],"tags":[]},{"kind":21,"ends":[0,2],"box":[0,0,1,1],"tags":[]}]})"},
+      {"tags as text", R"({"format":"pluvane-network","objects":[{"kind":2,"box":[0,0,1,1],"tags":"a"}]})"},
+      {"tag pair of three", R"({"format":"pluvane-network","objects":[{"kind":2,"box":[0,0,1,1],"tags":[["a","b","c"]]}]})"},
+      {"group on a rectangle", R"({"format":"pluvane-network","objects":[{"kind":2,"box":[0,0,1,1],"tags":[],"group":[]}]})"},
       {"group child bad", R"({"format":"pluvane-network","objects":[{"kind":30,"box":[0,0,1,1],"tags":[],"group":[{"kind":2}]}]})"},
   };
   ASSERT_TRUE(surface_.LoadFile(kSmall, 0));
@@ -243,6 +247,18 @@ TEST_F(SurfaceFile, MalformedFilesAreRefusedWithoutChange) {
   }
   EXPECT_FALSE(surface_.LoadFile(Path("none.mtf"), 0));
   EXPECT_FALSE(surface_.LoadFile(folder_.string(), 0));
+}
+
+TEST_F(SurfaceFile, TagListsInsideUnknownMembersAreKeptAsTheyCame) {
+  WriteAll(Path("x.mtf"),
+           R"({"format":"pluvane-network","version":1,"objects":[{"kind":2,"box":[0,0,1,1],)"
+           R"("tags":[["Id","A"]],"note":{"tags":[["a","b"]]}}],"meta":{"objects":[{"tags":[]}]}})");
+  ASSERT_TRUE(surface_.LoadFile(Path("x.mtf"), 0));
+  ASSERT_TRUE(surface_.SaveFile(Path("y.mtf"), kNativeFormat, 0));
+  const std::string saved = ReadAll(Path("y.mtf"));
+  EXPECT_NE(saved.find(R"("note":{"tags":[["a","b"]]})"), std::string::npos);
+  EXPECT_NE(saved.find(R"("meta":{"objects":[{"tags":[]}]})"), std::string::npos);
+  EXPECT_NE(saved.find(R"("tags":[["Id","A"]])"), std::string::npos);
 }
 
 TEST_F(SurfaceFile, DeeplyNestedTextIsRefusedWithoutCrash) {
