@@ -1,11 +1,12 @@
 // Times the drawing on a large network: 100 000 objects with 20 tags each,
 // a whole FindByTag walk, 10 000 look-ups by Id, saving and loading.
+#include "network/surface.h"
+
 #include <chrono>
 #include <cstdio>
 #include <filesystem>
 #include <string>
 
-#include "network/surface.h"
 #include "network/surface_helpers.h"
 
 namespace {
@@ -40,7 +41,8 @@ int main() {
   start = std::chrono::steady_clock::now();
   int found = 0;
   surface.SetCurrentObject(pluvane::kPage);
-  for (int n = surface.FindByTag("iName", 99, true); n > 0; n = surface.FindByTag("iName", 99, false))
+  for (int n = surface.FindByTag("iName", 99, true); n > 0;
+       n = surface.FindByTag("iName", 99, false))
     ++found;
   std::printf("FindByTag walk (%d hits): %.1f ms\n", found, Milliseconds(start));
 

@@ -32,11 +32,21 @@ void AppendText(std::string& out, std::string_view text) {
   out += '"';
   for (char c : text) {
     switch (c) {
-      case '"': out += "\\\""; break;
-      case '\\': out += "\\\\"; break;
-      case '\n': out += "\\n"; break;
-      case '\r': out += "\\r"; break;
-      case '\t': out += "\\t"; break;
+      case '"':
+        out += "\\\"";
+        break;
+      case '\\':
+        out += "\\\\";
+        break;
+      case '\n':
+        out += "\\n";
+        break;
+      case '\r':
+        out += "\\r";
+        break;
+      case '\t':
+        out += "\\t";
+        break;
       default:
         if (static_cast<unsigned char>(c) < 0x20) {
           static const char kHex[] = "0123456789abcdef";
@@ -137,7 +147,8 @@ void AppendObject(std::string& out, const SurfaceObject& object, std::int64_t la
     }
     out += ']';
   }
-  if (std::any_of(s.markers.begin(), s.markers.end(), [](const Marker& m) { return !(m == kNoMarker); })) {
+  if (std::any_of(s.markers.begin(), s.markers.end(),
+                  [](const Marker& m) { return !(m == kNoMarker); })) {
     static const int kAt[] = {0, 1, 4};
     out += ",\"markers\":[";
     bool first = true;
@@ -191,7 +202,8 @@ void AppendObject(std::string& out, const SurfaceObject& object, std::int64_t la
     std::vector<const SurfaceObject*> children;
     for (const SurfaceObject& child : s.children) children.push_back(&child);
     out += ",\"group\":[";
-    AppendObjects(out, children, names, [](std::int32_t end) { return end; }, ",");
+    AppendObjects(
+        out, children, names, [](std::int32_t end) { return end; }, ",");
     out += ']';
   }
   out += ",\"tags\":[";
@@ -217,7 +229,8 @@ void AppendObjects(std::string& out, const std::vector<const SurfaceObject*>& ob
     return objects[a]->shape.layer < objects[b]->shape.layer;
   });
   std::vector<std::int64_t> rank(objects.size());
-  for (std::size_t r = 0; r < by_layer.size(); ++r) rank[by_layer[r]] = static_cast<std::int64_t>(r);
+  for (std::size_t r = 0; r < by_layer.size(); ++r)
+    rank[by_layer[r]] = static_cast<std::int64_t>(r);
   for (std::size_t i = 0; i < objects.size(); ++i) {
     if (i) out += separator;
     const std::int64_t layer = rank[i] == static_cast<std::int64_t>(i) ? -1 : rank[i];
@@ -695,8 +708,8 @@ std::string WriteNetworkDocument(const PageState& page, const Json& page_extra,
   return out;
 }
 
-std::string WriteObjectList(const std::vector<const SurfaceObject*>& objects,
-                            const TagNames& names, const EndPosition& end_position) {
+std::string WriteObjectList(const std::vector<const SurfaceObject*>& objects, const TagNames& names,
+                            const EndPosition& end_position) {
   std::string out = "[\n";
   AppendObjects(out, objects, names, end_position, ",\n");
   out += "\n]\n";

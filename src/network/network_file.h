@@ -8,11 +8,10 @@
 
 #include <cstdint>
 #include <functional>
+#include <nlohmann/json.hpp>
 #include <string>
 #include <string_view>
 #include <vector>
-
-#include <nlohmann/json.hpp>
 
 #include "network/surface_object.h"
 #include "network/tag_names.h"
@@ -40,7 +39,7 @@ std::string WriteNetworkDocument(const PageState& page, const nlohmann::ordered_
                                  const nlohmann::ordered_json& document_extra,
                                  const std::vector<const SurfaceObject*>& objects,
                                  const TagNames& names, const EndPosition& end_position);
-std::string WriteObjectList(const std::vector<const SurfaceObject*>& objects,
-                            const TagNames& names, const EndPosition& end_position);
+std::string WriteObjectList(const std::vector<const SurfaceObject*>& objects, const TagNames& names,
+                            const EndPosition& end_position);
 
 }  // namespace pluvane

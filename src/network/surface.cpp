@@ -94,13 +94,19 @@ const std::string* Surface::FirstId(const SurfaceObject& object) const {
   return nullptr;
 }
 
-// Called after a change of tags that may have touched the Id; `old_id` is
-// what the first Id was before (nullptr if none).
-void Surface::ReindexAround(int number, const std::string* old_id) {
-  SurfaceObject* object = Object(number);
+std::optional<std::string> Surface::IdOf(const SurfaceObject& object) const {
+  const std::string* id = FirstId(object);
+  return id ? std::optional<std::string>(*id) : std::nullopt;
+}
+
+// Called after a change of tags that may have touched the Id, with the first
+// Id as it was before.
+void Surface::ReindexAround(int number, const std::optional<std::string>& old_id) {
+  const SurfaceObject* object = Object(number);
   if (!object) return;
   const std::string* new_id = FirstId(*object);
   if (old_id && new_id && *old_id == *new_id) return;
+  if (!old_id && !new_id) return;
   if (old_id) {
     SurfaceObject ghost;
     ghost.tags.push_back(Tag{id_name_, *old_id});
@@ -155,9 +161,8 @@ std::vector<int> Surface::InsertBatch(std::vector<SurfaceObject> objects, bool e
   // Stacked above everything, keeping the order of their own layers.
   std::vector<int> order(objects.size());
   for (int i = 0; i < count; ++i) order[i] = i;
-  std::stable_sort(order.begin(), order.end(), [&](int a, int b) {
-    return objects[a].shape.layer < objects[b].shape.layer;
-  });
+  std::stable_sort(order.begin(), order.end(),
+                   [&](int a, int b) { return objects[a].shape.layer < objects[b].shape.layer; });
   for (int i : order) objects[i].shape.layer = ++top_layer_;
   // Ends first, so that every link finds its ends in place (undo detaches in
   // the reverse order, links first).
@@ -202,44 +207,27 @@ void Surface::WriteTag(int number, std::uint32_t name, std::string_view value) {
 }
 
 void Surface::WriteTagValue(int number, std::size_t position, std::string_view value) {
-  SurfaceObject* object = Object(number);
-  if (!object || position >= object->tags.size()) return;
-  Tag& tag = object->tags[position];
-  if (tag.value == value) return;
-  const bool id = tag.name == id_name_;
-  std::string old = std::move(tag.value);
-  tag.value = std::string(value);
-  if (id) ReindexAround(number, &old);  // harmless when it was not the first Id
-  if (!Fresh(*object))
-    journal_.Add(TagValueRecord{number, static_cast<std::uint32_t>(position), std::move(old)});
+  const SurfaceObject* object = Object(number);
+  if (!object || position >= object->tags.size() || object->tags[position].value == value) return;
+  Commit(TagValueRecord{number, static_cast<std::uint32_t>(position), std::string(value)}, *object);
 }
 
 void Surface::WriteTagName(int number, std::size_t position, std::uint32_t name) {
-  SurfaceObject* object = Object(number);
+  const SurfaceObject* object = Object(number);
   if (!object || position >= object->tags.size() || object->tags[position].name == name) return;
-  const std::string* first = FirstId(*object);
-  std::string old_id = first ? *first : std::string();
-  const bool had_id = first != nullptr;
-  const std::uint32_t old_name = object->tags[position].name;
-  object->tags[position].name = name;
-  if (old_name == id_name_ || name == id_name_) ReindexAround(number, had_id ? &old_id : nullptr);
-  if (!Fresh(*object))
-    journal_.Add(TagNameRecord{number, static_cast<std::uint32_t>(position), old_name});
+  Commit(TagNameRecord{number, static_cast<std::uint32_t>(position), name}, *object);
 }
 
 void Surface::ReplaceTagTail(int number, std::size_t position, std::vector<Tag> tail) {
-  SurfaceObject* object = Object(number);
+  const SurfaceObject* object = Object(number);
   if (!object || position > object->tags.size()) return;
-  const std::string* first = FirstId(*object);
-  std::string old_id = first ? *first : std::string();
-  const bool had_id = first != nullptr;
-  std::vector<Tag> old(std::make_move_iterator(object->tags.begin() + position),
-                       std::make_move_iterator(object->tags.end()));
-  object->tags.resize(position);
-  for (Tag& tag : tail) object->tags.push_back(std::move(tag));
-  ReindexAround(number, had_id ? &old_id : nullptr);
-  if (!Fresh(*object))
-    journal_.Add(TagTailRecord{number, static_cast<std::uint32_t>(position), std::move(old)});
+  Commit(TagTailRecord{number, static_cast<std::uint32_t>(position), std::move(tail)}, *object);
+}
+
+void Surface::Commit(JournalRecord record, const SurfaceObject& object) {
+  const bool fresh = Fresh(object);
+  Apply(record);
+  if (!fresh) journal_.Add(std::move(record));
 }
 
 // ---------------------------------------------------------------------------
@@ -259,27 +247,29 @@ void Surface::Apply(JournalRecord& record) {
     SurfaceObject* object = Object(value->number);
     if (!object || value->position >= object->tags.size()) return;
     Tag& tag = object->tags[value->position];
-    std::string old = tag.value;
+    if (tag.name != id_name_) {
+      std::swap(tag.value, value->value);
+      return;
+    }
+    const auto old_id = IdOf(*object);
     std::swap(tag.value, value->value);
-    if (tag.name == id_name_) ReindexAround(value->number, &old);
+    ReindexAround(value->number, old_id);
   } else if (auto* name = std::get_if<TagNameRecord>(&record)) {
     SurfaceObject* object = Object(name->number);
     if (!object || name->position >= object->tags.size()) return;
-    const std::string* first = FirstId(*object);
-    std::string old_id = first ? *first : std::string();
+    const auto old_id = IdOf(*object);
     std::swap(object->tags[name->position].name, name->name);
-    ReindexAround(name->number, first ? &old_id : nullptr);
+    ReindexAround(name->number, old_id);
   } else if (auto* tail = std::get_if<TagTailRecord>(&record)) {
     SurfaceObject* object = Object(tail->number);
     if (!object || tail->position > object->tags.size()) return;
-    const std::string* first = FirstId(*object);
-    std::string old_id = first ? *first : std::string();
+    const auto old_id = IdOf(*object);
     std::vector<Tag> old(std::make_move_iterator(object->tags.begin() + tail->position),
                          std::make_move_iterator(object->tags.end()));
     object->tags.resize(tail->position);
     for (Tag& tag : tail->tail) object->tags.push_back(std::move(tag));
     tail->tail = std::move(old);
-    ReindexAround(tail->number, first ? &old_id : nullptr);
+    ReindexAround(tail->number, old_id);
   } else if (auto* page = std::get_if<PageRecord>(&record)) {
     std::swap(page_, *page->page);
   }

@@ -13,6 +13,7 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -54,8 +55,12 @@ class Surface {
   // on 1 to every object.
   std::string ObjTag(std::string_view name) const;
   void SetObjTag(std::string_view name, std::string_view value);
-  void SetObjTag(std::string_view name, const char* value) { SetObjTag(name, std::string_view(value)); }
-  void SetObjTag(std::string_view name, const std::string& value) { SetObjTag(name, std::string_view(value)); }
+  void SetObjTag(std::string_view name, const char* value) {
+    SetObjTag(name, std::string_view(value));
+  }
+  void SetObjTag(std::string_view name, const std::string& value) {
+    SetObjTag(name, std::string_view(value));
+  }
   void SetObjTag(std::string_view name, double value);
   void SetObjTag(std::string_view name, int value) { SetObjTag(name, static_cast<double>(value)); }
   // Searches in creation order for an object whose tag equals `value` (a number
@@ -330,11 +335,15 @@ class Surface {
   std::unique_ptr<SurfaceObject> Detach(int number);
   void IndexIds(int number, const SurfaceObject& object, bool add);
   const std::string* FirstId(const SurfaceObject& object) const;
-  void ReindexAround(int number, const std::string* old_id);
+  std::optional<std::string> IdOf(const SurfaceObject& object) const;
+  void ReindexAround(int number, const std::optional<std::string>& old_id);
+  // Applies a change made as a record, and keeps the record for undo unless
+  // the object was created in the open step.
+  void Commit(JournalRecord record, const SurfaceObject& object);
   void Reset();
 
   TagNames names_;
-  std::uint32_t id_name_;  // the interned "Id"
+  std::uint32_t id_name_;                              // the interned "Id"
   std::vector<std::unique_ptr<SurfaceObject>> slots_;  // by number - base_
   int base_ = kFirstObjectNumber;
   int live_count_ = 0;

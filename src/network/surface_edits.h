@@ -23,11 +23,11 @@ class Surface::Step {
 
 template <typename Edit>
 void Surface::EditShape(int number, Edit edit) {
-  SurfaceObject* object = number == kDefaults ? &defaults_ : Object(number);
+  const SurfaceObject* object = number == kDefaults ? &defaults_ : Object(number);
   if (!object) return;
-  if (!Fresh(*object))
-    journal_.Add(ShapeRecord{number, std::make_unique<Shape>(object->shape)});
-  edit(object->shape);
+  auto shape = std::make_unique<Shape>(object->shape);
+  edit(*shape);
+  Commit(ShapeRecord{number, std::move(shape)}, *object);
 }
 
 template <typename Edit>
@@ -43,8 +43,11 @@ void Surface::EditStyle(Edit edit) {
 template <typename Edit>
 void Surface::EditPage(Edit edit) {
   Step step(*this);
-  journal_.Add(PageRecord{std::make_unique<PageState>(page_)});
-  edit(page_);
+  auto page = std::make_unique<PageState>(page_);
+  edit(*page);
+  JournalRecord record = PageRecord{std::move(page)};
+  Apply(record);
+  journal_.Add(std::move(record));
 }
 
 }  // namespace pluvane

@@ -91,8 +91,7 @@ std::string Surface::CopySelection(int mode) const {
   }
   return WriteObjectList(kept, names_, [&](std::int32_t number) {
     return static_cast<std::int32_t>(
-        std::lower_bound(kept_numbers.begin(), kept_numbers.end(), number) -
-        kept_numbers.begin());
+        std::lower_bound(kept_numbers.begin(), kept_numbers.end(), number) - kept_numbers.begin());
   });
 }
 

@@ -14,8 +14,7 @@ constexpr int kNodeKind = 99;
 // Puts the cursor back on leaving, as every helper must.
 class CursorKeeper {
  public:
-  explicit CursorKeeper(Surface& surface)
-      : surface_(surface), saved_(surface.CurrentObject()) {}
+  explicit CursorKeeper(Surface& surface) : surface_(surface), saved_(surface.CurrentObject()) {}
   ~CursorKeeper() {
     if (restore_) surface_.SetCurrentObject(saved_);
   }
@@ -29,8 +28,7 @@ class CursorKeeper {
 
 // Calls `visit` on every match in creation order, with the match current.
 template <typename Visit>
-void ForEachMatch(Surface& surface, std::string_view tag_name, const TagMatch& value,
-                  Visit visit) {
+void ForEachMatch(Surface& surface, std::string_view tag_name, const TagMatch& value, Visit visit) {
   for (int n = surface.FindByTag(tag_name, value, true); n > 0;
        n = surface.FindByTag(tag_name, value, false)) {
     visit(n);

@@ -19,8 +19,7 @@ namespace pluvane {
 // 0 if none, and the cursor is put back. Searches on "Id" go through the index.
 int FindObject(Surface& surface, std::string_view tag_name, const TagMatch& value);
 // The numbers of all such objects (their count is the size).
-std::vector<int> FindObjectList(Surface& surface, std::string_view tag_name,
-                                const TagMatch& value);
+std::vector<int> FindObjectList(Surface& surface, std::string_view tag_name, const TagMatch& value);
 int CountByTag(Surface& surface, std::string_view tag_name, const TagMatch& value);
 // Objects of a kind of element (tag iName).
 int CountByName(Surface& surface, int i_name);

@@ -4,9 +4,20 @@ namespace pluvane {
 
 bool IsKnownKind(int kind) {
   switch (kind) {
-    case kKindLine: case kKindRectangle: case kKindEllipse: case kKindArc: case kKindPie:
-    case kKindChord: case kKindPolyline: case kKindPolygon: case kKindText: case kKindPicture:
-    case kKindBezier: case kKindLink: case kKindDimension: case kKindGroup:
+    case kKindLine:
+    case kKindRectangle:
+    case kKindEllipse:
+    case kKindArc:
+    case kKindPie:
+    case kKindChord:
+    case kKindPolyline:
+    case kKindPolygon:
+    case kKindText:
+    case kKindPicture:
+    case kKindBezier:
+    case kKindLink:
+    case kKindDimension:
+    case kKindGroup:
       return true;
     default:
       return false;

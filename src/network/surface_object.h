@@ -8,10 +8,9 @@
 #include <array>
 #include <cstdint>
 #include <memory>
+#include <nlohmann/json.hpp>
 #include <string>
 #include <vector>
-
-#include <nlohmann/json.hpp>
 
 namespace pluvane {
 
@@ -94,7 +93,7 @@ struct Shape {
   std::vector<Point> points;
   std::array<Marker, 3> markers;  // ends 0 and 1, then the middle
   TextFormat text;
-  std::int64_t layer = 0;  // stacking: the highest is drawn on top
+  std::int64_t layer = 0;               // stacking: the highest is drawn on top
   std::vector<SurfaceObject> children;  // a group's objects, links bound by position
 };
 
@@ -110,7 +109,7 @@ struct SurfaceObject {
   // For a link: the two end objects. Object numbers in the drawing; positions
   // among the siblings inside a group or in a file being read.
   std::array<std::int32_t, 2> ends = {0, 0};
-  nlohmann::ordered_json extra;         // members of the file we do not know
+  nlohmann::ordered_json extra;  // members of the file we do not know
   // Bookkeeping of the drawing, never saved.
   std::vector<std::int32_t> links;  // links bound to this object, ascending
   std::uint64_t born_step = 0;

@@ -96,8 +96,8 @@ void Surface::SetLogicHeight(std::int32_t value) {
   EditPage([value](PageState& p) { p.logic_height = value; });
 }
 
-void Surface::SetScale(std::int32_t left, std::int32_t top, std::int32_t width,
-                       std::int32_t height, int flags) {
+void Surface::SetScale(std::int32_t left, std::int32_t top, std::int32_t width, std::int32_t height,
+                       int flags) {
   EditPage([&](PageState& p) {
     p.logic_left = left;
     p.logic_top = top;

@@ -8,8 +8,8 @@ namespace {
 class SurfaceGeometry : public ::testing::Test {
  protected:
   void SetUp() override {
-    a_ = surface_.AddObject(kKindPicture, 0, 0, 100, 100);       // centre (50, 50)
-    b_ = surface_.AddObject(kKindPicture, 1000, 0, 1100, 100);   // centre (1050, 50)
+    a_ = surface_.AddObject(kKindPicture, 0, 0, 100, 100);         // centre (50, 50)
+    b_ = surface_.AddObject(kKindPicture, 1000, 0, 1100, 100);     // centre (1050, 50)
     c_ = surface_.AddObject(kKindPicture, 1000, 900, 1100, 1100);  // centre (1050, 1000)
     ab_ = surface_.AddLink(a_, b_);
     bc_ = surface_.AddLink(b_, c_);
@@ -237,8 +237,8 @@ TEST_F(SurfaceGeometry, BringToFrontAndSendBehind) {
   const std::int64_t front = surface_.ObjectShape(a_)->layer;
   for (int n : {b_, c_, ab_, bc_}) EXPECT_LT(surface_.ObjectShape(n)->layer, front);
   surface_.Arrange(2);
-  for (int n : {b_, c_, ab_, bc_}) EXPECT_GT(surface_.ObjectShape(n)->layer,
-                                             surface_.ObjectShape(a_)->layer);
+  for (int n : {b_, c_, ab_, bc_})
+    EXPECT_GT(surface_.ObjectShape(n)->layer, surface_.ObjectShape(a_)->layer);
   EXPECT_TRUE(surface_.Arrange(10));
   EXPECT_FALSE(surface_.Arrange(7));
 }

@@ -7,8 +7,7 @@ namespace {
 
 class SurfaceHelpers : public ::testing::Test {
  protected:
-  int Add(int i_name, const std::string& id, const std::string& label,
-          std::int32_t size = 100) {
+  int Add(int i_name, const std::string& id, const std::string& label, std::int32_t size = 100) {
     const int n = surface_.AddObject(kKindPicture, 0, 0, size, size);
     surface_.SetObjTag("iName", i_name);
     surface_.SetObjTag("Id", id);
