@@ -2,17 +2,15 @@
 
 #include <gtest/gtest.h>
 
+#include "add_element.h"
+
 namespace pluvane {
 namespace {
 
 class SurfaceHelpers : public ::testing::Test {
  protected:
   int Add(int i_name, const std::string& id, const std::string& label, std::int32_t size = 100) {
-    const int n = surface_.AddObject(kKindPicture, 0, 0, size, size);
-    surface_.SetObjTag("iName", i_name);
-    surface_.SetObjTag("Id", id);
-    surface_.SetObjTag("libell", label);
-    return n;
+    return AddElement(surface_, i_name, id, label, size);
   }
   Surface surface_;
 };

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "add_element.h"
 #include "foundation/numbers.h"
 #include "network/surface.h"
 
@@ -10,11 +11,7 @@ namespace {
 class SurfaceTags : public ::testing::Test {
  protected:
   int AddElement(int i_name, const std::string& id) {
-    const int n = surface_.AddObject(kKindPicture, 0, 0, 100, 100);
-    surface_.SetObjTag("iName", i_name);
-    surface_.SetObjTag("Id", id);
-    surface_.SetObjTag("libell", id);
-    return n;
+    return pluvane::AddElement(surface_, i_name, id);
   }
   Surface surface_;
 };
