@@ -1,0 +1,44 @@
+// The small helpers that the whole program uses on the drawing: searches and
+// counts by tag, selection and deletion by tag, the largest Id number of a
+// kind, centres and the size of new symbols. Each one puts CurrentObject back
+// as it found it, except FindObject and FindObject2, which leave the object
+// found current.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "network/surface.h"
+#include "network/tag_match.h"
+
+namespace pluvane {
+
+// First object, in creation order, whose tag has the value; it stays current.
+// 0 if none, and the cursor is put back. Searches on "Id" go through the index.
+int FindObject(Surface& surface, std::string_view tag_name, const TagMatch& value);
+// The numbers of all such objects (their count is the size).
+std::vector<int> FindObjectList(Surface& surface, std::string_view tag_name, const TagMatch& value);
+int CountByTag(Surface& surface, std::string_view tag_name, const TagMatch& value);
+// Objects of a kind of element (tag iName).
+int CountByName(Surface& surface, int i_name);
+// Objects of the kind whose libell is `label`, compared without regard to case.
+int CountLabel(Surface& surface, int i_name, std::string_view label);
+// Replaces the selection by every match; returns how many.
+int SelectByTag(Surface& surface, std::string_view tag_name, const TagMatch& value);
+// Deletes every object whose Id is `id` (with its links); returns how many.
+int DeleteByTagId(Surface& surface, std::string_view id);
+// First object with both values; it stays current. 0 if none.
+int FindObject2(Surface& surface, std::string_view tag1, const TagMatch& value1,
+                std::string_view tag2, const TagMatch& value2);
+// The largest number after the first underscore of Id over the objects of the
+// kind ("Rsp_4" gives 4); 0 if none, or if that largest is negative.
+int MaxIdNumber(Surface& surface, int i_name);
+// The centre of an object, ((left + right) / 2, (top + bottom) / 2).
+std::pair<double, double> ObjectCentre(const Surface& surface, int number);
+// Half the width of the first node (iName 99) if that is at least 1; else
+// `symbol_size` if a node exists; with no node, the height of the view / 150.
+double NodeHalfSize(Surface& surface, double symbol_size);
+
+}  // namespace pluvane

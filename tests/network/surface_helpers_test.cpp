@@ -1,0 +1,143 @@
+#include "network/surface_helpers.h"
+
+#include <gtest/gtest.h>
+
+#include "add_element.h"
+
+namespace pluvane {
+namespace {
+
+class SurfaceHelpers : public ::testing::Test {
+ protected:
+  int Add(int i_name, const std::string& id, const std::string& label, std::int32_t size = 100) {
+    return AddElement(surface_, i_name, id, label, size);
+  }
+  Surface surface_;
+};
+
+TEST_F(SurfaceHelpers, FindObjectLeavesTheHitCurrentAndTheCursorOnAMiss) {
+  Add(99, "Nod_1", "N1");
+  const int b = Add(5, "Cac_1", "C1");
+  const int c = Add(5, "Cac_2", "C2");
+  surface_.SetCurrentObject(c);
+  EXPECT_EQ(FindObject(surface_, "Id", "Cac_1"), b);
+  EXPECT_EQ(surface_.CurrentObject(), b);
+  EXPECT_EQ(FindObject(surface_, "iName", 5), b);
+  surface_.SetCurrentObject(c);
+  EXPECT_EQ(FindObject(surface_, "Id", "Cac_9"), 0);
+  EXPECT_EQ(surface_.CurrentObject(), c);
+  EXPECT_EQ(FindObject(surface_, "libell", "C9"), 0);
+  EXPECT_EQ(surface_.CurrentObject(), c);
+}
+
+TEST_F(SurfaceHelpers, FindObjectByIdGivesTheFirstInCreationOrder) {
+  const int a = Add(5, "Cac_1", "C1");
+  Add(5, "Cac_1", "C1 bis");
+  EXPECT_EQ(FindObject(surface_, "Id", "Cac_1"), a);
+  surface_.SetCurrentObject(a);
+  surface_.SetObjTag("Id", "Cac_2");
+  EXPECT_EQ(FindObject(surface_, "Id", "Cac_1"), a + 1);
+}
+
+TEST_F(SurfaceHelpers, ListsAndCountsPutTheCursorBack) {
+  const int a = Add(99, "Nod_1", "N1");
+  const int b = Add(5, "Cac_1", "c1");
+  const int c = Add(99, "Nod_2", "N2");
+  surface_.SetCurrentObject(b);
+  EXPECT_EQ(FindObjectList(surface_, "iName", 99), (std::vector<int>{a, c}));
+  EXPECT_EQ(CountByTag(surface_, "iName", 99), 2);
+  EXPECT_EQ(CountByName(surface_, 5), 1);
+  EXPECT_EQ(CountByName(surface_, 7), 0);
+  EXPECT_EQ(CountLabel(surface_, 5, "C1"), 1);
+  EXPECT_EQ(CountLabel(surface_, 99, "c1"), 0);
+  EXPECT_EQ(surface_.CurrentObject(), b);
+  surface_.SetCurrentObject(kPage);
+  CountByTag(surface_, "iName", 99);
+  EXPECT_EQ(surface_.CurrentObject(), kPage);
+}
+
+TEST_F(SurfaceHelpers, CountLabelIgnoresCaseOfAccentedLetters) {
+  Add(5, "Cac_1", "collecteur été");
+  EXPECT_EQ(CountLabel(surface_, 5, "COLLECTEUR ÉTÉ"), 1);
+}
+
+TEST_F(SurfaceHelpers, SelectByTagReplacesTheSelection) {
+  const int a = Add(5, "Cac_1", "C1");
+  const int b = Add(5, "Cac_1", "C1");
+  const int c = Add(99, "Nod_1", "N1");
+  surface_.SetCurrentObject(c);
+  surface_.SetSelected(true);
+  EXPECT_EQ(SelectByTag(surface_, "Id", "Cac_1"), 2);
+  EXPECT_EQ(surface_.ObjectCount(kSelection), 2);
+  EXPECT_EQ(surface_.CurrentObject(), c);
+  EXPECT_FALSE(surface_.Selected());
+  surface_.SetCurrentObject(a);
+  EXPECT_TRUE(surface_.Selected());
+  surface_.SetCurrentObject(b);
+  EXPECT_TRUE(surface_.Selected());
+}
+
+TEST_F(SurfaceHelpers, DeleteByTagIdTakesEveryDoubletAndTheirLinks) {
+  const int a = Add(99, "Nod_1", "N1");
+  const int b = Add(99, "Nod_1", "N1");
+  const int c = Add(99, "Nod_2", "N2");
+  surface_.AddLink(a, c);
+  surface_.AddLink(c, b);
+  surface_.SetCurrentObject(c);
+  EXPECT_EQ(DeleteByTagId(surface_, "Nod_1"), 2);
+  EXPECT_EQ(surface_.ObjectCount(kPage), 1);
+  EXPECT_EQ(surface_.CurrentObject(), c);
+  EXPECT_EQ(surface_.NodeLinkCount(), 0);
+  EXPECT_EQ(DeleteByTagId(surface_, "Nod_1"), 0);
+  surface_.Undo();
+  EXPECT_EQ(surface_.ObjectCount(kPage), 5);
+}
+
+TEST_F(SurfaceHelpers, FindObject2NeedsBothValues) {
+  Add(5, "Cac_1", "A");
+  const int b = Add(6, "Caf_1", "A");
+  EXPECT_EQ(FindObject2(surface_, "libell", "A", "iName", 6), b);
+  EXPECT_EQ(surface_.CurrentObject(), b);
+  surface_.SetCurrentObject(kPage);
+  EXPECT_EQ(FindObject2(surface_, "libell", "A", "iName", 7), 0);
+  EXPECT_EQ(surface_.CurrentObject(), kPage);
+}
+
+TEST_F(SurfaceHelpers, MaxIdNumberReadsAfterTheFirstUnderscore) {
+  Add(11, "Rsp_4", "R4");
+  Add(11, "Rsp_2", "R2");
+  Add(11, "Rsp", "R");
+  Add(10, "Rs_40", "R40");
+  EXPECT_EQ(MaxIdNumber(surface_, 11), 4);
+  EXPECT_EQ(MaxIdNumber(surface_, 10), 40);
+  EXPECT_EQ(MaxIdNumber(surface_, 5), 0);
+  Add(12, "Plu_x_7", "P");
+  EXPECT_EQ(MaxIdNumber(surface_, 12), 0);
+  Add(13, "Tr_-3", "T");
+  EXPECT_EQ(MaxIdNumber(surface_, 13), 0);
+  Add(5, "Cac_57", "C");
+  Add(5, "Cac_9", "C");
+  EXPECT_EQ(MaxIdNumber(surface_, 5), 57);
+}
+
+TEST_F(SurfaceHelpers, ObjectCentreIsTheMiddleOfTheBox) {
+  const int n = surface_.AddObject(kKindRectangle, 10, 20, 31, 40);
+  EXPECT_EQ(ObjectCentre(surface_, n), std::make_pair(20.5, 30.0));
+  EXPECT_EQ(ObjectCentre(surface_, 999), std::make_pair(0.0, 0.0));
+}
+
+TEST_F(SurfaceHelpers, NodeHalfSizeFromTheFirstNodeOrTheSymbolSizeOrTheView) {
+  surface_.SetViewHeight(30000);
+  EXPECT_EQ(NodeHalfSize(surface_, 75), 200);
+  const int tiny = Add(99, "Nod_1", "N1", 1);
+  EXPECT_EQ(NodeHalfSize(surface_, 75), 75);
+  surface_.DeleteObject(tiny);
+  Add(5, "Cac_1", "C1", 400);
+  Add(99, "Nod_2", "N2", 60);
+  surface_.SetCurrentObject(kDefaults);
+  EXPECT_EQ(NodeHalfSize(surface_, 75), 30);
+  EXPECT_EQ(surface_.CurrentObject(), kDefaults);
+}
+
+}  // namespace
+}  // namespace pluvane
