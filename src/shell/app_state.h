@@ -47,6 +47,8 @@ struct AppState {
   // Next-number counters per iName, index 1 to 99 (index 0 unused).
   std::array<std::int32_t, 100> ElementCounters{};
   std::int32_t NodeCount = 1;
+  // The number chosen for the reach being created, 0 when none is pending.
+  std::int32_t PendingReach = 0;
   // The decimal mark of the user's locale found at start, given back at exit.
   std::string SavedDecimal;
   // The locale name of LC_NUMERIC found at start.
