@@ -20,6 +20,7 @@ void ScriptedUi::Clear() {
   statuses_.clear();
   progress_.clear();
   edited_files_.clear();
+  panels_.clear();
 }
 
 void ScriptedUi::Record(const std::string& kind, const std::string& text,
@@ -103,6 +104,22 @@ std::optional<FontChoice> ScriptedUi::ChooseFont(const FontChoice& initial) {
 void ScriptedUi::ShowStatus(const std::string& text) { statuses_.push_back(text); }
 
 void ScriptedUi::ShowProgress(int value) { progress_.push_back(value); }
+
+void ScriptedUi::ShowPanel(const std::string& panel, const std::string& text) {
+  panels_.emplace_back(panel, text);
+}
+
+std::string ScriptedUi::Panel(const std::string& panel) const {
+  for (auto it = panels_.rbegin(); it != panels_.rend(); ++it) {
+    if (it->first == panel) return it->second;
+  }
+  return {};
+}
+
+bool ScriptedUi::SaveDrawingPicture(const std::string& path) {
+  saved_pictures_.push_back(path);
+  return picture_succeeds;
+}
 
 std::string ScriptedUi::PrintLines(const std::vector<std::string>& lines, double) {
   if (print_error.empty()) printed.push_back(lines);

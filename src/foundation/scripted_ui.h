@@ -38,10 +38,15 @@ class ScriptedUi : public UserInterface {
   const std::vector<int>& Progress() const { return progress_; }
   const std::vector<std::string>& EditedFiles() const { return edited_files_; }
   int PumpCount() const { return pumps_; }
+  // The last text shown in each panel ("caption", "sbrSCN"...).
+  std::string Panel(const std::string& panel) const;
+  const std::vector<std::string>& SavedPictures() const { return saved_pictures_; }
 
   // Called with "title: text" for each message and question (the command line
   // prints it to standard error).
   std::function<void(const std::string&)> echo;
+  // What SaveDrawingPicture answers.
+  bool picture_succeeds = true;
   // What EditFile answers.
   bool edit_file_succeeds = true;
   // What PrintLines answers (empty: printed), and what it was given.
@@ -66,6 +71,8 @@ class ScriptedUi : public UserInterface {
   std::optional<FontChoice> ChooseFont(const FontChoice& initial) override;
   void ShowStatus(const std::string& text) override;
   void ShowProgress(int value) override;
+  void ShowPanel(const std::string& panel, const std::string& text) override;
+  bool SaveDrawingPicture(const std::string& path) override;
   bool EditFile(const std::string& path) override;
   std::string PrintLines(const std::vector<std::string>& lines, double point_size) override;
   void PumpEvents() override { ++pumps_; }
@@ -81,6 +88,8 @@ class ScriptedUi : public UserInterface {
   std::vector<std::string> statuses_;
   std::vector<int> progress_;
   std::vector<std::string> edited_files_;
+  std::vector<std::pair<std::string, std::string>> panels_;
+  std::vector<std::string> saved_pictures_;
   int pumps_ = 0;
 };
 

@@ -59,6 +59,12 @@ class UserInterface {
   // a negative value hides the bar).
   virtual void ShowStatus(const std::string& text) = 0;
   virtual void ShowProgress(int value) = 0;
+  // Other texts of the main window: "caption" (the window title), "sbrXY" and
+  // "sbrSCN" (status panels). An empty "sbrSCN" hides that panel.
+  virtual void ShowPanel(const std::string& panel, const std::string& text) = 0;
+  // Writes the drawing as a picture (SVG, PDF or PNG by the extension); false
+  // when it could not be written or no picture writer exists here.
+  virtual bool SaveDrawingPicture(const std::string& path) = 0;
 
   // Opens a text file for reading in a plain text editor and returns at once.
   // False when no editor could be started.

@@ -62,6 +62,10 @@ struct AppState {
   // Polygon input buffer of the user, reserved at start.
   std::int32_t PointBufferSize = 0;
   Calibration calibration;
+  // Size of the drawing's client area in pixels, kept up to date by the view;
+  // zooms to a rectangle fit the rectangle into it.
+  std::int32_t ClientWidth = 1000;
+  std::int32_t ClientHeight = 750;
 
   // Derived from the network and the scenario for a model generation.
   std::string NetworkBase;

@@ -146,6 +146,14 @@ void QtUserInterface::ShowProgress(int value) {
   if (progress_sink) progress_sink(value);
 }
 
+void QtUserInterface::ShowPanel(const std::string& panel, const std::string& text) {
+  if (panel_sink) panel_sink(panel, text);
+}
+
+bool QtUserInterface::SaveDrawingPicture(const std::string& path) {
+  return picture_writer && picture_writer(path);
+}
+
 bool QtUserInterface::EditFile(const std::string& path) {
   if (!QFileInfo::exists(Q(path))) return false;
   return QDesktopServices::openUrl(QUrl::fromLocalFile(Q(path)));

@@ -18,6 +18,8 @@ class QtUserInterface : public UserInterface {
   // Where ShowStatus and ShowProgress go; the main window sets them.
   std::function<void(const std::string&)> status_sink;
   std::function<void(int)> progress_sink;
+  std::function<void(const std::string&, const std::string&)> panel_sink;
+  std::function<bool(const std::string&)> picture_writer;
 
   void ShowMessage(const std::string& text, const std::string& title, MessageIcon icon) override;
   bool AskYesNo(const std::string& text, const std::string& title, MessageIcon icon,
@@ -37,6 +39,8 @@ class QtUserInterface : public UserInterface {
   std::optional<FontChoice> ChooseFont(const FontChoice& initial) override;
   void ShowStatus(const std::string& text) override;
   void ShowProgress(int value) override;
+  void ShowPanel(const std::string& panel, const std::string& text) override;
+  bool SaveDrawingPicture(const std::string& path) override;
   bool EditFile(const std::string& path) override;
   std::string PrintLines(const std::vector<std::string>& lines, double point_size) override;
   void PumpEvents() override;

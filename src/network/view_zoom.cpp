@@ -1,0 +1,78 @@
+#include "network/view_zoom.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+#include "foundation/numbers.h"
+
+namespace pluvane {
+
+double ZoomFactorOfView(const Surface& surface) {
+  const double w = surface.LogicWidth() > 0 ? surface.ViewWidth() / surface.LogicWidth() : 1;
+  const double h = surface.LogicHeight() > 0 ? surface.ViewHeight() / surface.LogicHeight() : 1;
+  return std::max(w, h);
+}
+
+bool ZoomToRect(Surface& surface, AppState& state, double left, double top, double right,
+                double bottom) {
+  const double dx = std::fabs(right - left), dy = std::fabs(bottom - top);
+  if (dx < 2 || dy < 2) return false;
+  const double client_w = std::max<std::int32_t>(state.ClientWidth, 1);
+  const double client_h = std::max<std::int32_t>(state.ClientHeight, 1);
+  // Logical units per pixel that fit the rectangle in both directions.
+  const double per_pixel = std::max(dy / client_h, dx / client_w);
+  if (state.LogicWidth * per_pixel >= std::numeric_limits<std::int32_t>::max()) return false;
+  surface.SetAutoScale(0);
+  surface.SetViewLeft(std::min(left, right));
+  surface.SetViewTop(std::min(top, bottom));
+  surface.SetViewWidth(per_pixel * client_w);
+  surface.SetViewHeight(per_pixel * client_h);
+  state.ZoomFactor = ZoomFactorOfView(surface);
+  surface.Refresh();
+  return true;
+}
+
+bool ZoomToBounds(Surface& surface, AppState& state) {
+  const bool redraw = surface.Redraw();
+  surface.SetRedraw(false);
+  const int saved = surface.CurrentObject();
+  bool any = false;
+  std::int32_t l = 0, t = 0, r = 0, b = 0;
+  surface.SetCurrentObject(kPage);
+  for (int n = surface.FirstObject(); n > 10; n = surface.NextObject()) {
+    const double i_name = Val(surface.ObjTag("iName"));
+    if (i_name <= 0 || i_name >= 100) continue;
+    std::int32_t ol, ot, orr, ob;
+    surface.GetObjectBounds(ol, ot, orr, ob);
+    if (!any) {
+      l = ol, t = ot, r = orr, b = ob;
+      any = true;
+    } else {
+      l = std::min(l, ol), t = std::min(t, ot), r = std::max(r, orr), b = std::max(b, ob);
+    }
+  }
+  surface.SetCurrentObject(saved);
+  bool zoomed = false;
+  if (any) {
+    double margin = 0;
+    if (surface.ScrollBars() != 0) {
+      const double per_pixel = surface.ViewHeight() / std::max<std::int32_t>(state.ClientHeight, 1);
+      margin = 3 * state.ClientHeight * per_pixel;
+    }
+    // A single point still gets a view around it.
+    const double half = std::max(state.SymbolSize, 1.0);
+    double left = l - margin, top = t - margin, right = r + margin, bottom = b + margin;
+    if (right - left < 2) left -= half, right += half;
+    if (bottom - top < 2) top -= half, bottom += half;
+    zoomed = ZoomToRect(surface, state, left, top, right, bottom);
+  }
+  surface.SetRedraw(redraw);
+  return zoomed;
+}
+
+void ZoomToAll(Surface& surface, AppState& state) {
+  ZoomToRect(surface, state, 0, 0, state.LogicWidth, state.LogicHeight);
+}
+
+}  // namespace pluvane

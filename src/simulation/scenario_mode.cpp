@@ -1,0 +1,20 @@
+#include "simulation/scenario_mode.h"
+
+#include "foundation/numbers.h"
+#include "foundation/text.h"
+#include "network/surface_helpers.h"
+
+namespace pluvane {
+
+std::string ScenarioModeText(Surface& surface, const std::string& scenario_name) {
+  const int saved = surface.CurrentObject();
+  std::string text;
+  if (FindObject2(surface, "iName", 111, "Id", scenario_name) > 10) {
+    const int mode = ValInt(CharLeft(surface.ObjTag("CalcMode"), 1)) - 1;
+    text = mode == 0 ? " (diag)" : " (dim)";
+  }
+  surface.SetCurrentObject(saved);
+  return text;
+}
+
+}  // namespace pluvane
