@@ -67,8 +67,8 @@ std::string CtlFixed(double value, int width, int decimals) {
 
 std::string CtlRight(std::string_view text, int width) {
   const auto count = static_cast<long long>(CharCount(text));
-  std::string padding = count < width ? std::string(static_cast<std::size_t>(width - count), ' ')
-                                      : std::string();
+  std::string padding =
+      count < width ? std::string(static_cast<std::size_t>(width - count), ' ') : std::string();
   return padding + std::string(text);
 }
 

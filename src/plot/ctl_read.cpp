@@ -40,9 +40,7 @@ double Number(std::string_view line, int first, int width) {
   return CtlNumber(CtlField(line, first, width));
 }
 
-int Int(std::string_view line, int first, int width) {
-  return ToLong(Number(line, first, width));
-}
+int Int(std::string_view line, int first, int width) { return ToLong(Number(line, first, width)); }
 
 // A text field whose blank stands for `fallback`.
 std::string TextOr(std::string_view line, int first, int width, const char* fallback) {
@@ -195,4 +193,3 @@ CtlComment ReadCtlComment(std::string_view line) {
 }
 
 }  // namespace pluvane
-

@@ -25,8 +25,8 @@ struct CtlFrame {
   int style = 0;
   int width = 0;
   std::int32_t colour = 0;
-  double text_size = 6;  // points
-  int font = 0;          // index into kPlotFonts, already in range
+  double text_size = 6;      // points
+  int font = 0;              // index into kPlotFonts, already in range
   std::string extra_colour;  // carried along, never drawn
 };
 
@@ -70,7 +70,7 @@ struct CtlPlot {
 };
 
 struct CtlComment {
-  double size = 0;  // points
+  double size = 0;      // points
   double x = 0, y = 0;  // page cm
   double angle = 0;
   std::string text;

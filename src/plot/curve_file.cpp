@@ -39,8 +39,9 @@ void ReadColumns(UserInterface& ui, const std::string& file, const std::string& 
                  int& status) {
   TextReader reader(file);
   if (!FileExist(file) || !reader.IsOpen()) {
-    ui.ShowMessage("Fichier " + file + " introuvable!\nEnregistrer les données et Quitter le programme!",
-                   "", MessageIcon::kNone);
+    ui.ShowMessage(
+        "Fichier " + file + " introuvable!\nEnregistrer les données et Quitter le programme!", "",
+        MessageIcon::kNone);
     return;
   }
   for (std::vector<double>* column : columns) column->clear();

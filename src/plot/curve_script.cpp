@@ -79,15 +79,14 @@ bool WriteCurveScript(UserInterface& ui, const std::string& list_file,
   std::vector<std::string> script;
   script.push_back("PAGE  \"A4\"  \"H\"  " + Quoted(page_title));
   script.push_back(" Cadre " + ScriptNumber(kLeft) + " " + ScriptNumber(kRight) + " " +
-                   ScriptNumber(kBottom) + " " + ScriptNumber(kTop) + "  " +
-                   Quoted(frame_title) + "  6 0 0 7 0 0");
+                   ScriptNumber(kBottom) + " " + ScriptNumber(kTop) + "  " + Quoted(frame_title) +
+                   "  6 0 0 7 0 0");
   script.push_back("    Echelle \"F\" " + ScriptNumber(scale.x_min) + " " +
                    ScriptNumber(scale.x_max) + " " + ScriptNumber(scale.y_min) + " " +
                    ScriptNumber(scale.y_max) + " " + ScriptNumber(scale.x_step) + " " +
                    ScriptNumber(scale.y_step) + " " + ScriptNumber(scale.x_spacing) + " " +
-                   ScriptNumber(scale.y_spacing) + " " + Quoted(x_title) + "  " +
-                   Quoted(y_title) + "  \"V\" 4 " + Quoted(scale.x_format) + " " +
-                   Quoted(scale.y_format));
+                   ScriptNumber(scale.y_spacing) + " " + Quoted(x_title) + "  " + Quoted(y_title) +
+                   "  \"V\" 4 " + Quoted(scale.x_format) + " " + Quoted(scale.y_format));
   script.push_back("    Grille " + ScriptNumber(scale.x_spacing) + " " +
                    ScriptNumber(scale.y_spacing) + " 2 0 0");
   CurveLook look;

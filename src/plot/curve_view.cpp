@@ -63,7 +63,8 @@ void EndCurveView(UserInterface& ui, const CurveViewSession& session, const std:
   RemoveIfThere(session.list_file);
   RemoveIfThere(session.script);
   vbFileKill(ui, work_dir, "*.tmp");
-  if (!EqualsNoCase(DirOf(session.file), scenario_folder) && !SameFile(session.file, session.copy)) {
+  if (!EqualsNoCase(DirOf(session.file), scenario_folder) &&
+      !SameFile(session.file, session.copy)) {
     RemoveIfThere(session.copy);
   }
 }

@@ -4,8 +4,8 @@
 
 #include "foundation/expect_message.h"
 #include "foundation/paths.h"
-#include "foundation/text.h"
 #include "foundation/test_files.h"
+#include "foundation/text.h"
 #include "plot/ctl_read.h"
 #include "plot/plot_command.h"
 
@@ -14,7 +14,8 @@ namespace {
 
 std::string Frames(int count) {
   std::string page = "PAGE\r\n";
-  for (int i = 0; i < count; ++i) page += "CADRE 1 2 1 2 \"t\"\r\nPLOTXY 1 \"f\" \"c\"\r\nENDCADRE\r\n";
+  for (int i = 0; i < count; ++i)
+    page += "CADRE 1 2 1 2 \"t\"\r\nPLOTXY 1 \"f\" \"c\"\r\nENDCADRE\r\n";
   return page + "ENDPAGE\r\n";
 }
 

@@ -31,15 +31,15 @@ TEST_P(CtlGolden, CompilesPageOneAsWrittenByHand) {
   EXPECT_EQ(ReadBytes(folder.File("copy.ctl")), expected);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Scripts, CtlGolden,
-    ::testing::Values("s01_writer_example", "s02_curve_script", "s03_grid_plotxy",
-                      "s04_long_profile", "s05_lower_case", "s06_short_words",
-                      "s07_missing_fields", "s08_comments", "s09_three_frames", "s10_dates",
-                      "s11_dates_bitwise", "s12_plotxyz", "s13_a3_portrait", "s14_a3_titled",
-                      "s15_two_scales", "s16_frame_without_curve", "s17_long_texts",
-                      "s18_numbers", "s19_unclosed_quote", "s20_two_pages", "s21_end_stops",
-                      "s22_mixed_case"));
+INSTANTIATE_TEST_SUITE_P(Scripts, CtlGolden,
+                         ::testing::Values("s01_writer_example", "s02_curve_script",
+                                           "s03_grid_plotxy", "s04_long_profile", "s05_lower_case",
+                                           "s06_short_words", "s07_missing_fields", "s08_comments",
+                                           "s09_three_frames", "s10_dates", "s11_dates_bitwise",
+                                           "s12_plotxyz", "s13_a3_portrait", "s14_a3_titled",
+                                           "s15_two_scales", "s16_frame_without_curve",
+                                           "s17_long_texts", "s18_numbers", "s19_unclosed_quote",
+                                           "s20_two_pages", "s21_end_stops", "s22_mixed_case"));
 
 TEST(CtlGoldenPages, TwoPagesCutIntoTwoFilesAndEndStopsTheCut) {
   TempFolder folder;

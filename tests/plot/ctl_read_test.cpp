@@ -167,7 +167,8 @@ TEST(ReadCtlScale, DateModeWithoutOriginIsRefused) {
   ScriptedUi ui;
   CtlScale scale;
   EXPECT_FALSE(ReadCtlScale(ui, line, 1, scale));
-  ExpectLastMessage(ui, "Revoir la ligne Echelle du cadre  1\nLa date origine n'est pas renseignée !",
+  ExpectLastMessage(ui,
+                    "Revoir la ligne Echelle du cadre  1\nLa date origine n'est pas renseignée !",
                     "Echelle en date dans le fic Mst", MessageIcon::kCritical);
 }
 

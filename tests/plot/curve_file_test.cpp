@@ -82,10 +82,9 @@ TEST(ReadCurve, AMissingFileIsToldAndTouchesNothing) {
   Curve c;
   c.x = {7};
   ReadCurve(ui, file, "A", c.x, c.y, c.count, c.status);
-  ExpectLastMessage(ui,
-                    "Fichier " + file +
-                        " introuvable!\nEnregistrer les données et Quitter le programme!",
-                    "", MessageIcon::kNone);
+  ExpectLastMessage(
+      ui, "Fichier " + file + " introuvable!\nEnregistrer les données et Quitter le programme!", "",
+      MessageIcon::kNone);
   EXPECT_EQ(c.status, -1);
   EXPECT_EQ(c.x, (std::vector<double>{7}));
 }
@@ -93,7 +92,8 @@ TEST(ReadCurve, AMissingFileIsToldAndTouchesNothing) {
 TEST(ReadCurve, ThreeAndFourColumnsHaveNoOffset) {
   TempFolder folder;
   WriteBytes(folder.File("a.crb"),
-             "'L'\r\n     1.000     2.000     3.000     4.000\r\n     5.000     6.000     7.000     8.000\r\n");
+             "'L'\r\n     1.000     2.000     3.000     4.000\r\n     5.000     6.000     7.000    "
+             " 8.000\r\n");
   ScriptedUi ui;
   std::vector<double> x, y, z, t;
   int count = 0, status = 0;
@@ -118,8 +118,9 @@ TEST(CurveFormatCheck, LooksAtTheFirstLineThatIsNotBlank) {
 
 TEST(CurveMinMax, AnEmptyLineCountsAsTheOrigin) {
   TempFolder folder;
-  WriteBytes(folder.File("a.crb"),
-             "'A'\r\n     5.000     6.000\r\n\r\n     8.000     9.000\r\n'B'\r\n    10.000     7.000");
+  WriteBytes(
+      folder.File("a.crb"),
+      "'A'\r\n     5.000     6.000\r\n\r\n     8.000     9.000\r\n'B'\r\n    10.000     7.000");
   ScriptedUi ui;
   double x_min = 1, x_max = 1, y_min = 1, y_max = 1;
   CurveMinMax(ui, folder.File("a.crb"), x_min, x_max, y_min, y_max);
@@ -151,9 +152,10 @@ TEST(CurveMinMax, AMissingFileIsToldAndTouchesNothing) {
 
 TEST(XtCourbe, AppendsTheFirstCurveOfThatName) {
   TempFolder folder;
-  WriteBytes(folder.File("s.crb"),
-             "'A' x\r\n     0.000     1.000\r\n\r\n     2.000     3.000\r\n'a'\r\n     9.000     9.000\r\n"
-             "'B'\r\n     4.000     4.000\r\n'C'\r\n     5.000     5.000\r\n     6.000     6.000");
+  WriteBytes(
+      folder.File("s.crb"),
+      "'A' x\r\n     0.000     1.000\r\n\r\n     2.000     3.000\r\n'a'\r\n     9.000     9.000\r\n"
+      "'B'\r\n     4.000     4.000\r\n'C'\r\n     5.000     5.000\r\n     6.000     6.000");
   WriteBytes(folder.File("d.crb"), "'Z'\r\n");
   ScriptedUi ui;
   EXPECT_EQ(XtCourbe(ui, "a", folder.File("s.crb"), folder.File("d.crb")), 0);
@@ -161,16 +163,18 @@ TEST(XtCourbe, AppendsTheFirstCurveOfThatName) {
   EXPECT_EQ(XtCourbe(ui, "none", folder.File("s.crb"), folder.File("d.crb")), 2);
   EXPECT_EQ(XtCourbe(ui, " c ", folder.File("s.crb"), folder.File("d.crb")), 0);
   EXPECT_TRUE(ui.Empty());
-  EXPECT_EQ(ReadBytes(folder.File("d.crb")),
-            "'Z'\r\n'A' x\r\n     0.000     1.000\r\n     2.000     3.000\r\n"
-            "'B'\r\n     4.000     4.000\r\n'C'\r\n     5.000     5.000\r\n     6.000     6.000\r\n");
+  EXPECT_EQ(
+      ReadBytes(folder.File("d.crb")),
+      "'Z'\r\n'A' x\r\n     0.000     1.000\r\n     2.000     3.000\r\n"
+      "'B'\r\n     4.000     4.000\r\n'C'\r\n     5.000     5.000\r\n     6.000     6.000\r\n");
 }
 
 TEST(XtCourbe, AMissingSourceIsTold) {
   TempFolder folder;
   ScriptedUi ui;
   EXPECT_EQ(XtCourbe(ui, "A", folder.File("none.crb"), folder.File("d.crb")), 1);
-  ExpectLastMessage(ui, "Erreur XtCourbe : Fichier  '" + folder.File("none.crb") + "'  non trouvé!!!",
+  ExpectLastMessage(ui,
+                    "Erreur XtCourbe : Fichier  '" + folder.File("none.crb") + "'  non trouvé!!!",
                     "", MessageIcon::kNone);
   EXPECT_FALSE(FileExist(folder.File("d.crb")));
 }

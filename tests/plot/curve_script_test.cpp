@@ -31,15 +31,19 @@ TEST(CurveKind, TitlesByExtensionInAnyCase) {
 TEST(NextCurveLook, ColoursWidthsAndStylesInTurn) {
   const std::int32_t blue = 16711680, red = 255, black = 0, orange = 4895487, violet = 10158235,
                      green = 65280;
-  const std::int32_t colours[] = {blue, red,   black, orange, violet, green, blue,
+  const std::int32_t colours[] = {blue, red,   black,  orange, violet, green, blue,
                                   red,  black, orange, violet, violet, blue};
   CurveLook look;
   for (int i = 1; i <= 20; ++i) {
     look = NextCurveLook(i, look);
-    if (i <= 13) EXPECT_EQ(look.colour, colours[i - 1]) << i;
+    if (i <= 13) {
+      EXPECT_EQ(look.colour, colours[i - 1]) << i;
+    }
     EXPECT_EQ(look.width, i >= 19 ? 4 : 2) << i;
     EXPECT_EQ(look.style, i <= 6 ? 0 : i <= 12 ? 2 : i <= 18 ? 1 : 2) << i;
-    if (i == 18) EXPECT_EQ(look.colour, violet);
+    if (i == 18) {
+      EXPECT_EQ(look.colour, violet);
+    }
   }
 }
 
@@ -111,6 +115,17 @@ TEST(CurveView, CopiesScriptsAndCleansUp) {
   EndCurveView(ui, session, work, "/elsewhere");
   EXPECT_FALSE(FileExist(session.copy));
   EXPECT_TRUE(FileExist(file));
+}
+
+TEST(CurveView, AFileChosenInTheWorkFolderIsNeverRemoved) {
+  TempFolder folder;
+  WriteBytes(folder.File("xy.crb"), "'A'\r\n     0.000     1.000\r\n");
+  ScriptedUi ui;
+  CurveViewSession session;
+  ASSERT_TRUE(PrepareCurveView(ui, folder.File("xy.crb"), folder.Path(), session));
+  EXPECT_EQ(session.mode, "crb");
+  EndCurveView(ui, session, folder.Path(), "/elsewhere");
+  EXPECT_TRUE(FileExist(folder.File("xy.crb")));
 }
 
 }  // namespace

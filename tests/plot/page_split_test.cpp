@@ -15,7 +15,8 @@ const char* kFrame = "CADRE 2 28 2 20 \"t\"\r\nPLOTXY 1 \"f.crb\" \"c\"\r\nENDCA
 
 TEST(SplitPages, WritesEachPageTrimmedWithoutEmptyLines) {
   TempFolder folder;
-  WriteBytes(folder.File("s.Mst"), "  PAGE \"A4\"  \n\n  Cadre 1 2  \n Plotxy 1\nEndCadre\nENDPAGE\n");
+  WriteBytes(folder.File("s.Mst"),
+             "  PAGE \"A4\"  \n\n  Cadre 1 2  \n Plotxy 1\nEndCadre\nENDPAGE\n");
   ScriptedUi ui;
   int pages = 0;
   ASSERT_TRUE(SplitPages(ui, folder.File("s.Mst"), folder.Path(), pages));
@@ -45,10 +46,10 @@ TEST(SplitPages, UnpairedPagesRemoveEveryPageFile) {
   ScriptedUi ui;
   int pages = 0;
   EXPECT_FALSE(SplitPages(ui, script, folder.Path(), pages));
-  ExpectLastMessage(ui,
-                    " Le couple PAGE/ENDPAGE non coherent dans " + script +
-                        "\n il y a 2 page(s) pour 1 ENDPAGE",
-                    "", MessageIcon::kNone);
+  ExpectLastMessage(
+      ui,
+      " Le couple PAGE/ENDPAGE non coherent dans " + script + "\n il y a 2 page(s) pour 1 ENDPAGE",
+      "", MessageIcon::kNone);
   EXPECT_FALSE(FileExist(folder.File("P1.TMP")));
   EXPECT_FALSE(FileExist(folder.File("P2.TMP")));
   EXPECT_FALSE(FileExist(folder.File("P12.TMP")));
