@@ -1,0 +1,84 @@
+#include "network/map_coordinates.h"
+
+#include <cmath>
+#include <string>
+#include <vector>
+
+#include "foundation/numbers.h"
+#include "foundation/text.h"
+#include "network/cursor_keeper.h"
+#include "network/georeferencing.h"
+#include "network/surface_helpers.h"
+
+namespace pluvane {
+
+namespace {
+
+bool HoldsAPlace(int i_name) { return i_name == 99 || i_name == 12 || i_name == 21 || i_name == 1; }
+
+// The point elements standing on the node, found by their sNodAm and by the
+// rule that their box covers the node's centre; the selection is not touched.
+std::vector<int> StandingOn(Surface& surface, const std::string& node_id, double cx, double cy) {
+  std::vector<int> standing;
+  if (Trim(node_id).empty()) return standing;
+  for (int number : FindObjectList(surface, "sNodAm", node_id)) {
+    surface.SetCurrentObject(number);
+    const int group = ValInt(surface.ObjTag("iGroup"));
+    if (group != 1 && group != 3) continue;
+    if (cx < surface.ObjLeft() || cx > surface.ObjRight()) continue;
+    if (cy < surface.ObjTop() || cy > surface.ObjBottom()) continue;
+    standing.push_back(number);
+  }
+  return standing;
+}
+
+}  // namespace
+
+int RecomputeUserCoordinates(Surface& surface, const AppState& state) {
+  CursorKeeper keeper(surface);
+  const bool redraw = surface.Redraw();
+  surface.SetRedraw(false);
+  int count = 0;
+  for (int n = surface.FirstObject(); n > 0; n = surface.NextObject()) {
+    if (!HoldsAPlace(ValInt(surface.ObjTag("iName")))) continue;
+    auto [cx, cy] = ObjectCentre(surface, n);
+    surface.SetObjTag("Xlog", cx);
+    surface.SetObjTag("Ylog", cy);
+    const std::int32_t x = RoundLong(Val(surface.ObjTag("Xlog")));
+    const std::int32_t y = RoundLong(Val(surface.ObjTag("Ylog")));
+    surface.SetObjTag("Xus", LogicToUserX(state.calibration, x, y));
+    surface.SetObjTag("Yus", LogicToUserY(state.calibration, x, y));
+    ++count;
+  }
+  surface.SetRedraw(redraw);
+  return count;
+}
+
+bool SnapNodeToMap(Surface& surface, const Calibration& calibration, int node) {
+  CursorKeeper keeper(surface);
+  surface.SetCurrentObject(node);
+  if (surface.CurrentObject() != node || node < kFirstObjectNumber) return false;
+  const double x_log = Val(surface.ObjTag("Xlog")), y_log = Val(surface.ObjTag("Ylog"));
+  const double x_us = Val(surface.ObjTag("Xus")), y_us = Val(surface.ObjTag("Yus"));
+  if (std::fabs(x_log) < 1 && std::fabs(y_log) < 1 && std::fabs(x_us) < 0.000001 &&
+      std::fabs(y_us) < 0.000001) {
+    return false;
+  }
+  const std::int32_t x = UserToLogicX(calibration, x_us, y_us);
+  const std::int32_t y = UserToLogicY(calibration, x_us, y_us);
+  auto [cx, cy] = ObjectCentre(surface, node);
+  const std::int32_t dx = x - RoundLong(cx), dy = y - RoundLong(cy);
+  if (dx == 0 && dy == 0 && x == RoundLong(x_log) && y == RoundLong(y_log)) return false;
+  const std::vector<int> standing = StandingOn(surface, surface.ObjTag("Id"), cx, cy);
+  surface.SetCurrentObject(node);
+  surface.SetObjTag("Xlog", x);
+  surface.SetObjTag("Ylog", y);
+  surface.MoveObject(dx, dy);
+  for (int number : standing) {
+    surface.SetCurrentObject(number);
+    surface.MoveObject(dx, dy);
+  }
+  return true;
+}
+
+}  // namespace pluvane

@@ -1,0 +1,18 @@
+#include "network/symbol_file.h"
+
+#include "foundation/paths.h"
+
+namespace pluvane {
+
+std::string FindSymbolFile(const std::string& symbol_dir, std::string_view file_name) {
+  const std::string name(file_name);
+  const std::size_t dot = name.rfind('.');
+  const std::string base = dot == std::string::npos ? name : name.substr(0, dot);
+  for (const std::string& candidate : {name, base + ".svg", base + ".png"}) {
+    std::string found = FindFileNoCase(symbol_dir, candidate);
+    if (!found.empty()) return found;
+  }
+  return JoinPath(symbol_dir, name);
+}
+
+}  // namespace pluvane
