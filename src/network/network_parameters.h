@@ -1,0 +1,28 @@
+// The two hidden records that carry a network's own settings in its file:
+// ParamReseau (calculation defaults, sizes, extents, calibration) and
+// ZoomFactors (the saved view).
+#pragma once
+
+#include "network/surface.h"
+#include "shell/app_state.h"
+
+namespace pluvane {
+
+inline constexpr const char* kParamReseau = "ParamReseau";
+inline constexpr const char* kZoomFactors = "ZoomFactors";
+
+// Deletes any record of that Id and creates both afresh from the state and the view.
+void WriteParameterRecords(Surface& surface, const AppState& state);
+
+// The ParamReseau of a new network: CalcMode, CalcDuree and CalcDt only.
+void CreateBlankParamReseau(Surface& surface, const AppState& state);
+
+// Reads ParamReseau: each of CalcMode, CalcDuree, CalcDt, SymbolSize,
+// LinkThick, Xecran and Yecran that reads above 0 replaces the state's value.
+void ReadParamReseau(Surface& surface, AppState& state);
+
+// Reads ZoomFactors (Id and iGroup -1) into the zoom factor and the view's
+// left and top. False, nothing changed, when the record is absent.
+bool ReadZoomFactors(Surface& surface, AppState& state, double& left, double& top);
+
+}  // namespace pluvane
