@@ -91,7 +91,6 @@ int AskSaveCurrent(NetworkSession& s, const std::string& path) {
 void ResetNetwork(NetworkSession& s) {
   s.surface.ClearDrawing();
   s.surface.SetBackgroundPicture("");
-  s.surface.SetAutoScale(3);
   s.ui.ShowStatus("");
   s.state.NetworkFile.clear();
   s.state.CurrentMode.clear();
