@@ -1,15 +1,21 @@
 // The desktop program: pluvane [NETWORK.mtf [0] [n]].
 #include <QApplication>
-#include <QLabel>
-#include <clocale>
+#include <QTimer>
+#include <string>
+
+#include "ui/main_window.h"
 
 int main(int argc, char** argv) {
   QApplication app(argc, argv);
-  // Qt takes the user's locale; numbers in every file keep the point.
-  std::setlocale(LC_NUMERIC, "C");
-  QLabel window("Pluvane");
-  window.setWindowTitle("Pluvane");
-  window.resize(480, 240);
+  std::string command_line;
+  for (int i = 1; i < argc; ++i) {
+    std::string arg = argv[i];
+    if (!command_line.empty()) command_line += ' ';
+    command_line += arg.find(' ') != std::string::npos ? "\"" + arg + "\"" : arg;
+  }
+  pluvane::MainWindow window;
+  if (!window.Start(QCoreApplication::applicationDirPath().toStdString(), command_line)) return 1;
   window.show();
+  if (!window.Activate()) return 1;
   return app.exec();
 }

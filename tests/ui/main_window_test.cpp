@@ -1,0 +1,40 @@
+#include "ui/main_window.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QImage>
+#include <filesystem>
+
+namespace pluvane {
+namespace {
+
+namespace fs = std::filesystem;
+
+QApplication& App() {
+  static int argc = 1;
+  static char name[] = "test_ui";
+  static char* argv[] = {name, nullptr};
+  static QApplication* app = new QApplication(argc, argv);
+  return *app;
+}
+
+TEST(MainWindow, StartsOnTheShippedConfigurationAndShowsTheNetworkSummary) {
+  App();
+  MainWindow window;
+  ASSERT_TRUE(window.Start(PLUVANE_BIN, ""));
+  window.show();
+  ASSERT_TRUE(window.Activate());
+  EXPECT_EQ(window.windowTitle(), "Pluvane");
+  const QString summary = window.Summary();
+  EXPECT_TRUE(summary.contains("Aucun réseau chargé"));
+  EXPECT_TRUE(summary.contains("1 objets sur le dessin."));
+  const QImage shot = window.grab().toImage();
+  EXPECT_FALSE(shot.isNull());
+  shot.save(QString::fromStdString((fs::path(PLUVANE_BIN).parent_path() / "main_window.png").string()));
+  window.application().QuitCommand();
+  window.close();
+}
+
+}  // namespace
+}  // namespace pluvane
