@@ -1,0 +1,101 @@
+#include "shell/cli.h"
+
+#include <functional>
+#include <map>
+
+#include "foundation/scripted_ui.h"
+#include "plot/plot_command.h"
+
+namespace pluvane {
+
+namespace {
+
+struct Command {
+  const char* usage;  // the command's line of the usage text
+  std::function<int(const std::vector<std::string>&, const std::string&, std::ostream&,
+                    ScriptedUi&)>
+      run;
+};
+
+// The value after an option, or empty with `ok` false when it is missing.
+bool TakeOption(const std::vector<std::string>& args, std::size_t& i, std::string& value) {
+  if (i + 1 >= args.size()) return false;
+  value = args[++i];
+  return true;
+}
+
+int Plot(const std::vector<std::string>& args, const std::string&, std::ostream& out,
+         ScriptedUi& ui) {
+  std::string script, ctl;
+  for (std::size_t i = 0; i < args.size(); ++i) {
+    if (args[i] == "--ctl") {
+      if (!TakeOption(args, i, ctl)) return 2;
+    } else if (script.empty() && args[i].rfind("-", 0) != 0) {
+      script = args[i];
+    } else {
+      return 2;
+    }
+  }
+  if (script.empty()) return 2;
+  if (!CompileScriptPage(ui, script, ctl)) return 1;
+  if (!ctl.empty()) out << ctl << "\n";
+  return 0;
+}
+
+const std::map<std::string, Command>& Commands() {
+  static const std::map<std::string, Command> commands = {
+      {"plot",
+       {"  plot SCRIPT.Mst [--ctl OUT.ctl]\n"
+        "                compiles page 1 of a plot script in the script's folder;\n"
+        "                --ctl also writes the control file there\n",
+        Plot}},
+  };
+  return commands;
+}
+
+}  // namespace
+
+std::string CliUsage() {
+  std::string usage =
+      "usage: pluvane-cli COMMAND [ARGUMENTS]\n"
+      "\n"
+      "Runs the treatments of Pluvane without a window. Messages go to standard\n"
+      "error as 'title: text'; questions take their default answer.\n"
+      "\n"
+      "Commands:\n";
+  for (const auto& [name, command] : Commands()) usage += command.usage;
+  usage += "  --help        this text; COMMAND --help, the same\n"
+           "\n"
+           "Exit status: 0 success, 1 the treatment refused, 2 bad usage.\n";
+  return usage;
+}
+
+int RunCli(const std::vector<std::string>& args, const std::string& app_path, std::ostream& out,
+           std::ostream& err) {
+  if (args.empty()) {
+    err << CliUsage();
+    return 2;
+  }
+  const std::string& name = args[0];
+  if (name == "--help" || name == "-h" || name == "help") {
+    out << CliUsage();
+    return 0;
+  }
+  auto found = Commands().find(name);
+  if (found == Commands().end()) {
+    err << "pluvane-cli: commande inconnue : " << name << "\n" << CliUsage();
+    return 2;
+  }
+  std::vector<std::string> rest(args.begin() + 1, args.end());
+  if (!rest.empty() && (rest[0] == "--help" || rest[0] == "-h")) {
+    out << "usage: pluvane-cli\n" << found->second.usage;
+    return 0;
+  }
+  ScriptedUi ui;
+  ui.echo = [&err](const std::string& line) { err << line << "\n"; };
+  const int status = found->second.run(rest, app_path, out, ui);
+  if (status == 2) err << "usage: pluvane-cli\n" << found->second.usage;
+  return status;
+}
+
+}  // namespace pluvane
