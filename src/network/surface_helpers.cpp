@@ -4,27 +4,13 @@
 
 #include "foundation/numbers.h"
 #include "foundation/text.h"
+#include "network/surface_guards.h"
 
 namespace pluvane {
 
 namespace {
 
 constexpr int kNodeKind = 99;
-
-// Puts the cursor back on leaving, as every helper must.
-class CursorKeeper {
- public:
-  explicit CursorKeeper(Surface& surface) : surface_(surface), saved_(surface.CurrentObject()) {}
-  ~CursorKeeper() {
-    if (restore_) surface_.SetCurrentObject(saved_);
-  }
-  void Release() { restore_ = false; }
-
- private:
-  Surface& surface_;
-  int saved_;
-  bool restore_ = true;
-};
 
 // Calls `visit` on every match in creation order, with the match current.
 template <typename Visit>
