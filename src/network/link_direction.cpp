@@ -42,16 +42,19 @@ LinkCopy Save(const Surface& surface) {
 }
 
 void Restore(Surface& surface, const LinkCopy& copy) {
+  // The tags in their order, with the values of sNodAm and sNodAv exchanged.
+  std::string upstream, downstream;
+  for (const auto& [name, value] : copy.tags) {
+    if (name == "sNodAm") upstream = value;
+    if (name == "sNodAv") downstream = value;
+  }
   surface.SetObjTagCount(static_cast<int>(copy.tags.size()));
   for (std::size_t i = 0; i < copy.tags.size(); ++i) {
-    std::string name = copy.tags[i].first;
-    if (name == "sNodAm") {
-      name = "sNodAv";
-    } else if (name == "sNodAv") {
-      name = "sNodAm";
-    }
+    const std::string& name = copy.tags[i].first;
+    const std::string& value =
+        name == "sNodAm" ? downstream : name == "sNodAv" ? upstream : copy.tags[i].second;
     surface.SetObjTagName(static_cast<int>(i), name);
-    surface.SetObjTagValue(static_cast<int>(i), copy.tags[i].second);
+    surface.SetObjTagValue(static_cast<int>(i), value);
   }
   for (std::size_t i = 0; i < kMarkerPositions.size(); ++i) {
     // Markers stay by position, so an arrow at the downstream end shows the new way.
