@@ -47,8 +47,7 @@ constexpr std::array<ElementType, 32> kTypes{{
 }};
 
 // Keys whose next-creation pair is the point family whatever the table says.
-constexpr std::array<std::string_view, 4> kPointGroupKeys{"X_PLU", "X_CLAV", "X_MARK",
-                                                          "X_CALAGE"};
+constexpr std::array<std::string_view, 4> kPointGroupKeys{"X_PLU", "X_CLAV", "X_MARK", "X_CALAGE"};
 
 std::optional<CreationPair> PairOf(const ElementType* type) {
   if (!type || type->key.empty() || type->i_name == kINameRayon) return std::nullopt;

@@ -28,7 +28,7 @@ struct PlacementState {
   int SecondEnd = 0;
   std::int32_t PointerX = 0;  // logical position of the last press
   std::int32_t PointerY = 0;
-  bool CancelRelease = false;  // set at the press to make the release do nothing
+  bool CancelRelease = false;      // set at the press to make the release do nothing
   std::string PendingCalagePoint;  // "Pt1" to "Pt3", the calibration point to place
 };
 

@@ -121,6 +121,13 @@ class TagWriter {
     if (!import_) Zeros({"ZRam", "ZRav"});
   }
 
+  void DerivationHead() {
+    NodeTag();
+    Text("IdAval", "");
+    Num("NbDer", 0);
+    Blanks({"IdDer_a", "IdDer_b", "IdDer_c"});
+  }
+
   void Catchment() {
     Text("sNodAm", "");
     PositionTags("Xus", "Yus");
@@ -164,39 +171,30 @@ class TagWriter {
         Zeros({"Qsec", "SR", "NbPt", "X1", "Y1", "X2", "Y2", "X3", "Y3"});
         break;
       case kINameCAC:
-        CollectorHead();
-        Num("Dn", 1);
-        Length();
-        Num("K", 60);
-        Zeros({"HD", "SR"});
-        break;
       case kINameCAF:
-        CollectorHead();
-        Text("IdSect", "");
-        Length();
-        Num("K", 60);
-        Zeros({"HD", "SR"});
-        break;
       case kINameCAO:
         CollectorHead();
-        Text("IdSect", "");
+        if (type.i_name == kINameCAC) {
+          Num("Dn", 1);
+        } else {
+          Text("IdSect", "");
+        }
         Length();
-        Num("Kmin", 50);
-        Num("Largeur", 100);
-        Num("Kmaj", 30);
+        if (type.i_name == kINameCAO) {
+          Num("Kmin", 50);
+          Num("Largeur", 100);
+          Num("Kmaj", 30);
+        } else {
+          Num("K", 60);
+          Zeros({"HD", "SR"});
+        }
         break;
       case kINameDQQ:
-        NodeTag();
-        Text("IdAval", "");
-        Num("NbDer", 0);
-        Blanks({"IdDer_a", "IdDer_b", "IdDer_c"});
+        DerivationHead();
         Zeros({"NbPt", "X1", "Y1", "Z1", "T1"});
         break;
       case kINameDQZ:
-        NodeTag();
-        Text("IdAval", "");
-        Num("NbDer", 0);
-        Blanks({"IdDer_a", "IdDer_b", "IdDer_c"});
+        DerivationHead();
         for (const char* name : {"TypeAval", "TypeDer_a", "TypeDer_b", "TypeDer_c"}) Num(name, 3);
         Zeros({"NbPtAv", "NbPtDa", "NbPtDb", "NbPtDc", "Xav1", "Yav1", "Xda1", "Yda1", "Xdb1",
                "Ydb1", "Xdc1", "Ydc1"});

@@ -19,13 +19,6 @@ int NodeWithId(Surface& surface, const std::string& id) {
   return FindObject2(surface, "iName", kINameNode, "Id", id);
 }
 
-std::vector<int> SelectedObjects(Surface& surface) {
-  std::vector<int> selected;
-  surface.SetCurrentObject(kSelection);
-  for (int n = surface.FirstSelected(); n > 0; n = surface.NextSelected()) selected.push_back(n);
-  return selected;
-}
-
 void LowerLinkCount(Surface& surface, int node) {
   surface.SetCurrentObject(node);
   if (surface.CurrentObject() != node) return;

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "network/surface_guards.h"
+#include "network/surface_helpers.h"
 
 namespace pluvane {
 
@@ -30,9 +31,9 @@ LinkCopy Save(const Surface& surface) {
   copy.line_width = surface.LineWidth();
   for (std::size_t i = 0; i < kMarkerPositions.size(); ++i) {
     const int p = kMarkerPositions[i];
-    copy.markers[i] = Marker{surface.LinkEndMarker(p), surface.LinkMarkerWidth(p),
-                             surface.LinkMarkerHeight(p), surface.LinkMarkerColor(p),
-                             surface.LinkMarkerFill(p)};
+    copy.markers[i] =
+        Marker{surface.LinkEndMarker(p), surface.LinkMarkerWidth(p), surface.LinkMarkerHeight(p),
+               surface.LinkMarkerColor(p), surface.LinkMarkerFill(p)};
   }
   copy.points = surface.ObjectPoints();
   for (int i = 0; i < surface.ObjTagCount(); ++i) {
@@ -51,8 +52,9 @@ void Restore(Surface& surface, const LinkCopy& copy) {
   surface.SetObjTagCount(static_cast<int>(copy.tags.size()));
   for (std::size_t i = 0; i < copy.tags.size(); ++i) {
     const std::string& name = copy.tags[i].first;
-    const std::string& value =
-        name == "sNodAm" ? downstream : name == "sNodAv" ? upstream : copy.tags[i].second;
+    const std::string& value = name == "sNodAm"   ? downstream
+                               : name == "sNodAv" ? upstream
+                                                  : copy.tags[i].second;
     surface.SetObjTagName(static_cast<int>(i), name);
     surface.SetObjTagValue(static_cast<int>(i), value);
   }
@@ -79,8 +81,8 @@ void Restore(Surface& surface, const LinkCopy& copy) {
 
 int mnuUtil_XChange(Surface& surface, UserInterface& ui) {
   std::vector<int> links;
-  surface.SetCurrentObject(kSelection);
-  for (int n = surface.FirstSelected(); n > 0; n = surface.NextSelected()) {
+  for (int n : SelectedObjects(surface)) {
+    surface.SetCurrentObject(n);
     if (surface.ObjectKind() == kKindLink) links.push_back(n);
   }
   if (links.empty()) {

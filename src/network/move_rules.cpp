@@ -23,8 +23,7 @@ int CalibrationIndex(const std::string& id) {
 }
 
 bool CarriesLength(int i_name) {
-  return i_name == kINameRout || i_name == kINameCAC || i_name == kINameCAF ||
-         i_name == kINameCAO;
+  return i_name == kINameRout || i_name == kINameCAC || i_name == kINameCAF || i_name == kINameCAO;
 }
 
 }  // namespace
@@ -32,9 +31,7 @@ bool CarriesLength(int i_name) {
 MoveOutcome FinishMove(Surface& surface, AppState& state, bool ctrl) {
   MoveOutcome outcome;
   UndoStep step(surface, "Déplacer");
-  std::vector<int> moved;
-  surface.SetCurrentObject(kSelection);
-  for (int n = surface.FirstSelected(); n > 0; n = surface.NextSelected()) moved.push_back(n);
+  const std::vector<int> moved = SelectedObjects(surface);
   std::vector<int> links;
   for (int number : moved) {
     surface.SetCurrentObject(number);

@@ -48,9 +48,7 @@ bool IsWideSymbol(std::string_view key) {
   return i_name == kINamePLU || i_name == kINameBV;
 }
 
-double ZoomOrOne(const AppState& state) {
-  return state.ZoomFactor != 0 ? state.ZoomFactor : 1;
-}
+double ZoomOrOne(const AppState& state) { return state.ZoomFactor != 0 ? state.ZoomFactor : 1; }
 
 void ShowSymbolError(UserInterface& ui, const AppState& state) {
   ui.ShowMessage(std::string("Erreur Draw_A_Symbol\r\n") + "le répertoire des symboles peut être" +

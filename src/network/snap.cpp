@@ -29,8 +29,8 @@ std::vector<NodePlace> Nodes(Surface& surface) {
   return nodes;
 }
 
-const NodePlace* NodeOf(const std::vector<NodePlace>& nodes, const std::string& s_nod_am,
-                        double x, double y) {
+const NodePlace* NodeOf(const std::vector<NodePlace>& nodes, const std::string& s_nod_am, double x,
+                        double y) {
   for (const NodePlace& node : nodes) {
     if (!s_nod_am.empty() && node.id == s_nod_am) return &node;
   }

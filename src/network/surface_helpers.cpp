@@ -99,6 +99,14 @@ int FindObject2(Surface& surface, std::string_view tag1, const TagMatch& value1,
   return 0;
 }
 
+std::vector<int> SelectedObjects(Surface& surface) {
+  CursorKeeper keeper(surface);
+  std::vector<int> selected;
+  surface.SetCurrentObject(kSelection);
+  for (int n = surface.FirstSelected(); n > 0; n = surface.NextSelected()) selected.push_back(n);
+  return selected;
+}
+
 int MaxIdNumber(Surface& surface, int i_name) {
   CursorKeeper keeper(surface);
   int largest = 0;

@@ -61,8 +61,7 @@ std::vector<int> ObjectsTouching(Surface& surface, int object) {
   std::int32_t left, top, right, bottom;
   surface.GetObjectBounds(left, top, right, bottom);
   surface.SelectInRect(left, top, right, bottom, kTouchFlags);
-  surface.SetCurrentObject(kSelection);
-  for (int n = surface.FirstSelected(); n > 0; n = surface.NextSelected()) found.push_back(n);
+  found = SelectedObjects(surface);
   surface.DeselectAll();
   return found;
 }
@@ -127,9 +126,8 @@ int CountGroupOnNode(Surface& surface, int node, int group) {
 }
 
 std::vector<int> DownstreamCollectors(Surface& surface, int node) {
-  return LinksAtEnd(surface, node, 0, [](Surface& s) {
-    return ValInt(s.ObjTag("iGroup")) == kGroupLink;
-  });
+  return LinksAtEnd(surface, node, 0,
+                    [](Surface& s) { return ValInt(s.ObjTag("iGroup")) == kGroupLink; });
 }
 
 std::vector<int> UpstreamLinks(Surface& surface, int node) {

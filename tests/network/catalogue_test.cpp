@@ -12,9 +12,9 @@ namespace {
 
 TEST(CatalogueTest, KeyToIName) {
   const std::pair<const char*, int> rows[] = {
-      {"X_BV", 1},    {"X_BVS", 21},  {"X_ROUT", 2},     {"X_HYBV", 3},  {"X_HY", 4},
-      {"X_CAC", 5},   {"X_CAF", 6},   {"X_CAO", 7},      {"X_DQQ", 8},   {"X_DQZ", 9},
-      {"X_RS", 10},   {"X_RSP", 11},  {"X_PLU", 12},     {"X_TR", 13},   {"X_CLAV", 14},
+      {"X_BV", 1},      {"X_BVS", 21},  {"X_ROUT", 2},   {"X_HYBV", 3}, {"X_HY", 4},
+      {"X_CAC", 5},     {"X_CAF", 6},   {"X_CAO", 7},    {"X_DQQ", 8},  {"X_DQZ", 9},
+      {"X_RS", 10},     {"X_RSP", 11},  {"X_PLU", 12},   {"X_TR", 13},  {"X_CLAV", 14},
       {"X_CALAGE", 15}, {"X_MARK", 16}, {"X_RAYON", 17}, {"X_NOD", 99}, {"X_BIEF", 100}};
   for (const auto& [key, i_name] : rows) EXPECT_EQ(INameOfKey(key), i_name) << key;
   EXPECT_EQ(INameOfKey("x_cac"), 5);  // keys are compared in capitals
@@ -29,11 +29,12 @@ TEST(CatalogueTest, KeyToNextCreationPair) {
     int group;
     int name;
   };
-  const Row rows[] = {{"X_BV", 1, 1},    {"X_BVS", 1, 21},   {"X_ROUT", 2, 2},  {"X_HYBV", 1, 3},
-                      {"X_HY", 1, 4},    {"X_CAC", 2, 5},    {"X_CAF", 2, 6},   {"X_CAO", 2, 7},
-                      {"X_DQQ", 3, 8},   {"X_DQZ", 3, 9},    {"X_RS", 3, 10},   {"X_RSP", 3, 11},
-                      {"X_PLU", 1, 12},  {"X_TR", 2, 13},    {"X_CLAV", 1, 14}, {"X_CALAGE", 1, 15},
-                      {"X_MARK", 1, 16}, {"X_NOD", 99, 99}, {"X_BIEF", 100, 100}};
+  const Row rows[] = {
+      {"X_BV", 1, 1},    {"X_BVS", 1, 21},  {"X_ROUT", 2, 2},    {"X_HYBV", 1, 3},
+      {"X_HY", 1, 4},    {"X_CAC", 2, 5},   {"X_CAF", 2, 6},     {"X_CAO", 2, 7},
+      {"X_DQQ", 3, 8},   {"X_DQZ", 3, 9},   {"X_RS", 3, 10},     {"X_RSP", 3, 11},
+      {"X_PLU", 1, 12},  {"X_TR", 2, 13},   {"X_CLAV", 1, 14},   {"X_CALAGE", 1, 15},
+      {"X_MARK", 1, 16}, {"X_NOD", 99, 99}, {"X_BIEF", 100, 100}};
   for (const Row& row : rows) {
     const auto pair = NextCreationPair(row.key);
     ASSERT_TRUE(pair.has_value()) << row.key;
@@ -52,34 +53,33 @@ TEST(CatalogueTest, KeyToNextCreationPair) {
 }
 
 TEST(CatalogueTest, Labels) {
-  const std::pair<int, const char*> rows[] = {
-      {1, "Bassins Versants"},
-      {2, "Routage"},
-      {3, "Exutoire de BV"},
-      {4, "Hydrogramme"},
-      {5, "Collecteur circulaire"},
-      {6, "Collecteur paramétrique fermé"},
-      {7, "Collecteur paramétrique ouvert"},
-      {8, "Déversoir DQQ"},
-      {9, "Déversoir DQZ"},
-      {10, "Bassin RS"},
-      {11, "Bassin RSP"},
-      {12, "Pluviographe"},
-      {13, "Raccord"},
-      {14, "Condition Limite aval"},
-      {16, "Marquage de sortie"},
-      {99, "Noeud"},
-      {100, "Bief"},
-      {101, "Section paramétrique"},
-      {102, "Coef. de Montana"},
-      {103, "Pluie réelle H(t)"},
-      {104, "Pluie Caquot"},
-      {105, "Pluie simple triangle"},
-      {106, "Pluie double triangle"},
-      {107, "Pluie synthétique I(t)"},
-      {108, "Pluie captée par radar"},
-      {109, "Scénario de pluie"},
-      {110, "Calage"}};
+  const std::pair<int, const char*> rows[] = {{1, "Bassins Versants"},
+                                              {2, "Routage"},
+                                              {3, "Exutoire de BV"},
+                                              {4, "Hydrogramme"},
+                                              {5, "Collecteur circulaire"},
+                                              {6, "Collecteur paramétrique fermé"},
+                                              {7, "Collecteur paramétrique ouvert"},
+                                              {8, "Déversoir DQQ"},
+                                              {9, "Déversoir DQZ"},
+                                              {10, "Bassin RS"},
+                                              {11, "Bassin RSP"},
+                                              {12, "Pluviographe"},
+                                              {13, "Raccord"},
+                                              {14, "Condition Limite aval"},
+                                              {16, "Marquage de sortie"},
+                                              {99, "Noeud"},
+                                              {100, "Bief"},
+                                              {101, "Section paramétrique"},
+                                              {102, "Coef. de Montana"},
+                                              {103, "Pluie réelle H(t)"},
+                                              {104, "Pluie Caquot"},
+                                              {105, "Pluie simple triangle"},
+                                              {106, "Pluie double triangle"},
+                                              {107, "Pluie synthétique I(t)"},
+                                              {108, "Pluie captée par radar"},
+                                              {109, "Scénario de pluie"},
+                                              {110, "Calage"}};
   for (const auto& [i_name, label] : rows) EXPECT_EQ(LabelOfIName(i_name), label) << i_name;
   // A calibration point is 15 and has no label; 110 is the one named "Calage".
   EXPECT_EQ(LabelOfIName(15), "");
@@ -90,9 +90,9 @@ TEST(CatalogueTest, Labels) {
 
 TEST(CatalogueTest, ShortCodesStopAt99) {
   const std::pair<int, const char*> rows[] = {
-      {1, "BV"},   {2, "ROUT"}, {3, "HYBV"}, {4, "HY"},  {5, "CAC"},   {6, "CAF"},
-      {7, "CAO"},  {8, "DQQ"},  {9, "DQZ"},  {10, "RS"}, {11, "RSP"},  {12, "PLV"},
-      {13, "TR"},  {14, "CLAV"}, {15, "PT"}, {16, "MRK"}, {99, "NOD"}};
+      {1, "BV"},  {2, "ROUT"},  {3, "HYBV"}, {4, "HY"},   {5, "CAC"},  {6, "CAF"},
+      {7, "CAO"}, {8, "DQQ"},   {9, "DQZ"},  {10, "RS"},  {11, "RSP"}, {12, "PLV"},
+      {13, "TR"}, {14, "CLAV"}, {15, "PT"},  {16, "MRK"}, {99, "NOD"}};
   for (const auto& [i_name, code] : rows) EXPECT_EQ(ShortCodeOfIName(i_name), code) << i_name;
   for (int i_name : {0, 17, 21, 100, 101, 110}) EXPECT_EQ(ShortCodeOfIName(i_name), "") << i_name;
 }

@@ -28,6 +28,15 @@ class CreateModeTest : public PlacementTest {
     return node;
   }
 
+  // The key refused on `hit` with that message, and nothing created.
+  void ExpectRefused(const char* key, int hit, const std::string& text, const std::string& title) {
+    ArmCreation(placement, key);
+    const int objects = surface.ObjectCount(kPage);
+    EXPECT_EQ(Click(hit).created, 0) << key;
+    ExpectLastMessage(ui, text, title, MessageIcon::kExclamation);
+    EXPECT_EQ(surface.ObjectCount(kPage), objects) << key;
+  }
+
   PlacementContext context{surface, state, ui, kCaption, true};
   PlacementState placement;
 };
@@ -161,10 +170,7 @@ TEST_F(CreateModeTest, UninodalOnNothingIsSilentlyCancelled) {
 
 TEST_F(CreateModeTest, UninodalOnAnotherObjectIsRefused) {
   const int bv = Symbol("X_BV", 3000, 3000);
-  ArmCreation(placement, "X_CLAV");
-  EXPECT_EQ(Click(bv).created, 0);
-  ExpectLastMessage(ui, "un obj ne peut pas être déposé sur un autre", kCaption,
-                    MessageIcon::kExclamation);
+  ExpectRefused("X_CLAV", bv, "un obj ne peut pas être déposé sur un autre", kCaption);
   EXPECT_EQ(CountByName(surface, kINameCLAV), 0);
 }
 
@@ -177,19 +183,13 @@ TEST_F(CreateModeTest, ThirdElementOnANodeIsRefusedTheSecondAccepted) {
   ArmCreation(placement, "X_MARK");
   EXPECT_GT(Click(node).created, 0);
   EXPECT_TRUE(ui.Empty());
-  ArmCreation(placement, "X_HY");
-  EXPECT_EQ(Click(node).created, 0);
-  ExpectLastMessage(ui, "un noeud ne peut supporter qu'un obj au plus", kCaption,
-                    MessageIcon::kExclamation);
+  ExpectRefused("X_HY", node, "un noeud ne peut supporter qu'un obj au plus", kCaption);
   EXPECT_EQ(CountByName(surface, kINameHY), 0);
 }
 
 TEST_F(CreateModeTest, BasinNeedsTwoCollectorsDownstream) {
   const int node = NodeWithDownstream(1);
-  ArmCreation(placement, "X_RS");
-  EXPECT_EQ(Click(node).created, 0);
-  ExpectLastMessage(ui, "If faut 2 collecteurs en aval de ce noeud!", "Bassin",
-                    MessageIcon::kExclamation);
+  ExpectRefused("X_RS", node, "If faut 2 collecteurs en aval de ce noeud!", "Bassin");
   Link("X_CAF", node, Node(7000, 7000));
   ui.Clear();
   const int rs = Click(node).created;
@@ -201,18 +201,13 @@ TEST_F(CreateModeTest, BasinNeedsTwoCollectorsDownstream) {
 
 TEST_F(CreateModeTest, SeriesBasinRSPAlsoNeedsExactlyTwo) {
   const int node = NodeWithDownstream(3);
-  ArmCreation(placement, "X_RSP");
-  EXPECT_EQ(Click(node).created, 0);
-  ExpectLastMessage(ui, "If faut 2 collecteurs en aval de ce noeud!", "Bassin",
-                    MessageIcon::kExclamation);
+  ExpectRefused("X_RSP", node, "If faut 2 collecteurs en aval de ce noeud!", "Bassin");
 }
 
 TEST_F(CreateModeTest, DerivationNeedsTwoToFourCollectorsDownstream) {
   const char* kText = "If faut au moins 2 et au plus 4 collecteurs en aval de ce noeud!";
   const int five = NodeWithDownstream(5);
-  ArmCreation(placement, "X_DQQ");
-  EXPECT_EQ(Click(five).created, 0);
-  ExpectLastMessage(ui, kText, "Dérivation", MessageIcon::kExclamation);
+  ExpectRefused("X_DQQ", five, kText, "Dérivation");
   EXPECT_EQ(CountByName(surface, kINameDQQ), 0);
 }
 
@@ -224,9 +219,7 @@ TEST_F(CreateModeTest, DerivationAcceptedWithFourAndRefusedWithOne) {
   EXPECT_TRUE(ui.Empty());
   const int one = Node(9000, 9000);
   Link("X_CAC", one, Node(9500, 9500));
-  ArmCreation(placement, "X_DQQ");
-  EXPECT_EQ(Click(one).created, 0);
-  ExpectLastMessage(ui, kText, "Dérivation", MessageIcon::kExclamation);
+  ExpectRefused("X_DQQ", one, kText, "Dérivation");
 }
 
 // Nodes, catchments, gauges.

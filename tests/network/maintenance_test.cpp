@@ -14,8 +14,6 @@
 namespace pluvane {
 namespace {
 
-using MoveTest = PlacementTest;
-
 void Select(Surface& surface, std::initializer_list<int> objects) {
   surface.DeselectAll();
   for (int n : objects) {
@@ -24,14 +22,23 @@ void Select(Surface& surface, std::initializer_list<int> objects) {
   }
 }
 
+class MoveTest : public PlacementTest {
+ protected:
+  // The surface drags the selection; then the move is finished.
+  MoveOutcome Drag(std::initializer_list<int> objects, std::int32_t dx, std::int32_t dy,
+                   bool ctrl = false) {
+    Select(surface, objects);
+    surface.SetCurrentObject(kSelection);
+    surface.MoveObject(dx, dy);
+    return FinishMove(surface, state, ctrl);
+  }
+};
+
 TEST_F(MoveTest, PointsNoteTheirNewCentre) {
   const int node = Node(1000, 1000);
   const int outlet = Symbol("X_HYBV", 0, 0, node);
   const int bv = Symbol("X_BV", 3000, 3000);
-  Select(surface, {node, outlet, bv});
-  surface.SetCurrentObject(kSelection);
-  surface.MoveObject(101, 50);
-  const MoveOutcome outcome = FinishMove(surface, state, false);
+  const MoveOutcome outcome = Drag({node, outlet, bv}, 101, 50);
   EXPECT_EQ(outcome.updated, 2);
   EXPECT_EQ(TagOf(node, "Xlog"), "1101");
   EXPECT_EQ(TagOf(node, "Ylog"), "1050");
@@ -57,10 +64,7 @@ TEST_F(MoveTest, WithCtrlTheMapPositionAndLinkLengthsFollow) {
   const int ca = Link("X_CAO", c, a);
   const int tr = Link("X_TR", a, c);
   EXPECT_EQ(TagOf(ab, "L"), "3000");
-  Select(surface, {a});
-  surface.SetCurrentObject(kSelection);
-  surface.MoveObject(0, 4000);
-  FinishMove(surface, state, true);
+  Drag({a}, 0, 4000, true);
   EXPECT_EQ(TagOf(a, "Xlog"), "1000");
   EXPECT_EQ(TagOf(a, "Ylog"), "5000");
   EXPECT_EQ(TagOf(a, "Xus"), "1000");
@@ -84,10 +88,7 @@ TEST_F(MoveTest, MovingACalibrationPointSolvesTheMapAgain) {
   }
   ASSERT_TRUE(SolveCalibration(state.calibration));
   const int pt3 = FindObject(surface, "Id", "Pt3");
-  Select(surface, {pt3});
-  surface.SetCurrentObject(kSelection);
-  surface.MoveObject(-500, 0);
-  const MoveOutcome outcome = FinishMove(surface, state, false);
+  const MoveOutcome outcome = Drag({pt3}, -500, 0);
   EXPECT_TRUE(outcome.calibration_moved);
   EXPECT_TRUE(outcome.calibration_solved);
   EXPECT_EQ(state.calibration.logic_x[3], 500);
@@ -97,10 +98,7 @@ TEST_F(MoveTest, MovingACalibrationPointSolvesTheMapAgain) {
 TEST_F(MoveTest, TheRadiusOfActionFollows) {
   const int ellipse = surface.AddObject(kKindEllipse, 1000, 1000, 1400, 1400);
   CreateDefaultTags(surface, state, "X_RAYON", false);
-  Select(surface, {ellipse});
-  surface.SetCurrentObject(kSelection);
-  surface.MoveObject(100, 0);
-  FinishMove(surface, state, false);
+  Drag({ellipse}, 100, 0);
   EXPECT_EQ(TagOf(ellipse, "Xlog"), "1300");
   EXPECT_EQ(TagOf(ellipse, "Xus"), "1300");
   EXPECT_EQ(TagOf(ellipse, "Rayon"), "200");

@@ -71,9 +71,9 @@ TEST_F(PlacementTest, PrepareLinkSetsTheStyleOfTheKey) {
     double width;
     int style;
   };
-  const Row rows[] = {{"X_ROUT", 0, 0, 0},           {"X_CAC", 16711680, -1.5, 0},
-                      {"X_CAF", 255, -1.5, 0},       {"X_CAO", 16776960, -1.5, 0},
-                      {"X_TR", 0, 0, 2},             {"X_BIEF", 0, -3, 0}};
+  const Row rows[] = {{"X_ROUT", 0, 0, 0},     {"X_CAC", 16711680, -1.5, 0},
+                      {"X_CAF", 255, -1.5, 0}, {"X_CAO", 16776960, -1.5, 0},
+                      {"X_TR", 0, 0, 2},       {"X_BIEF", 0, -3, 0}};
   for (const Row& row : rows) {
     PrepareLink(surface, state, row.key);
     surface.SetCurrentObject(kDefaults);
