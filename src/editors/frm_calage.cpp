@@ -7,7 +7,7 @@
 #include "foundation/numbers.h"
 #include "foundation/text.h"
 #include "network/calibration_points.h"
-#include "network/cursor_keeper.h"
+#include "network/surface_guards.h"
 #include "network/load_calibration.h"
 #include "network/map_coordinates.h"
 #include "network/surface_helpers.h"

@@ -1,7 +1,7 @@
 #include "editors/frm_info_calage.h"
 
 #include "foundation/numbers.h"
-#include "network/cursor_keeper.h"
+#include "network/surface_guards.h"
 
 namespace pluvane {
 

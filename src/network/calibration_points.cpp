@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "foundation/numbers.h"
-#include "network/cursor_keeper.h"
+#include "network/surface_guards.h"
 #include "network/hidden_record.h"
 #include "network/surface_helpers.h"
 #include "network/symbol_file.h"

@@ -5,7 +5,7 @@
 #include "foundation/numbers.h"
 #include "foundation/text.h"
 #include "network/calibration_points.h"
-#include "network/cursor_keeper.h"
+#include "network/surface_guards.h"
 #include "network/georeferencing.h"
 #include "network/surface_helpers.h"
 

@@ -6,7 +6,7 @@
 
 #include "foundation/numbers.h"
 #include "foundation/text.h"
-#include "network/cursor_keeper.h"
+#include "network/surface_guards.h"
 #include "network/georeferencing.h"
 #include "network/surface_helpers.h"
 

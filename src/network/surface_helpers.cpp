@@ -4,7 +4,7 @@
 
 #include "foundation/numbers.h"
 #include "foundation/text.h"
-#include "network/cursor_keeper.h"
+#include "network/surface_guards.h"
 
 namespace pluvane {
 
@@ -97,6 +97,14 @@ int FindObject2(Surface& surface, std::string_view tag1, const TagMatch& value1,
     }
   }
   return 0;
+}
+
+std::vector<int> SelectedObjects(Surface& surface) {
+  CursorKeeper keeper(surface);
+  std::vector<int> selected;
+  surface.SetCurrentObject(kSelection);
+  for (int n = surface.FirstSelected(); n > 0; n = surface.NextSelected()) selected.push_back(n);
+  return selected;
 }
 
 int MaxIdNumber(Surface& surface, int i_name) {

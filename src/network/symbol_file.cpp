@@ -1,10 +1,12 @@
 #include "network/symbol_file.h"
 
 #include "foundation/paths.h"
+#include "foundation/text.h"
 
 namespace pluvane {
 
 std::string FindSymbolFile(const std::string& symbol_dir, std::string_view file_name) {
+  if (Trim(file_name).empty()) return "";
   const std::string name(file_name);
   const std::size_t dot = name.rfind('.');
   const std::string base = dot == std::string::npos ? name : name.substr(0, dot);
@@ -12,7 +14,7 @@ std::string FindSymbolFile(const std::string& symbol_dir, std::string_view file_
     std::string found = FindFileNoCase(symbol_dir, candidate);
     if (!found.empty()) return found;
   }
-  return JoinPath(symbol_dir, name);
+  return "";
 }
 
 }  // namespace pluvane

@@ -8,8 +8,7 @@
 
 namespace pluvane {
 
-// The path of the first file found; when none is there, the folder joined to
-// the name as given, so that the missing picture can still be named.
+// The path of the first file found; empty when none is there.
 std::string FindSymbolFile(const std::string& symbol_dir, std::string_view file_name);
 
 }  // namespace pluvane

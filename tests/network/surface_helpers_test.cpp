@@ -141,3 +141,25 @@ TEST_F(SurfaceHelpers, NodeHalfSizeFromTheFirstNodeOrTheSymbolSizeOrTheView) {
 
 }  // namespace
 }  // namespace pluvane
+
+namespace pluvane {
+namespace {
+
+TEST(SelectedObjectsTest, InCreationOrderAndCursorKept) {
+  Surface surface;
+  const int a = surface.AddObject(kKindRectangle, 0, 0, 10, 10);
+  const int b = surface.AddObject(kKindRectangle, 20, 0, 30, 10);
+  const int c = surface.AddObject(kKindRectangle, 40, 0, 50, 10);
+  for (int n : {c, a}) {
+    surface.SetCurrentObject(n);
+    surface.SetSelected(true);
+  }
+  surface.SetCurrentObject(b);
+  EXPECT_EQ(SelectedObjects(surface), (std::vector<int>{a, c}));
+  EXPECT_EQ(surface.CurrentObject(), b);
+  surface.DeselectAll();
+  EXPECT_TRUE(SelectedObjects(surface).empty());
+}
+
+}  // namespace
+}  // namespace pluvane

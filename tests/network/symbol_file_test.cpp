@@ -28,9 +28,10 @@ TEST(SymbolFile, NamesAreFoundWhateverTheirCase) {
   EXPECT_EQ(FindSymbolFile(dir.Path(), "CAL.wmf"), dir.File("cal.SVG"));
 }
 
-TEST(SymbolFile, AMissingSymbolKeepsItsName) {
+TEST(SymbolFile, AMissingSymbolIsEmpty) {
   TempFolder dir;
-  EXPECT_EQ(FindSymbolFile(dir.Path(), "CAL.wmf"), dir.File("CAL.wmf"));
+  EXPECT_EQ(FindSymbolFile(dir.Path(), "CAL.wmf"), "");
+  EXPECT_EQ(FindSymbolFile(dir.Path(), ""), "");
 }
 
 TEST(SymbolFile, TheShippedCalibrationSymbolIsFound) {
