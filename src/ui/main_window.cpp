@@ -8,6 +8,8 @@
 
 #include "foundation/numbers.h"
 #include "network/persistence.h"
+#include "shell/frm_preference.h"
+#include "ui/form_window.h"
 
 namespace pluvane {
 
@@ -37,6 +39,9 @@ void MainWindow::BuildMenus() {
   QAction* open = file->addAction("&Ouvrir...");
   open->setObjectName("mnuFile_Open");
   connect(open, &QAction::triggered, this, [this] { OpenFile(); });
+  QAction* preferences = file->addAction("&Préférence...");
+  preferences->setObjectName("mnuPreference");
+  connect(preferences, &QAction::triggered, this, [this] { OpenPreferences(); });
   QAction* quit = file->addAction("&Quitter ");
   quit->setObjectName("mnuFile_Quit");
   connect(quit, &QAction::triggered, this, [this] {
@@ -56,6 +61,16 @@ bool MainWindow::Activate() {
   statusBar()->show();
   RefreshSummary();
   return true;
+}
+
+void MainWindow::OpenPreferences() {
+  AppState& state = application_->state();
+  FrmPreference form(state, ui_, [this, &state] {
+    surface_.SetScale(0, 0, state.LogicWidth, state.LogicHeight, 4096);
+    surface_.Refresh();
+  });
+  FormWindow window(form, this);
+  window.exec();
 }
 
 void MainWindow::OpenFile() {

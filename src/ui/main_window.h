@@ -38,6 +38,7 @@ class MainWindow : public QMainWindow {
   void BuildMenus();
   void RefreshSummary();
   void OpenFile();
+  void OpenPreferences();
 
   Surface surface_;
   QtUserInterface ui_;

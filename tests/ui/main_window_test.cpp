@@ -6,21 +6,15 @@
 #include <QImage>
 #include <filesystem>
 
+#include "ui/test_app.h"
+
 namespace pluvane {
 namespace {
 
 namespace fs = std::filesystem;
 
-QApplication& App() {
-  static int argc = 1;
-  static char name[] = "test_ui";
-  static char* argv[] = {name, nullptr};
-  static QApplication* app = new QApplication(argc, argv);
-  return *app;
-}
-
 TEST(MainWindow, StartsOnTheShippedConfigurationAndShowsTheNetworkSummary) {
-  App();
+  TestApp();
   MainWindow window;
   ASSERT_TRUE(window.Start(PLUVANE_BIN, ""));
   window.show();
@@ -31,7 +25,7 @@ TEST(MainWindow, StartsOnTheShippedConfigurationAndShowsTheNetworkSummary) {
   EXPECT_TRUE(summary.contains("1 objets sur le dessin."));
   const QImage shot = window.grab().toImage();
   EXPECT_FALSE(shot.isNull());
-  shot.save(QString::fromStdString((fs::path(PLUVANE_BIN).parent_path() / "main_window.png").string()));
+  shot.save(QString::fromStdString(SnapshotPath("main_window.png")));
   window.application().QuitCommand();
   window.close();
 }

@@ -1,0 +1,40 @@
+// The one window that shows any form's logic: its caption, a table for each
+// of its grids, a button for each of its commands. A click runs the command;
+// when the command has unloaded the form, the window closes.
+#pragma once
+
+#include <QDialog>
+#include <QPushButton>
+#include <QTableView>
+#include <vector>
+
+#include "foundation/form_controller.h"
+#include "ui/grid_table_model.h"
+
+namespace pluvane {
+
+class FormWindow : public QDialog {
+  Q_OBJECT
+
+ public:
+  explicit FormWindow(FormController& controller, QWidget* parent = nullptr);
+
+  QTableView* Table(int index) const { return tables_.at(index); }
+  QPushButton* Button(const std::string& command) const;
+  // Runs a command as its button does.
+  void RunCommand(const std::string& command);
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+
+ private:
+  void RefreshButtons();
+  void FitToGrids();
+
+  FormController& controller_;
+  std::vector<QTableView*> tables_;
+  std::vector<GridTableModel*> models_;
+  std::vector<std::pair<std::string, QPushButton*>> buttons_;
+};
+
+}  // namespace pluvane

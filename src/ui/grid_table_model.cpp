@@ -1,0 +1,183 @@
+#include "ui/grid_table_model.h"
+
+#include <QBrush>
+#include <QComboBox>
+
+#include "foundation/numbers.h"
+
+namespace pluvane {
+
+namespace {
+
+QString Q(const std::string& s) { return QString::fromStdString(s); }
+
+}  // namespace
+
+QColor QtColourOf(std::int32_t colour) {
+  return QColor(colour & 0xFF, (colour >> 8) & 0xFF, (colour >> 16) & 0xFF);
+}
+
+GridTableModel::GridTableModel(Grid& grid, QObject* parent)
+    : QAbstractTableModel(parent), grid_(grid) {
+  listener_ = grid_.AddListener([this](const GridChange& change) { OnChange(change); });
+}
+
+GridTableModel::~GridTableModel() { grid_.RemoveListener(listener_); }
+
+int GridTableModel::rowCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : grid_.MaxRows();
+}
+
+int GridTableModel::columnCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : grid_.MaxCols();
+}
+
+QVariant GridTableModel::data(const QModelIndex& index, int role) const {
+  if (!index.isValid()) return {};
+  const int col = ColOf(index), row = RowOf(index);
+  const Cell& cell = grid_.At(col, row);
+  const bool check = cell.type.kind == CellType::kCheckBox;
+  switch (role) {
+    case Qt::DisplayRole:
+      return check ? QVariant() : QVariant(Q(cell.text));
+    case Qt::EditRole:
+      return Q(cell.text);
+    case Qt::CheckStateRole:
+      if (!check) return {};
+      return Val(cell.text) != 0 ? Qt::Checked : Qt::Unchecked;
+    case Qt::BackgroundRole:
+      if (cell.back_colour == kDefaultColour) return {};
+      return QBrush(QtColourOf(cell.back_colour));
+    case Qt::ForegroundRole:
+      if (cell.fore_colour == kDefaultColour) return {};
+      return QBrush(QtColourOf(cell.fore_colour));
+    case Qt::ToolTipRole:
+      return cell.note.empty() ? QVariant() : QVariant(Q(cell.note));
+    case Qt::TextAlignmentRole:
+      if (cell.type.kind == CellType::kInteger || cell.type.kind == CellType::kFloat) {
+        return int(Qt::AlignRight | Qt::AlignVCenter);
+      }
+      return {};
+    default:
+      return {};
+  }
+}
+
+bool GridTableModel::setData(const QModelIndex& index, const QVariant& value, int role) {
+  if (!index.isValid()) return false;
+  const int col = ColOf(index), row = RowOf(index);
+  if (grid_.Locked(col, row)) return false;
+  if (role == Qt::CheckStateRole) {
+    grid_.SetText(col, row, value.toInt() == Qt::Checked ? "1" : "0");
+    return true;
+  }
+  if (role != Qt::EditRole) return false;
+  QString text = value.toString();
+  const CellType& type = grid_.Type(col, row);
+  if (type.kind == CellType::kInteger || type.kind == CellType::kFloat) {
+    // Numbers keep the point whatever the keyboard gave.
+    text.replace(',', '.');
+  }
+  grid_.SetText(col, row, text.toStdString());
+  return true;
+}
+
+QVariant GridTableModel::headerData(int section, Qt::Orientation orientation, int role) const {
+  if (role != Qt::DisplayRole) return {};
+  if (orientation == Qt::Horizontal) return Q(grid_.Text(section + 1, 0));
+  const std::string& head = grid_.Text(0, section + 1);
+  return head.empty() ? QVariant(section + 1) : QVariant(Q(head));
+}
+
+Qt::ItemFlags GridTableModel::flags(const QModelIndex& index) const {
+  if (!index.isValid()) return Qt::NoItemFlags;
+  Qt::ItemFlags flags = Qt::ItemIsSelectable | Qt::ItemIsEnabled;
+  const int col = ColOf(index), row = RowOf(index);
+  if (grid_.Locked(col, row)) return flags;
+  if (grid_.Type(col, row).kind == CellType::kCheckBox) return flags | Qt::ItemIsUserCheckable;
+  if (grid_.Type(col, row).kind == CellType::kButton) return flags;
+  return flags | Qt::ItemIsEditable;
+}
+
+void GridTableModel::OnChange(const GridChange& change) {
+  switch (change.kind) {
+    case GridChange::kCells: {
+      const int last_row = std::max(0, grid_.MaxRows() - 1);
+      const int last_col = std::max(0, grid_.MaxCols() - 1);
+      const int r1 = std::clamp(change.row1 - 1, 0, last_row);
+      const int r2 = std::clamp(change.row2 - 1, 0, last_row);
+      const int c1 = std::clamp(change.col1 - 1, 0, last_col);
+      const int c2 = std::clamp(change.col2 - 1, 0, last_col);
+      emit dataChanged(index(r1, c1), index(r2, c2));
+      if (change.row1 == 0 || change.col1 == 0) {
+        emit headerDataChanged(Qt::Horizontal, 0, last_col);
+        emit headerDataChanged(Qt::Vertical, 0, last_row);
+      }
+      break;
+    }
+    case GridChange::kRowsInserting:
+      beginInsertRows({}, change.row1 - 1, change.row2 - 1);
+      break;
+    case GridChange::kRowsInserted:
+      endInsertRows();
+      break;
+    case GridChange::kRowsRemoving:
+      beginRemoveRows({}, change.row1 - 1, change.row2 - 1);
+      break;
+    case GridChange::kRowsRemoved:
+      endRemoveRows();
+      break;
+    case GridChange::kColsInserting:
+      beginInsertColumns({}, change.col1 - 1, change.col2 - 1);
+      break;
+    case GridChange::kColsInserted:
+      endInsertColumns();
+      break;
+    case GridChange::kColsRemoving:
+      beginRemoveColumns({}, change.col1 - 1, change.col2 - 1);
+      break;
+    case GridChange::kColsRemoved:
+      endRemoveColumns();
+      break;
+    case GridChange::kActiveCell:
+      emit activeCellChanged(change.col1, change.row1);
+      break;
+    case GridChange::kSelection:
+    case GridChange::kLayout:
+      emit headerDataChanged(Qt::Horizontal, 0, std::max(0, grid_.MaxCols() - 1));
+      break;
+  }
+}
+
+QWidget* GridItemDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem& option,
+                                        const QModelIndex& index) const {
+  const Grid& grid = model_->grid();
+  const int col = GridTableModel::ColOf(index), row = GridTableModel::RowOf(index);
+  if (grid.Type(col, row).kind != CellType::kList) {
+    return QStyledItemDelegate::createEditor(parent, option, index);
+  }
+  auto* combo = new QComboBox(parent);
+  for (const auto& entry : grid.ListEntries(col, row)) combo->addItem(Q(entry));
+  return combo;
+}
+
+void GridItemDelegate::setEditorData(QWidget* editor, const QModelIndex& index) const {
+  if (auto* combo = qobject_cast<QComboBox*>(editor)) {
+    combo->setCurrentIndex(model_->grid().ListIndex(GridTableModel::ColOf(index),
+                                                    GridTableModel::RowOf(index)));
+    return;
+  }
+  QStyledItemDelegate::setEditorData(editor, index);
+}
+
+void GridItemDelegate::setModelData(QWidget* editor, QAbstractItemModel* model,
+                                    const QModelIndex& index) const {
+  if (auto* combo = qobject_cast<QComboBox*>(editor)) {
+    model_->grid().SetListIndex(GridTableModel::ColOf(index), GridTableModel::RowOf(index),
+                                combo->currentIndex());
+    return;
+  }
+  QStyledItemDelegate::setModelData(editor, model, index);
+}
+
+}  // namespace pluvane
