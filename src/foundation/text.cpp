@@ -263,11 +263,24 @@ bool ReadTextLines(const std::string& path, std::vector<std::string>& lines) {
   return true;
 }
 
-bool WriteTextLines(const std::string& path, const std::vector<std::string>& lines) {
-  std::ofstream out(path, std::ios::binary | std::ios::trunc);
+namespace {
+
+bool WriteLines(const std::string& path, const std::vector<std::string>& lines,
+                std::ios::openmode mode) {
+  std::ofstream out(path, std::ios::binary | mode);
   if (!out) return false;
   for (const auto& line : lines) out << Utf8ToCp1252(line) << "\r\n";
   return static_cast<bool>(out.flush());
+}
+
+}  // namespace
+
+bool AppendTextLines(const std::string& path, const std::vector<std::string>& lines) {
+  return WriteLines(path, lines, std::ios::app);
+}
+
+bool WriteTextLines(const std::string& path, const std::vector<std::string>& lines) {
+  return WriteLines(path, lines, std::ios::trunc);
 }
 
 std::string QuotedPart(std::string_view line, int& position) {

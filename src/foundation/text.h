@@ -45,6 +45,9 @@ bool ReadTextLines(const std::string& path, std::vector<std::string>& lines);
 // Writes lines in Windows-1252, each ended by CR LF, replacing the file.
 bool WriteTextLines(const std::string& path, const std::vector<std::string>& lines);
 
+// Appends lines in Windows-1252, each ended by CR LF; creates the file.
+bool AppendTextLines(const std::string& path, const std::vector<std::string>& lines);
+
 // The text between the first two apostrophes, trimmed; an unclosed quote takes
 // the rest of the line. `position` gets the 1-based place of the first
 // apostrophe, 0 (and an empty result) when there is none.
