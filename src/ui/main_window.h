@@ -1,16 +1,21 @@
 // The program's main window: it owns the drawing and the application, drives
-// the start (first load, first activation) and the end (Quit, close), and
-// shows the network. For now the network is shown as a summary of its
-// elements by kind.
+// the start (first load, first activation) and the end (Quit, close), builds
+// its menus from the program's menu table and runs their commands. Until the
+// drawing view is in, the network shows as a summary of its elements by kind.
 #pragma once
 
 #include <QLabel>
 #include <QMainWindow>
+#include <functional>
+#include <map>
 #include <memory>
+#include <string>
 
 #include "network/surface.h"
 #include "shell/application.h"
 #include "ui/qt_user_interface.h"
+
+class QMenu;
 
 namespace pluvane {
 
@@ -28,6 +33,10 @@ class MainWindow : public QMainWindow {
 
   Surface& surface() { return surface_; }
   Application& application() { return *application_; }
+  // Runs a menu command by its name, as a click on the item does.
+  void RunMenu(const std::string& name);
+  // The action of a menu item, by name (nullptr when none).
+  QAction* Action(const std::string& name) const;
   // The summary shown in the window.
   QString Summary();
 
@@ -36,14 +45,18 @@ class MainWindow : public QMainWindow {
 
  private:
   void BuildMenus();
+  void BindCommands();
   void RefreshSummary();
-  void OpenFile();
+  void RefreshRecentFiles();
   void OpenPreferences();
 
   Surface surface_;
   QtUserInterface ui_;
   std::unique_ptr<Application> application_;
   QLabel* summary_ = nullptr;
+  QMenu* recent_menu_ = nullptr;
+  std::map<std::string, QAction*> actions_;
+  std::map<std::string, std::function<void()>> commands_;
 };
 
 }  // namespace pluvane

@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QImage>
+#include <QStatusBar>
 #include <filesystem>
 
 #include "ui/test_app.h"
@@ -26,6 +27,23 @@ TEST(MainWindow, StartsOnTheShippedConfigurationAndShowsTheNetworkSummary) {
   const QImage shot = window.grab().toImage();
   EXPECT_FALSE(shot.isNull());
   shot.save(QString::fromStdString(SnapshotPath("main_window.png")));
+  window.application().QuitCommand();
+  window.close();
+}
+
+TEST(MainWindow, EveryMenuItemExistsAndTheUnbuiltOnesSaySo) {
+  TestApp();
+  MainWindow window;
+  ASSERT_TRUE(window.Start(PLUVANE_BIN, ""));
+  ASSERT_TRUE(window.Activate());
+  for (const char* name : {"mnuFile_Open", "mnuFile_Quit", "mnuScn_ModeleRun", "MnuFi_Import_Mif_Nod",
+                           "mnuExploit_ResCarto", "mnuMyUtil_Down", "mnuRufList"}) {
+    EXPECT_NE(window.Action(name), nullptr) << name;
+  }
+  EXPECT_EQ(window.Action("mnuFile")->text(), "&Fichier");
+  EXPECT_EQ(window.Action("mnuFile_SaveAs")->text(), "S&auvegarder sous...");
+  window.RunMenu("mnuExploit_ResCarto");
+  EXPECT_EQ(window.statusBar()->currentMessage(), "Fonction non disponible dans cette version.");
   window.application().QuitCommand();
   window.close();
 }
