@@ -15,11 +15,16 @@ bool IsRealRain(int kind) { return kind == 103 || kind == 108; }
 
 std::string KindText(int kind) {
   switch (kind) {
-    case 104: return " : Pluie Caquot : ";
-    case 105: return " : Pluie simple triangle : ";
-    case 106: return " : Pluie double triangle : ";
-    case 107: return " : Pluie synthétique I(t) : ";
-    default: return " : ";
+    case 104:
+      return " : Pluie Caquot : ";
+    case 105:
+      return " : Pluie simple triangle : ";
+    case 106:
+      return " : Pluie double triangle : ";
+    case 107:
+      return " : Pluie synthétique I(t) : ";
+    default:
+      return " : ";
   }
 }
 

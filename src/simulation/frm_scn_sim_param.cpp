@@ -6,25 +6,12 @@
 #include "foundation/grid_checks.h"
 #include "foundation/grid_rows.h"
 #include "foundation/text.h"
-#include "network/hidden_record.h"
 #include "network/surface_guards.h"
 #include "network/surface_helpers.h"
 #include "simulation/frm_scn_sim_param_plus.h"
 #include "simulation/scenario_records.h"
 
 namespace pluvane {
-
-namespace {
-
-// Writes the four tags every scenario record carries.
-void WriteScenarioHead(Surface& surface, const std::string& id, const std::string& title) {
-  surface.SetObjTag("iGroup", -1);
-  surface.SetObjTag("iName", kCalcScenario);
-  surface.SetObjTag("Id", id);
-  surface.SetObjTag("UsId", title);
-}
-
-}  // namespace
 
 FrmScnSimParam::FrmScnSimParam(Surface& surface, AppState& state, UserInterface& ui,
                                ShowModal show_modal)
@@ -82,7 +69,9 @@ void FrmScnSimParam::mnIns() {
   NameNewRow(row);
 }
 
-void FrmScnSimParam::mnDel() { SSMarkRowDeleted(surface_, kCalcScenario, grid_, grid_.ActiveRow()); }
+void FrmScnSimParam::mnDel() {
+  SSMarkRowDeleted(surface_, kCalcScenario, grid_, grid_.ActiveRow());
+}
 
 void FrmScnSimParam::mnSave() {
   if (!SSCheckFilled(grid_, kColId, ui_)) return;
@@ -126,9 +115,7 @@ int FrmScnSimParam::NameNewRow(int row) {
   grid_.SetText(kColEdit, row, "&Editer...");
   grid_.SetActiveCell(kColId, row);
   CursorKeeper keeper(surface_);
-  const int created = AddHiddenRecord(surface_, state_);
-  WriteScenarioHead(surface_, name, name);
-  return created;
+  return AddScenarioRecord(surface_, state_, name, name);
 }
 
 void FrmScnSimParam::CopySettings(const std::string& from_id, int to) {

@@ -9,20 +9,6 @@
 
 namespace pluvane {
 
-namespace {
-
-int AddScenarioRecord(Surface& surface, const AppState& state, const std::string& id,
-                      const std::string& title) {
-  const int number = AddHiddenRecord(surface, state);
-  surface.SetObjTag("Id", id);
-  surface.SetObjTag("UsId", title);
-  surface.SetObjTag("iName", kCalcScenario);
-  surface.SetObjTag("iGroup", -1);
-  return number;
-}
-
-}  // namespace
-
 FrmScnSimParamSelect::FrmScnSimParamSelect(Surface& surface, AppState& state, UserInterface& ui)
     : surface_(surface), state_(state), ui_(ui), grid_(1, 1) {
   grid_.SetCaption(Caption());

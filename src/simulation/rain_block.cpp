@@ -56,8 +56,8 @@ void CopyExternalRain(UserInterface& ui, const std::string& keyword, const std::
   if (ExtractRainBlock(ui, keyword, source, destination, rain_name)) return;
   if (EqualsNoCase(FileNameOf(destination), FileNameOf(source))) return;
   std::error_code error;
-  std::filesystem::copy_file(source, destination,
-                             std::filesystem::copy_options::overwrite_existing, error);
+  std::filesystem::copy_file(source, destination, std::filesystem::copy_options::overwrite_existing,
+                             error);
   if (error) throw FileError(error.value());
 }
 

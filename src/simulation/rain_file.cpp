@@ -148,20 +148,29 @@ void WriteOrThrow(const std::string& path, const Lines& lines) {
 
 std::string RainKeyword(int i_pluie) {
   switch (i_pluie) {
-    case 103: return "PR     ";
-    case 104: return "CAQ       ";
-    case 105: return "PPST     ";
-    case 106: return "PPDT     ";
-    case 107: return "PPHY     ";
-    case 108: return "PRAD    ";
-    case 127: return "PR";
-    case 128: return "PPHY";
-    default: return "";
+    case 103:
+      return "PR     ";
+    case 104:
+      return "CAQ       ";
+    case 105:
+      return "PPST     ";
+    case 106:
+      return "PPDT     ";
+    case 107:
+      return "PPHY     ";
+    case 108:
+      return "PRAD    ";
+    case 127:
+      return "PR";
+    case 128:
+      return "PPHY";
+    default:
+      return "";
   }
 }
 
-void LocateRainCentre(Surface& surface, const Calibration& calibration, int radius_kind,
-                      double& x, double& y, double& r) {
+void LocateRainCentre(Surface& surface, const Calibration& calibration, int radius_kind, double& x,
+                      double& y, double& r) {
   CursorKeeper keeper(surface);
   if (FindObject(surface, "iName", radius_kind) > 10) {
     r = Val(surface.ObjTag("Rayon"));

@@ -25,8 +25,8 @@ std::string RainKeyword(int i_pluie);
 // gives its radius (tag Rayon) and its centre (Xlog, Ylog on the map);
 // without one the storm is centred on the middle of the logical extent with
 // the radius 9999999. X and Y are map coordinates.
-void LocateRainCentre(Surface& surface, const Calibration& calibration, int radius_kind,
-                      double& x, double& y, double& r);
+void LocateRainCentre(Surface& surface, const Calibration& calibration, int radius_kind, double& x,
+                      double& y, double& r);
 
 // Writes the .Scn file: the scenario's Id, then its Design. False when the
 // file cannot be written.

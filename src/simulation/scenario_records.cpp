@@ -2,6 +2,7 @@
 
 #include "foundation/numbers.h"
 #include "foundation/text.h"
+#include "network/hidden_record.h"
 #include "network/surface_guards.h"
 #include "network/surface_helpers.h"
 #include "simulation/scenario_mode.h"
@@ -25,6 +26,20 @@ int FindRecord(Surface& surface, int i_name, const std::string& id) {
     }
   }
   return 0;
+}
+
+void WriteScenarioHead(Surface& surface, const std::string& id, const std::string& title) {
+  surface.SetObjTag("iGroup", -1);
+  surface.SetObjTag("iName", kCalcScenario);
+  surface.SetObjTag("Id", id);
+  surface.SetObjTag("UsId", title);
+}
+
+int AddScenarioRecord(Surface& surface, const AppState& state, const std::string& id,
+                      const std::string& title) {
+  const int number = AddHiddenRecord(surface, state);
+  WriteScenarioHead(surface, id, title);
+  return number;
 }
 
 void TakeScenarioSettings(Surface& surface, AppState& state, int scenario) {

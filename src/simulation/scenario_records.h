@@ -36,6 +36,12 @@ std::int16_t CalcModeValue(const std::string& calc_mode);
 // in capitals. It is left current; 0 when none (the cursor is put back).
 int FindRecord(Surface& surface, int i_name, const std::string& id);
 
+// Writes iGroup -1, iName 111, Id and UsId on the current object.
+void WriteScenarioHead(Surface& surface, const std::string& id, const std::string& title);
+// A new scenario record holding those four tags only; it is left current.
+int AddScenarioRecord(Surface& surface, const AppState& state, const std::string& id,
+                      const std::string& title);
+
 // Takes the scenario record's CalcDuree, CalcDt and CalcMode into the state.
 void TakeScenarioSettings(Surface& surface, AppState& state, int scenario);
 

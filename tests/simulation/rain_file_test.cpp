@@ -290,14 +290,15 @@ TEST_F(ExternalRainTest, LastBlockOfTheFileLosesItsLastLine) {
 }
 
 TEST_F(ExternalRainTest, HyetographBlockEndsAtTheNextHead) {
-  ExternalRain(128, "H1", Source("PR 'H1'\r\n 1 0\r\n"
-                                 "  PPHY 'H1'  \r\n"
-                                 "    25000.    35000.    5000.0\r\n"
-                                 "  2\r\n"
-                                 "   0.00     10.00\r\n"
-                                 "  30.00      0.00\r\n"
-                                 "ppdt 'x'\r\n"
-                                 "1\r\n2\r\n"));
+  ExternalRain(128, "H1",
+               Source("PR 'H1'\r\n 1 0\r\n"
+                      "  PPHY 'H1'  \r\n"
+                      "    25000.    35000.    5000.0\r\n"
+                      "  2\r\n"
+                      "   0.00     10.00\r\n"
+                      "  30.00      0.00\r\n"
+                      "ppdt 'x'\r\n"
+                      "1\r\n2\r\n"));
   EXPECT_EQ(Generate(), 1);
   EXPECT_EQ(PluBytes(), Expected("external_hyetograph.PLU"));
 }
@@ -348,8 +349,7 @@ TEST_F(ExternalRainTest, KeywordMustBeTheWholeFirstField) {
 }
 
 TEST_F(ExternalRainTest, LaterBlockOfTheSameNameReplacesTheFirst) {
-  const std::string source =
-      Source("PR 'Ev1'\r\n1\r\n2\r\nPPHY 'h'\r\n5\r\nPR 'Ev1'\r\n6\r\n");
+  const std::string source = Source("PR 'Ev1'\r\n1\r\n2\r\nPPHY 'h'\r\n5\r\nPR 'Ev1'\r\n6\r\n");
   const std::string out = folder_.File("out.PLU");
   EXPECT_TRUE(ExtractRainBlock(ui_, "PR", source, out, "Ev1"));
   EXPECT_EQ(ReadBytes(out), "PR 'Ev1'\r\n");

@@ -142,8 +142,9 @@ TEST_F(ScenarioChoiceTest, RainScenarioListsTheRainsAndSavesTheChoice) {
     EXPECT_EQ(g.ColHead(2), "Identif. du scénario");
     EXPECT_EQ(g.ColHead(3), "Type de pluie");
     EXPECT_EQ(g.MaxRows(), 2);
-    EXPECT_EQ(g.ListEntries(1, 1), (std::vector<std::string>{"103 : Pluie1 : Orage : real",
-                                                             "104 : CAQ_1 : Pluie Caquot : Paris"}));
+    EXPECT_EQ(g.ListEntries(1, 1),
+              (std::vector<std::string>{"103 : Pluie1 : Orage : real",
+                                        "104 : CAQ_1 : Pluie Caquot : Paris"}));
     g.SetListIndex(1, 1, 0);
     g.SetText(2, 1, "Orage de mai");
     form.Run("cmdOk");

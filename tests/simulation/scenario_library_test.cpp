@@ -1,13 +1,13 @@
-#include "simulation/frm_scn_sim_param.h"
-
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <functional>
 
+#include "editors/library_rows.h"
 #include "foundation/expect_message.h"
 #include "network/surface_helpers.h"
 #include "scenario_fixture.h"
+#include "simulation/frm_scn_sim_param.h"
 #include "simulation/frm_scn_sim_param_plus.h"
 
 namespace pluvane {
@@ -186,6 +186,18 @@ TEST_F(ScenarioLibraryTest, EditOpensTheScenarioWithItsDefaults) {
   EXPECT_EQ(Tag(n, "CalcDuree"), "60");
   EXPECT_EQ(Tag(n, "CalcDt"), "2");
   EXPECT_EQ(Tag(n, "CalcMode"), "");
+}
+
+TEST_F(ScenarioLibraryTest, MarkingTheLastRowKeepsTheCursorAndAnOutsideRowDoesNothing) {
+  AddScenario("Scn-1", "CAQ_1", 104);
+  FrmScnSimParam form = Form();
+  SSMarkRowDeleted(surface_, 111, form.grid(), 2);
+  EXPECT_EQ(Tag(ScenarioObject("Scn-1"), "okDel"), "");
+  EXPECT_EQ(form.grid().BackColour(1, 1), kDefaultColour);
+  form.Run("mnDel");
+  EXPECT_EQ(Tag(ScenarioObject("Scn-1"), "okDel"), "$");
+  EXPECT_EQ(form.grid().ActiveRow(), 1);
+  EXPECT_EQ(form.grid().BackColour(3, 1), kButtonFaceColour);
 }
 
 }  // namespace
