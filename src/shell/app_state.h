@@ -71,6 +71,15 @@ struct AppState {
   std::string NetworkBase;
   std::string ModelFolder;
   std::string ModelName;
+
+  // The calculation scenario's forms. The rain chosen in the rain list, as its
+  // four texts (Id, UsId, kind, mode), and the state the list leaves behind:
+  // "ScnPluieSelected" once a rain was taken, empty otherwise.
+  std::string IdPluie;
+  std::string UsIdPluie;
+  std::string iPluie;
+  std::string iModePluie;
+  std::string ScnPluieState;
 };
 
 }  // namespace pluvane

@@ -1,0 +1,135 @@
+#include "simulation/frm_scn_sim_param.h"
+
+#include <utility>
+
+#include "editors/library_rows.h"
+#include "foundation/grid_checks.h"
+#include "foundation/grid_rows.h"
+#include "foundation/text.h"
+#include "network/surface_guards.h"
+#include "network/surface_helpers.h"
+#include "simulation/frm_scn_sim_param_plus.h"
+#include "simulation/scenario_records.h"
+
+namespace pluvane {
+
+FrmScnSimParam::FrmScnSimParam(Surface& surface, AppState& state, UserInterface& ui,
+                               ShowModal show_modal)
+    : surface_(surface), state_(state), ui_(ui), show_modal_(std::move(show_modal)), grid_(3, 0) {
+  grid_.SetCaption(Caption());
+  grid_.SetColHead(kColId, "Désignation du scénario (16 car)");
+  grid_.SetColHead(kColUsId, "Titre du scénario (80 car)");
+  grid_.SetColHead(kColEdit, "Paramétrage du scénario");
+  grid_.SetColumnType(kColEdit, CellType::Button());
+  CursorKeeper keeper(surface_);
+  for (int number : FindObjectList(surface_, "iName", kCalcScenario)) {
+    surface_.SetCurrentObject(number);
+    const int row = grid_.MaxRows() + 1;
+    grid_.SetMaxRows(row);
+    grid_.SetText(kColId, row, surface_.ObjTag("Id"));
+    grid_.SetText(kColUsId, row, surface_.ObjTag("UsId"));
+    grid_.SetText(kColEdit, row, "&Editer...");
+  }
+}
+
+std::vector<FormCommand> FrmScnSimParam::Commands() const {
+  return {{"mnAdd", "&Ajouter"},
+          {"mnIns", "&Insérer"},
+          {"mnDel", "&Supprimer"},
+          {"mnSave", "&Enregistrer"},
+          {"mnClose", "&Fermer"}};
+}
+
+void FrmScnSimParam::Run(const std::string& command) {
+  if (command == "mnAdd") mnAdd();
+  if (command == "mnIns") mnIns();
+  if (command == "mnDel") mnDel();
+  if (command == "mnSave") mnSave();
+  if (command == "mnClose") mnClose();
+  if (command == "EditRow") EditRow(grid_.ActiveRow());
+}
+
+void FrmScnSimParam::mnAdd() {
+  const int previous = grid_.ActiveRow();
+  const bool had_current = previous >= 1 && previous <= grid_.MaxRows();
+  const std::string previous_id = had_current ? Trim(grid_.Text(kColId, previous)) : "";
+  const int row = SSAddRow(grid_);
+  const int created = NameNewRow(row);
+  if (!had_current) return;
+  if (ui_.AskYesNo("Les données du scenario '" + previous_id +
+                       "'\rseront regénérées dans le nouveau scenario.\r\rVoulez-vous confirmer...",
+                   "Ajout de scenario")) {
+    CopySettings(previous_id, created);
+  }
+}
+
+void FrmScnSimParam::mnIns() {
+  int row = 0;
+  if (SSInsertRow(grid_, row) == 0) return;
+  NameNewRow(row);
+}
+
+void FrmScnSimParam::mnDel() {
+  SSMarkRowDeleted(surface_, kCalcScenario, grid_, grid_.ActiveRow());
+}
+
+void FrmScnSimParam::mnSave() {
+  if (!SSCheckFilled(grid_, kColId, ui_)) return;
+  deleted_ = DeleteMarkedRecords(surface_, kCalcScenario);
+  {
+    CursorKeeper keeper(surface_);
+    for (int row = 1; row <= grid_.MaxRows(); ++row) {
+      const std::string id = Trim(grid_.Text(kColId, row));
+      if (FindObject2(surface_, "iName", kCalcScenario, "Id", id) < 11) continue;
+      WriteScenarioHead(surface_, id, Trim(grid_.Text(kColUsId, row)));
+    }
+  }
+  Close();
+}
+
+void FrmScnSimParam::RenameRow(int row, const std::string& old_id) {
+  if (row < 1 || row > grid_.MaxRows() || Trim(old_id).empty()) return;
+  CursorKeeper keeper(surface_);
+  if (FindObject2(surface_, "iName", kCalcScenario, "Id", old_id) > 10) {
+    surface_.SetObjTag("Id", Trim(grid_.Text(kColId, row)));
+  }
+}
+
+void FrmScnSimParam::EditRow(int row) {
+  if (row < 1 || row > grid_.MaxRows()) return;
+  const std::string id = Trim(grid_.Text(kColId, row));
+  const int scenario = FindObject2(surface_, "iName", kCalcScenario, "Id", id);
+  if (scenario < 11) return;
+  FrmScnSimParamPlus form(surface_, state_, ui_, scenario, id, show_modal_);
+  if (show_modal_) show_modal_(form);
+}
+
+int FrmScnSimParam::NameNewRow(int row) {
+  std::string name = "Scn-" + std::to_string(row);
+  grid_.SetText(kColId, row, name);
+  if (SSFindDuplicate(grid_, kColId, ui_) != 0) {
+    name += "-1";
+    grid_.SetText(kColId, row, name);
+  }
+  grid_.SetText(kColUsId, row, name);
+  grid_.SetText(kColEdit, row, "&Editer...");
+  grid_.SetActiveCell(kColId, row);
+  CursorKeeper keeper(surface_);
+  return AddScenarioRecord(surface_, state_, name, name);
+}
+
+void FrmScnSimParam::CopySettings(const std::string& from_id, int to) {
+  CursorKeeper keeper(surface_);
+  const int from = FindObject2(surface_, "iName", kCalcScenario, "Id", from_id);
+  if (from < 11 || from == to) return;
+  std::vector<std::pair<std::string, std::string>> tags;
+  for (int i = 0; i < surface_.ObjTagCount(); ++i) {
+    const std::string name = surface_.ObjTagName(i);
+    if (name == "Id" || name == "UsId") continue;
+    tags.emplace_back(name, surface_.ObjTagValue(i));
+  }
+  surface_.SetCurrentObject(to);
+  for (const auto& [name, value] : tags) surface_.SetObjTag(name, value);
+}
+
+}  // namespace pluvane

@@ -1,0 +1,72 @@
+#include "simulation/frm_scn_sim_param_select.h"
+
+#include "foundation/text.h"
+#include "network/hidden_record.h"
+#include "network/network_parameters.h"
+#include "network/surface_guards.h"
+#include "network/surface_helpers.h"
+#include "simulation/scenario_records.h"
+
+namespace pluvane {
+
+FrmScnSimParamSelect::FrmScnSimParamSelect(Surface& surface, AppState& state, UserInterface& ui)
+    : surface_(surface), state_(state), ui_(ui), grid_(1, 1) {
+  grid_.SetCaption(Caption());
+  grid_.SetColHead(1, "Liste de scénarii disponibles");
+  CursorKeeper keeper(surface_);
+  if (CountByName(surface_, kCalcScenario) == 0) AddScenarioRecord(surface_, state_, "", "");
+  std::string items;
+  int preselected = -1;
+  int index = 0;
+  for (int number : FindObjectList(surface_, "iName", kCalcScenario)) {
+    surface_.SetCurrentObject(number);
+    const std::string id = surface_.ObjTag("Id");
+    if (index > 0) items += "\t";
+    items += id + " : " + surface_.ObjTag("UsId");
+    if (preselected < 0 && EqualsNoCase(Trim(id), Trim(state_.ScenarioName))) preselected = index;
+    ++index;
+  }
+  grid_.SetType(1, 1, CellType::List(items));
+  if (preselected >= 0) grid_.SetListIndex(1, 1, preselected);
+}
+
+std::vector<FormCommand> FrmScnSimParamSelect::Commands() const {
+  return {{"cmdOk", "&Ok"}, {"cmdAnnul", "&Annuler"}};
+}
+
+void FrmScnSimParamSelect::Run(const std::string& command) {
+  if (command == "cmdOk") cmdOk();
+  if (command == "cmdAnnul") cmdAnnul();
+}
+
+void FrmScnSimParamSelect::cmdOk() {
+  CursorKeeper keeper(surface_);
+  const std::string item = grid_.Text(1, 1);
+  const std::size_t colon = item.find(':');
+  const std::string id = Trim(item.substr(0, colon));
+  const std::string title = colon == std::string::npos ? "" : Trim(item.substr(colon + 1));
+  int scenario = FindRecord(surface_, kCalcScenario, id);
+  if (scenario == 0) {
+    scenario = AddScenarioRecord(surface_, state_, id, title);
+  }
+  state_.ScenarioName = id;
+  TakeScenarioSettings(surface_, state_, scenario);
+  WriteCurrentScenarioRecord(id, title);
+  ShowScenarioPanel(surface_, state_, ui_);
+  ReadParamReseau(surface_, state_);
+  Close();
+}
+
+void FrmScnSimParamSelect::WriteCurrentScenarioRecord(const std::string& id,
+                                                      const std::string& title) {
+  CursorKeeper keeper(surface_);
+  if (FindObject(surface_, "iName", kCurrentScenario) < 11) {
+    AddHiddenRecord(surface_, state_);
+    surface_.SetObjTag("iName", kCurrentScenario);
+    surface_.SetObjTag("iGroup", -1);
+  }
+  surface_.SetObjTag("Id", id);
+  surface_.SetObjTag("UsId", title);
+}
+
+}  // namespace pluvane

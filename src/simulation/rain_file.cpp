@@ -1,0 +1,224 @@
+#include "simulation/rain_file.h"
+
+#include <cerrno>
+#include <vector>
+
+#include "foundation/errors.h"
+#include "foundation/fixed_width.h"
+#include "foundation/numbers.h"
+#include "foundation/text.h"
+#include "network/georeferencing.h"
+#include "network/surface_guards.h"
+#include "network/surface_helpers.h"
+#include "simulation/rain_block.h"
+#include "simulation/scenario_records.h"
+
+namespace pluvane {
+
+namespace {
+
+using Lines = std::vector<std::string>;
+
+// Everything a block writer reads besides the rain record.
+struct RainContext {
+  Surface& surface;
+  UserInterface& ui;
+  const Calibration& calibration;
+  std::string name;  // the rain's name, "Toto" when the scenario has none
+  std::string mode;  // iModePluie of the rain record
+  double y_shift;
+};
+
+std::string Fixed(double value, int decimals) { return FormatFixed(value, 10, decimals); }
+double TagValue(Surface& surface, const std::string& tag) { return Val(surface.ObjTag(tag)); }
+std::string FixedTag(Surface& surface, const std::string& tag) {
+  return Fixed(TagValue(surface, tag), 2);
+}
+
+std::string HeadLine(int i_pluie, const std::string& name) {
+  return RainKeyword(i_pluie) + "'" + name + "'";
+}
+
+// The C line of a design storm.
+std::string CentreLine(const RainContext& c) {
+  double x = 0, y = 0, r = 0;
+  LocateRainCentre(c.surface, c.calibration, kRadiusKind, x, y, r);
+  return Fixed(x, 0) + Fixed(y - c.y_shift, 0) + Fixed(r, 1);
+}
+
+// The fields of a row of the gauge table, separated by tabs.
+std::vector<std::string> TabFields(const std::string& row) {
+  std::vector<std::string> fields;
+  std::size_t start = 0;
+  while (true) {
+    const std::size_t tab = row.find('\t', start);
+    fields.push_back(row.substr(start, tab == std::string::npos ? std::string::npos : tab - start));
+    if (tab == std::string::npos) return fields;
+    start = tab + 1;
+  }
+}
+
+// The centre of an object's box, in map coordinates.
+void MapCentre(Surface& surface, const Calibration& calibration, double& x, double& y) {
+  const double x_log = RoundLong((static_cast<double>(surface.ObjLeft()) + surface.ObjRight()) / 2);
+  const double y_log = RoundLong((static_cast<double>(surface.ObjTop()) + surface.ObjBottom()) / 2);
+  x = LogicToUserX(calibration, x_log, y_log);
+  y = LogicToUserY(calibration, x_log, y_log);
+}
+
+// The series of one gauge from the record table (object `table`), column g + 1.
+void WriteGaugeSeries(Surface& surface, int table, int gauge, double y_shift, Lines& out) {
+  CursorKeeper keeper(surface);
+  surface.SetCurrentObject(table);
+  const std::int32_t rows = ValLong(surface.ObjTag("NbPt"));
+  out.push_back(PadLong(rows - 1, 5));
+  for (std::int32_t j = 2; j <= rows; ++j) {
+    const std::vector<std::string> fields = TabFields(surface.ObjTag("Pt" + std::to_string(j)));
+    const double value = static_cast<std::size_t>(gauge) + 1 <= fields.size()
+                             ? Val(fields[static_cast<std::size_t>(gauge)])
+                             : 0;
+    out.push_back(Fixed(Val(fields[0]), 2) + Fixed(value - y_shift, 2));
+  }
+  out.push_back("");
+}
+
+void WriteGaugeBlock(const RainContext& c, Lines& out) {
+  Surface& surface = c.surface;
+  const std::vector<int> gauges = FindObjectList(surface, "iName", kGaugeKind);
+  if (gauges.empty()) return;
+  out.push_back(HeadLine(103, c.name));
+  out.push_back(PadLong(static_cast<std::int32_t>(gauges.size()), 5) +
+                PadInt(static_cast<std::int16_t>(ValInt(c.mode) - 1), 5));
+  CursorKeeper keeper(surface);
+  for (std::size_t g = 1; g <= gauges.size(); ++g) {
+    surface.SetCurrentObject(gauges[g - 1]);
+    out.push_back(PadText("'" + surface.ObjTag("Id") + "'", 10, 2));
+    double x = 0, y = 0;
+    MapCentre(surface, c.calibration, x, y);
+    out.push_back(Fixed(x, 0) + Fixed(y - c.y_shift, 0));
+    const int table = FindObject(surface, "Id", c.name);
+    if (table > 10) WriteGaugeSeries(surface, table, static_cast<int>(g), c.y_shift, out);
+  }
+}
+
+// The block of a rain kept in the drawing, the rain record being current.
+void WriteRainBlock(int i_pluie, const RainContext& c, Lines& out) {
+  Surface& s = c.surface;
+  if (i_pluie == 103) return WriteGaugeBlock(c, out);
+  out.push_back(HeadLine(i_pluie, c.name));
+  switch (i_pluie) {
+    case 104:
+      out.push_back(FixedTag(s, "Ca") + FixedTag(s, "Cb"));
+      break;
+    case 105:
+      out.push_back(CentreLine(c));
+      out.push_back(FixedTag(s, "Ca") + FixedTag(s, "Cb"));
+      out.push_back(FixedTag(s, "Duree") + FixedTag(s, "Timax"));
+      break;
+    case 106:
+      out.push_back(CentreLine(c));
+      out.push_back(FixedTag(s, "CaTot") + FixedTag(s, "CbTot"));
+      out.push_back(FixedTag(s, "CaInt") + FixedTag(s, "CbInt"));
+      out.push_back(FixedTag(s, "DureeTot") + FixedTag(s, "DureeInt") + FixedTag(s, "Timax"));
+      break;
+    case 107: {
+      out.push_back(CentreLine(c));
+      const std::int32_t points = ValLong(s.ObjTag("NbPt"));
+      out.push_back(PadLong(points, 5));
+      for (std::int32_t i = 1; i <= points; ++i) {
+        const std::string n = std::to_string(i);
+        out.push_back(FixedTag(s, "X" + n) + Fixed(TagValue(s, "Y" + n) - c.y_shift, 2));
+      }
+      break;
+    }
+    case 108:
+      out.push_back(Trim(s.ObjTag("CrbFile")));
+      out.push_back(Trim(s.ObjTag("PrfFile")));
+      break;
+    default:
+      break;
+  }
+}
+
+void WriteOrThrow(const std::string& path, const Lines& lines) {
+  if (!WriteTextLines(path, lines)) throw FileError(errno != 0 ? errno : EACCES);
+}
+
+}  // namespace
+
+std::string RainKeyword(int i_pluie) {
+  switch (i_pluie) {
+    case 103:
+      return "PR     ";
+    case 104:
+      return "CAQ       ";
+    case 105:
+      return "PPST     ";
+    case 106:
+      return "PPDT     ";
+    case 107:
+      return "PPHY     ";
+    case 108:
+      return "PRAD    ";
+    case 127:
+      return "PR";
+    case 128:
+      return "PPHY";
+    default:
+      return "";
+  }
+}
+
+void LocateRainCentre(Surface& surface, const Calibration& calibration, int radius_kind, double& x,
+                      double& y, double& r) {
+  CursorKeeper keeper(surface);
+  if (FindObject(surface, "iName", radius_kind) > 10) {
+    r = Val(surface.ObjTag("Rayon"));
+    const double x_log = ValLong(surface.ObjTag("Xlog"));
+    const double y_log = ValLong(surface.ObjTag("Ylog"));
+    x = LogicToUserX(calibration, x_log, y_log);
+    y = LogicToUserY(calibration, x_log, y_log);
+    return;
+  }
+  const double x_log = surface.LogicLeft() + surface.LogicWidth() / 2.0;
+  const double y_log = surface.LogicTop() + surface.LogicHeight() / 2.0;
+  x = LogicToUserX(calibration, x_log, y_log);
+  y = LogicToUserY(calibration, x_log, y_log);
+  r = kWholeNetworkRadius;
+}
+
+bool GenFicScn(const std::string& path, const std::string& id, const std::string& design) {
+  return WriteTextLines(path, {id, design});
+}
+
+int GenFicPlu(Surface& surface, UserInterface& ui, const Calibration& calibration,
+              const std::string& scenario_name, const std::string& scn_path,
+              const std::string& plu_path, double y_shift) {
+  CursorKeeper keeper(surface);
+  if (FindRecord(surface, kCalcScenario, scenario_name) == 0) {
+    ui.ShowMessage("scenario de pluie non trouvé !", "", MessageIcon::kNone);
+    return 0;
+  }
+  const int i_pluie = ValInt(surface.ObjTag("iPluie"));
+  std::string name = surface.ObjTag("IdPluie");
+  const std::string id = surface.ObjTag("Id");
+  const std::string design = surface.ObjTag("Design");
+  const std::string mode =
+      FindRecord(surface, i_pluie, name) > 10 ? surface.ObjTag("iModePluie") : std::string();
+  if (name.empty()) name = "Toto";
+  if (!GenFicScn(scn_path, id, design)) throw FileError(errno != 0 ? errno : EACCES);
+
+  WriteOrThrow(plu_path, {});
+  if (RainKeyword(i_pluie).empty() || FindRecord(surface, i_pluie, name) < 11) return 1;
+  if (i_pluie == 127 || i_pluie == 128) {
+    const std::string source = surface.ObjTag("FileSpec");
+    CopyExternalRain(ui, RainKeyword(i_pluie), source, plu_path, name);
+    return 1;
+  }
+  Lines lines;
+  WriteRainBlock(i_pluie, RainContext{surface, ui, calibration, name, mode, y_shift}, lines);
+  WriteOrThrow(plu_path, lines);
+  return 1;
+}
+
+}  // namespace pluvane

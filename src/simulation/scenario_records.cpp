@@ -1,0 +1,66 @@
+#include "simulation/scenario_records.h"
+
+#include "foundation/numbers.h"
+#include "foundation/text.h"
+#include "network/hidden_record.h"
+#include "network/surface_guards.h"
+#include "network/surface_helpers.h"
+#include "simulation/scenario_mode.h"
+
+namespace pluvane {
+
+std::string CalcModeList() { return std::string(kModeDiagnostic) + "\t" + kModeDimensioning; }
+
+std::int16_t CalcModeValue(const std::string& calc_mode) {
+  return static_cast<std::int16_t>(ValInt(CharLeft(calc_mode, 1)) - 1);
+}
+
+int FindRecord(Surface& surface, int i_name, const std::string& id) {
+  const std::string wanted = UCase(Trim(id));
+  CursorKeeper keeper(surface);
+  for (int number : FindObjectList(surface, "iName", i_name)) {
+    surface.SetCurrentObject(number);
+    if (UCase(Trim(surface.ObjTag("Id"))) == wanted) {
+      keeper.Release();
+      return number;
+    }
+  }
+  return 0;
+}
+
+void WriteScenarioHead(Surface& surface, const std::string& id, const std::string& title) {
+  surface.SetObjTag("iGroup", -1);
+  surface.SetObjTag("iName", kCalcScenario);
+  surface.SetObjTag("Id", id);
+  surface.SetObjTag("UsId", title);
+}
+
+int AddScenarioRecord(Surface& surface, const AppState& state, const std::string& id,
+                      const std::string& title) {
+  const int number = AddHiddenRecord(surface, state);
+  WriteScenarioHead(surface, id, title);
+  return number;
+}
+
+void TakeScenarioSettings(Surface& surface, AppState& state, int scenario) {
+  CursorKeeper keeper(surface);
+  surface.SetCurrentObject(scenario);
+  if (surface.CurrentObject() != scenario) return;
+  state.CalcDuree = Val(surface.ObjTag("CalcDuree"));
+  state.CalcDt = Val(surface.ObjTag("CalcDt"));
+  state.CalcMode = CalcModeValue(surface.ObjTag("CalcMode"));
+}
+
+std::string ScenarioStatusText(Surface& surface, const std::string& scenario_name) {
+  return scenario_name + ScenarioModeText(surface, scenario_name);
+}
+
+void ShowScenarioPanel(Surface& surface, const AppState& state, UserInterface& ui) {
+  ui.ShowPanel("sbrSCN", ScenarioStatusText(surface, state.ScenarioName));
+}
+
+std::string GenerationMenuCaption(Surface& surface, const AppState& state) {
+  return "Génération du &modèle " + ScenarioStatusText(surface, state.ScenarioName);
+}
+
+}  // namespace pluvane
