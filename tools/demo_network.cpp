@@ -204,42 +204,16 @@ class DemoBuilder {
 
   void Elements() {
     const int hy = b_.OnNode("X_HY", N(17));
-    b_.Tags(hy, {{"libell", "Rejet industriel"},
-                 {"Qsec", 0.01},
-                 {"SR", 0},
-                 {"NbPt", 5},
-                 {"X1", 0},
-                 {"Y1", 0.01},
-                 {"X2", 30},
-                 {"Y2", 0.15},
-                 {"X3", 60},
-                 {"Y3", 0.40},
-                 {"X4", 90},
-                 {"Y4", 0.20},
-                 {"X5", 150},
-                 {"Y5", 0.01}});
+    b_.Tags(hy, {{"libell", "Rejet industriel"}, {"Qsec", 0.01}, {"SR", 0}, {"NbPt", 5}});
+    b_.Table(hy, {"X", "Y"}, {{0, 0.01}, {30, 0.15}, {60, 0.40}, {90, 0.20}, {150, 0.01}});
 
     const int dqq = b_.OnNode("X_DQQ", N(8));
     b_.Tags(dqq, {{"IdAval", b_.IdOf(cao_[{8, 9}])},
                   {"NbDer", 1},
                   {"IdDer_a", b_.IdOf(cac_[{8, 20}])},
-                  {"NbPt", 4},
-                  {"X1", 0},
-                  {"Y1", 0},
-                  {"Z1", 0},
-                  {"T1", 0},
-                  {"X2", 0.8},
-                  {"Y2", 0},
-                  {"Z2", 0},
-                  {"T2", 0},
-                  {"X3", 1.6},
-                  {"Y3", 0.5},
-                  {"Z3", 0},
-                  {"T3", 0},
-                  {"X4", 3.0},
-                  {"Y4", 1.4},
-                  {"Z4", 0},
-                  {"T4", 0}});
+                  {"NbPt", 4}});
+    b_.Table(dqq, {"X", "Y", "Z", "T"},
+             {{0, 0, 0, 0}, {0.8, 0, 0, 0}, {1.6, 0.5, 0, 0}, {3.0, 1.4, 0, 0}});
 
     const int dqz = b_.OnNode("X_DQZ", N(7));
     b_.Tags(dqz, {{"IdAval", b_.IdOf(caf_[{7, 8}])},
@@ -262,38 +236,21 @@ class DemoBuilder {
                  {"IdSurv", b_.IdOf(cao_[{22, 24}])},
                  {"Qf", 0.10},
                  {"Z0", 42.00},
-                 {"NbPt", 4},
-                 {"X1", 42.00},
-                 {"Y1", 1200},
-                 {"X2", 43.00},
-                 {"Y2", 1500},
-                 {"X3", 44.00},
-                 {"Y3", 1800},
-                 {"X4", 45.00},
-                 {"Y4", 2100}});
+                 {"NbPt", 4}});
+    b_.Table(rs, {"X", "Y"}, {{42.00, 1200}, {43.00, 1500}, {44.00, 1800}, {45.00, 2100}});
 
     const int rsp = b_.OnNode("X_RSP", N(15));
     b_.Tags(rsp, {{"libell", "Bassin des Prés"},
                   {"IdAval", b_.IdOf(cac_[{15, 16}])},
                   {"IdSurv", b_.IdOf(cac_[{15, 25}])},
                   {"Z0", 46.80},
-                  {"NbPt", 4},
-                  {"X1", 46.80},
-                  {"Y1", 400},
-                  {"Z1", 0},
-                  {"T1", 0},
-                  {"X2", 47.80},
-                  {"Y2", 650},
-                  {"Z2", 0.05},
-                  {"T2", 0},
-                  {"X3", 48.80},
-                  {"Y3", 900},
-                  {"Z3", 0.08},
-                  {"T3", 0.2},
-                  {"X4", 49.50},
-                  {"Y4", 1100},
-                  {"Z4", 0.10},
-                  {"T4", 1.5}});
+                  {"NbPt", 4}});
+    // Level, area, leak flow, overflow.
+    b_.Table(rsp, {"X", "Y", "Z", "T"},
+             {{46.80, 400, 0, 0},
+              {47.80, 650, 0.05, 0},
+              {48.80, 900, 0.08, 0.2},
+              {49.50, 1100, 0.10, 1.5}});
 
     const int clav = b_.OnNode("X_CLAV", N(10));
     b_.Tags(clav, {{"libell", "Exutoire Seine"}, {"Export", 1}});
@@ -303,20 +260,13 @@ class DemoBuilder {
     b_.Tags(gauge, {{"libell", "Pluvio Mairie"}});
   }
 
-  void Section(const char* id, const std::vector<std::pair<double, double>>& points) {
-    TagSet tags{{"Id", id},
-                {"iName", kINameSection},
-                {"iGroup", kGroupLibrary},
-                {"NbPt", static_cast<int>(points.size())}};
-    std::vector<std::string> names;
-    names.reserve(2 * points.size());
-    for (std::size_t i = 1; i <= points.size(); ++i) {
-      names.push_back("X" + std::to_string(i));
-      tags.emplace_back(names.back(), points[i - 1].first);
-      names.push_back("Y" + std::to_string(i));
-      tags.emplace_back(names.back(), points[i - 1].second);
-    }
-    b_.Record(tags);
+  // Points are (top width, height above the invert), in metres.
+  void Section(const char* id, const std::vector<std::vector<double>>& points) {
+    const int section = b_.Record({{"Id", id},
+                                   {"iName", kINameSection},
+                                   {"iGroup", kGroupLibrary},
+                                   {"NbPt", static_cast<int>(points.size())}});
+    b_.Table(section, {"X", "Y"}, points);
   }
 
   void Library() {
@@ -387,20 +337,9 @@ class DemoBuilder {
     b_.Record(twin);
 
     TagSet synthetic = StormHead("PIT_1", "Hyétogramme de projet", kINameSynthetic);
-    synthetic.insert(synthetic.end(), {{"NbPt", 6},
-                                       {"X1", 0},
-                                       {"Y1", 0},
-                                       {"X2", 15},
-                                       {"Y2", 12},
-                                       {"X3", 30},
-                                       {"Y3", 48},
-                                       {"X4", 45},
-                                       {"Y4", 20},
-                                       {"X5", 60},
-                                       {"Y5", 6},
-                                       {"X6", 90},
-                                       {"Y6", 0}});
-    b_.Record(synthetic);
+    synthetic.insert(synthetic.end(), {{"NbPt", 6}});
+    b_.Table(b_.Record(synthetic), {"X", "Y"},
+             {{0, 0}, {15, 12}, {30, 48}, {45, 20}, {60, 6}, {90, 0}});
   }
 
   // What the library form writes first, then what the edition form rewrites.

@@ -122,6 +122,18 @@ void NetworkBuilder::Tags(int object, const TagSet& tags) {
   for (const auto& [name, value] : tags) surface_.SetObjTag(name, value.text);
 }
 
+void NetworkBuilder::Table(int object, const std::vector<std::string>& columns,
+                           const std::vector<std::vector<double>>& rows) {
+  CursorKeeper keeper(surface_);
+  surface_.SetCurrentObject(object);
+  if (object < kFirstObjectNumber || surface_.CurrentObject() != object) return;
+  for (std::size_t i = 0; i < rows.size(); ++i) {
+    for (std::size_t c = 0; c < columns.size() && c < rows[i].size(); ++c) {
+      surface_.SetObjTag(columns[c] + std::to_string(i + 1), rows[i][c]);
+    }
+  }
+}
+
 std::string NetworkBuilder::Tag(int object, std::string_view name) {
   CursorKeeper keeper(surface_);
   surface_.SetCurrentObject(object);

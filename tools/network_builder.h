@@ -70,6 +70,10 @@ class NetworkBuilder {
   // Tags written on an object in order (existing tags keep their place).
   void Tags(int object, const TagSet& tags);
   std::string Tag(int object, std::string_view name);
+  // A table in numbered tags: for each row i (from 1), the column's prefix
+  // followed by i takes the row's value in that column ("X1", "Y1", "X2"...).
+  void Table(int object, const std::vector<std::string>& columns,
+             const std::vector<std::vector<double>>& rows);
   std::string IdOf(int object) { return Tag(object, "Id"); }
   double InvertOf(int node) const;
 
