@@ -2,7 +2,7 @@
 #   make run    install what is missing, build, start Pluvane on the example network
 #   make test   install what is missing, build (normal and sanitizer builds), run every test
 JOBS ?= $(shell nproc)
-EXAMPLE = Exemples/Exemple.mtf
+EXAMPLE = Exemples/Demo.mtf
 
 .PHONY: run test deps build build-asan bench fuzz clean
 

@@ -17,6 +17,7 @@ std::string RecentFiles::Key(int index) const {
 }
 
 void RecentFiles::WriteKey(int index, const std::string& value) const {
+  if (ini_file_.empty()) return;
   IniWrite(kSection, std::to_string(index), value, ini_file_);
 }
 
@@ -41,6 +42,12 @@ void RecentFiles::Add(const std::string& path) {
     captions_[0] = path;
     return;
   }
+  if (ini_file_.empty()) {
+    // A list bound to no file lives in memory only.
+    captions_.insert(captions_.begin(), path);
+    if (Count() > max_) captions_.pop_back();
+    return;
+  }
   int count = Count();
   if (count < max_) {
     ++count;
@@ -55,6 +62,7 @@ void RecentFiles::Add(const std::string& path) {
 }
 
 void RecentFiles::WriteCount() const {
+  if (ini_file_.empty()) return;
   IniWrite(kSection, "nbFichiers", std::to_string(Count()), ini_file_);
 }
 

@@ -1,6 +1,7 @@
 // The list of recently opened networks: entries "1", "2"... of the section
 // "Fichiers recents" of pluvane.ini, most recent first, shown as the repeated
 // menu item mnuRUF. The menu captions are kept here; the window draws them.
+// A list bound to no file (treatments without a window) lives in memory only.
 #pragma once
 
 #include <string>

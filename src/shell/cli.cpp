@@ -4,7 +4,10 @@
 #include <map>
 
 #include "foundation/scripted_ui.h"
+#include "network/network_summary.h"
+#include "network/persistence.h"
 #include "plot/plot_command.h"
+#include "shell/application.h"
 
 namespace pluvane {
 
@@ -42,8 +45,30 @@ int Plot(const std::vector<std::string>& args, const std::string&, std::ostream&
   return 0;
 }
 
+// Opens the network as the program does, with the configuration beside the
+// programs, and prints what it holds. A look at a network does not enter it
+// in the desktop program's list of recent files.
+int Info(const std::vector<std::string>& args, const std::string& app_path, std::ostream& out,
+         ScriptedUi& ui) {
+  if (args.size() != 1 || args[0].rfind("-", 0) == 0) return 2;
+  Surface surface;
+  Application application(surface, ui);
+  if (!application.Load(app_path, "")) return 1;
+  RecentFiles unlisted;
+  NetworkSession session{surface, application.state(), ui, unlisted};
+  if (!OpenNetwork(session, true, args[0])) return 1;
+  out << NetworkInfoText(surface, application.state());
+  return 0;
+}
+
 const std::map<std::string, Command>& Commands() {
   static const std::map<std::string, Command> commands = {
+      {"info",
+       {"  info NETWORK.mtf\n"
+        "                opens a network and prints, for each type present, its\n"
+        "                iName, count and label, then the current scenario and\n"
+        "                whether the network is calibrated\n",
+        Info}},
       {"plot",
        {"  plot SCRIPT.Mst [--ctl OUT.ctl]\n"
         "                compiles page 1 of a plot script in the script's folder;\n"
@@ -64,9 +89,10 @@ std::string CliUsage() {
       "\n"
       "Commands:\n";
   for (const auto& [name, command] : Commands()) usage += command.usage;
-  usage += "  --help        this text; COMMAND --help, the same\n"
-           "\n"
-           "Exit status: 0 success, 1 the treatment refused, 2 bad usage.\n";
+  usage +=
+      "  --help        this text; COMMAND --help, the same\n"
+      "\n"
+      "Exit status: 0 success, 1 the treatment refused, 2 bad usage.\n";
   return usage;
 }
 

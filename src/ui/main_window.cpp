@@ -10,6 +10,7 @@
 #include "foundation/numbers.h"
 #include "network/catalogue.h"
 #include "network/link_direction.h"
+#include "network/network_summary.h"
 #include "network/persistence.h"
 #include "network/snap.h"
 #include "shell/frm_preference.h"
@@ -152,16 +153,8 @@ void MainWindow::OpenPreferences() {
 }
 
 QString MainWindow::Summary() {
-  std::map<int, int> counts;
-  const int saved = surface_.CurrentObject();
-  surface_.SetCurrentObject(kPage);
-  int total = 0;
-  for (int n = surface_.FirstObject(); n > 10; n = surface_.NextObject()) {
-    ++total;
-    const int i_name = ValLong(surface_.ObjTag("iName"));
-    if (i_name > 0) ++counts[i_name];
-  }
-  surface_.SetCurrentObject(saved);
+  const std::map<int, int> counts = CountsByIName(surface_);
+  const int total = surface_.ObjectCount(kPage);
   const AppState& state = application_->state();
   QString html = "<h2>" +
                  QString::fromStdString(state.NetworkFile.empty() ? "Aucun réseau chargé"

@@ -90,5 +90,21 @@ TEST_F(RecentFilesTest, TheFirstEntryAgainChangesNothing) {
   EXPECT_EQ(Key("nbFichiers"), "1");
 }
 
+TEST(RecentFilesInMemory, AListBoundToNoFileWritesNothing) {
+  TempFolder folder;
+  const auto before = std::filesystem::current_path();
+  std::filesystem::current_path(folder.Path());
+  RecentFiles recent;
+  for (const char* path : {"/r/a.mtf", "/r/b.mtf", "/r/c.mtf", "/r/d.mtf", "/r/e.mtf"}) {
+    recent.Add(path);
+  }
+  recent.Add("/R/C.MTF");
+  recent.WriteCount();
+  std::filesystem::current_path(before);
+  EXPECT_EQ(recent.Captions(),
+            (std::vector<std::string>{"/R/C.MTF", "/r/e.mtf", "/r/d.mtf", "/r/b.mtf"}));
+  EXPECT_TRUE(std::filesystem::is_empty(folder.Path()));
+}
+
 }  // namespace
 }  // namespace pluvane

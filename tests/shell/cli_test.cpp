@@ -6,6 +6,7 @@
 #include <sstream>
 
 #include "foundation/test_files.h"
+#include "network/surface.h"
 
 namespace pluvane {
 namespace {
@@ -29,6 +30,8 @@ TEST(Cli, HelpListsTheCommands) {
   EXPECT_EQ(run.status, 0);
   EXPECT_NE(run.out.find("usage: pluvane-cli COMMAND"), std::string::npos);
   EXPECT_NE(run.out.find("  plot SCRIPT.Mst [--ctl OUT.ctl]"), std::string::npos);
+  EXPECT_NE(run.out.find("  info NETWORK.mtf\n"), std::string::npos);
+  EXPECT_EQ(RunCommand({"info", "--help"}).status, 0);
   EXPECT_EQ(RunCommand({"plot", "--help"}).status, 0);
 }
 
@@ -44,14 +47,12 @@ TEST(Cli, BadUsageIsTwo) {
 TEST(Cli, PlotCompilesPageOneAndCopiesTheControlFile) {
   TempFolder folder;
   const std::string script = folder.File("s.Mst");
-  fs::copy_file(std::string(PLUVANE_TESTS) + "/plot/data/scripts/s01_writer_example.Mst",
-                script);
+  fs::copy_file(std::string(PLUVANE_TESTS) + "/plot/data/scripts/s01_writer_example.Mst", script);
   const std::string ctl = folder.File("copie.ctl");
   CliRun run = RunCommand({"plot", script, "--ctl", ctl});
   EXPECT_EQ(run.status, 0) << run.err;
   EXPECT_EQ(ReadBytes(ctl),
-            ReadBytes(std::string(PLUVANE_TEST_DATA) +
-                      "/../../plot/data/expected/s01_writer_example.ctl"));
+            ReadBytes(std::string(PLUVANE_TESTS) + "/plot/data/expected/s01_writer_example.ctl"));
   EXPECT_TRUE(fs::exists(folder.File("P1.ctl")));
 }
 
@@ -61,6 +62,111 @@ TEST(Cli, PlotOfAMissingScriptIsRefusedWithItsMessage) {
   EXPECT_EQ(run.status, 1);
   EXPECT_FALSE(run.err.empty());
   EXPECT_NE(run.err.find(": "), std::string::npos);
+}
+
+const std::string kDemo = std::string(PLUVANE_DATA) + "/Exemples/Demo.mtf";
+
+TEST(CliInfo, CountsEveryTypeOfTheShippedExample) {
+  const std::string ini = std::string(PLUVANE_BIN) + "/pluvane.ini";
+  const std::string ini_before = ReadBytes(ini);
+  CliRun run = RunCommand({"info", kDemo});
+  EXPECT_EQ(run.status, 0) << run.err;
+  EXPECT_EQ(run.err, "");
+  EXPECT_EQ(run.out,
+            "1\t9\tBassins Versants\n"
+            "2\t9\tRoutage\n"
+            "3\t9\tExutoire de BV\n"
+            "4\t1\tHydrogramme\n"
+            "5\t23\tCollecteur circulaire\n"
+            "6\t4\tCollecteur paramétrique fermé\n"
+            "7\t4\tCollecteur paramétrique ouvert\n"
+            "8\t1\tDéversoir DQQ\n"
+            "9\t1\tDéversoir DQZ\n"
+            "10\t1\tBassin RS\n"
+            "11\t1\tBassin RSP\n"
+            "12\t1\tPluviographe\n"
+            "13\t1\tRaccord\n"
+            "14\t1\tCondition Limite aval\n"
+            "16\t1\tMarquage de sortie\n"
+            "21\t1\t\n"
+            "99\t30\tNoeud\n"
+            "100\t1\tBief\n"
+            "101\t2\tSection paramétrique\n"
+            "102\t3\tCoef. de Montana\n"
+            "103\t1\tPluie réelle H(t)\n"
+            "104\t1\tPluie Caquot\n"
+            "105\t1\tPluie simple triangle\n"
+            "106\t1\tPluie double triangle\n"
+            "107\t1\tPluie synthétique I(t)\n"
+            "111\t1\t\n"
+            "112\t1\t\n"
+            "150\t3\t\n"
+            "Scénario courant : Decennale\n"
+            "Calé : oui\n");
+  // A look at a network leaves the recent files of the desktop program alone.
+  EXPECT_EQ(ReadBytes(ini), ini_before);
+}
+
+TEST(CliInfo, ANetworkWithoutScenarioNorCalibration) {
+  TempFolder folder;
+  const std::string path = folder.File("petit.mtf");
+  {
+    Surface surface;
+    surface.AddObject(kKindPicture, 0, 0, 100, 100);
+    surface.SetObjTag("iName", "99");
+    surface.SetObjTag("Id", "Nod_1");
+    surface.AddObject(kKindPicture, 0, 0, 100, 100);
+    surface.SetObjTag("iName", "14");
+    surface.SetObjTag("Id", "Cla_1");
+    surface.AddObject(kKindRectangle, 0, 0, 10, 10);
+    surface.SetObjTag("Id", "ParamReseau");
+    ASSERT_TRUE(surface.SaveFile(path, kNativeFormat));
+  }
+  CliRun run = RunCommand({"info", path});
+  EXPECT_EQ(run.status, 0) << run.err;
+  EXPECT_EQ(run.out,
+            "14\t1\tCondition Limite aval\n"
+            "99\t1\tNoeud\n"
+            "Scénario courant : \n"
+            "Calé : non\n");
+}
+
+TEST(CliInfo, AFileThatIsNoNetworkIsRefusedWithTheProgramsMessage) {
+  TempFolder folder;
+  const std::string text = folder.File("notes.txt");
+  WriteBytes(text, "pas un réseau\n");
+  CliRun run = RunCommand({"info", text});
+  EXPECT_EQ(run.status, 1);
+  EXPECT_EQ(run.out, "");
+  EXPECT_EQ(run.err, "Pluvane: " + text + " n'est pas de type Pluvane !!!\n");
+
+  const std::string broken = folder.File("casse.mtf");
+  WriteBytes(broken, "{\"format\":\"pluvane-network\",");
+  run = RunCommand({"info", broken});
+  EXPECT_EQ(run.status, 1);
+  EXPECT_EQ(run.err,
+            "Pluvane: Le fichier " + broken + " ne peut pas être lu comme un réseau Pluvane.\n");
+
+  run = RunCommand({"info", folder.File("absent.mtf")});
+  EXPECT_EQ(run.status, 1);
+  EXPECT_EQ(run.err, "Pluvane: Le fichier " + folder.File("absent.mtf") +
+                         " ne peut pas être lu comme un réseau Pluvane.\n");
+}
+
+TEST(CliInfo, NeedsTheConfigurationBesideThePrograms) {
+  TempFolder folder;
+  CliRun run = RunCommand({"info", kDemo}, folder.Path());
+  EXPECT_EQ(run.status, 1);
+  EXPECT_EQ(run.out, "");
+  EXPECT_EQ(run.err.rfind("Pluvane: Ce fichier de paramétrage est requis !", 0), 0u);
+}
+
+TEST(CliInfo, TakesExactlyOneNetwork) {
+  EXPECT_EQ(RunCommand({"info"}).status, 2);
+  EXPECT_EQ(RunCommand({"info", kDemo, kDemo}).status, 2);
+  CliRun run = RunCommand({"info", "-x"});
+  EXPECT_EQ(run.status, 2);
+  EXPECT_NE(run.err.find("  info NETWORK.mtf"), std::string::npos);
 }
 
 }  // namespace

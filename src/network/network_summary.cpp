@@ -1,0 +1,36 @@
+#include "network/network_summary.h"
+
+#include "foundation/numbers.h"
+#include "network/calibration_points.h"
+#include "network/catalogue.h"
+#include "network/surface_guards.h"
+
+namespace pluvane {
+
+std::map<int, int> CountsByIName(Surface& surface) {
+  CursorKeeper keeper(surface);
+  std::map<int, int> counts;
+  for (int n = surface.FirstObject(); n > 10; n = surface.NextObject()) {
+    const int i_name = ValLong(surface.ObjTag("iName"));
+    if (i_name > 0) ++counts[i_name];
+  }
+  return counts;
+}
+
+bool IsCalibrated(Surface& surface) {
+  Calibration scratch;
+  return ReadCalibrationPoints(surface, kHiddenCalibrationPoint, scratch);
+}
+
+std::string NetworkInfoText(Surface& surface, const AppState& state) {
+  std::string text;
+  for (const auto& [i_name, count] : CountsByIName(surface)) {
+    text +=
+        std::to_string(i_name) + "\t" + std::to_string(count) + "\t" + LabelOfIName(i_name) + "\n";
+  }
+  text += "Scénario courant : " + state.ScenarioName + "\n";
+  text += std::string("Calé : ") + (IsCalibrated(surface) ? "oui" : "non") + "\n";
+  return text;
+}
+
+}  // namespace pluvane
