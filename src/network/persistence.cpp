@@ -231,12 +231,14 @@ bool mnuFile_Load(NetworkSession& s) {
   const std::string file = AskOpenFile(s.ui, "Charger un réseau Pluvane existant", kNetworkFilter,
                                        "Mtf", OpenDialogStart(s));
   if (file.empty()) return false;
-  if (!s.surface.LoadFile(file, 2)) {
-    s.ui.ShowMessage("Le fichier " + file + " ne peut pas être lu comme un réseau Pluvane.",
-                     kProductTitle, MessageIcon::kExclamation);
-    return false;
-  }
-  return true;
+  return LoadBesideNetwork(s, file);
+}
+
+bool LoadBesideNetwork(NetworkSession& s, const std::string& file) {
+  if (s.surface.LoadFile(file, 2)) return true;
+  s.ui.ShowMessage("Le fichier " + file + " ne peut pas être lu comme un réseau Pluvane.",
+                   kProductTitle, MessageIcon::kExclamation);
+  return false;
 }
 
 bool mnuRUF(NetworkSession& s, int index) {
