@@ -153,8 +153,9 @@ void RestoreNetworkParameters(NetworkSession& s) {
   Surface& surface = s.surface;
   AppState& state = s.state;
   state.NodeCount = CountByName(surface, 99);
+  const std::array<int, 100> largest = MaxIdNumbers(surface);
   for (int i = 1; i <= 99; ++i) {
-    state.ElementCounters[i] = MaxIdNumber(surface, i);
+    state.ElementCounters[i] = largest[i];
     s.ui.ShowProgress(i * 100 / 99);
   }
   s.ui.ShowProgress(0);
