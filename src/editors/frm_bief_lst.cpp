@@ -34,13 +34,7 @@ FrmBiefLst::FrmBiefLst(Surface& surface, AppState& state, UserInterface& ui,
   reaches_.SetColHead(1, "N° Bief");
   collectors_.SetColHead(1, "Collecteurs");
   collectors_.SetColumnLocked(1, true);
-  {
-    CursorKeeper keeper(surface_);
-    for (int reach : ReachRecords(surface_)) {
-      surface_.SetCurrentObject(reach);
-      numbers_.push_back(Trim(surface_.ObjTag("Id")));
-    }
-  }
+  numbers_ = ReachNumbers(surface_);
   reaches_.SetMaxRows(static_cast<int>(numbers_.size()));
   for (int row = 1; row <= reaches_.MaxRows(); ++row) {
     reaches_.SetText(0, row, "bief " + numbers_[row - 1]);

@@ -4,7 +4,6 @@
 #include "foundation/numbers.h"
 #include "foundation/text.h"
 #include "network/reaches.h"
-#include "network/surface_guards.h"
 
 namespace pluvane {
 
@@ -12,14 +11,7 @@ FrmBiefUserCreate::FrmBiefUserCreate(Surface& surface, AppState& state, UserInte
     : surface_(surface), state_(state), ui_(ui), grid_(1, 0) {
   grid_.SetCaption(Caption());
   grid_.SetColHead(1, "N° Bief");
-  std::vector<std::string> used;
-  {
-    CursorKeeper keeper(surface_);
-    for (int reach : ReachRecords(surface_)) {
-      surface_.SetCurrentObject(reach);
-      used.push_back(Trim(surface_.ObjTag("Id")));
-    }
-  }
+  const std::vector<std::string> used = ReachNumbers(surface_);
   used_rows_ = static_cast<int>(used.size());
   grid_.SetMaxRows(used_rows_ + 1);
   for (int row = 1; row <= used_rows_; ++row) {

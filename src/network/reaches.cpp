@@ -66,6 +66,16 @@ std::vector<int> ReachRecords(Surface& surface) {
   return FindObjectList(surface, "iName", kINameReach);
 }
 
+std::vector<std::string> ReachNumbers(Surface& surface) {
+  CursorKeeper keeper(surface);
+  std::vector<std::string> numbers;
+  for (int reach : ReachRecords(surface)) {
+    surface.SetCurrentObject(reach);
+    numbers.push_back(Trim(surface.ObjTag("Id")));
+  }
+  return numbers;
+}
+
 std::vector<ReachCollector> ReachCollectors(Surface& surface, int reach) {
   CursorKeeper keeper(surface);
   std::vector<ReachCollector> collectors;

@@ -43,6 +43,8 @@ int OrdonnerCollecteurs(UserInterface& ui, const std::vector<int>& objects,
 int FindReach(Surface& surface, const std::string& reach_id);
 // The numbers of all reach records, in creation order.
 std::vector<int> ReachRecords(Surface& surface);
+// Their numbers (Ids, trimmed), in the same order.
+std::vector<std::string> ReachNumbers(Surface& surface);
 
 // The collectors a reach record lists: ranks 1 to NbColl, blank ranks passed
 // over. The cursor is kept.

@@ -19,12 +19,6 @@ class FrmBiefLstTest : public ReachTest {
     MakeReach(1, {ab_, bc_});
     MakeReach(2, {cd_});
   }
-  int MakeReach(int number, const std::vector<int>& collectors) {
-    state.PendingReach = number;
-    const int reach = AddReachRecord(surface, state, collectors);
-    state.PendingReach = 0;
-    return reach;
-  }
   std::unique_ptr<FrmBiefLst> Open() {
     return std::make_unique<FrmBiefLst>(surface, state, ui, [this](const ReachHighlight& h) {
       highlights_.push_back(h);

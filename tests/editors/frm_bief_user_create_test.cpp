@@ -10,11 +10,7 @@ namespace {
 
 class FrmBiefUserCreateTest : public ReachTest {
  protected:
-  void AddReach(int number) {
-    state.PendingReach = number;
-    AddReachRecord(surface, state, {Collector(0, 1)});
-    state.PendingReach = 0;
-  }
+  void AddReach(int number) { MakeReach(number, {Collector(0, 1)}); }
 };
 
 TEST_F(FrmBiefUserCreateTest, TheGridListsTheNumbersInUseAndOffersOneRow) {

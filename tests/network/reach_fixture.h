@@ -28,6 +28,14 @@ class ReachTest : public PlacementTest {
       surface.SetSelected(true);
     }
   }
+  // A reach record of that number listing the collectors, as the creation
+  // makes it.
+  int MakeReach(int number, const std::vector<int>& collectors) {
+    state.PendingReach = number;
+    const int reach = AddReachRecord(surface, state, collectors);
+    state.PendingReach = 0;
+    return reach;
+  }
   // The Ids listed by a reach record, rank by rank.
   std::vector<std::string> Listed(int reach) {
     std::vector<std::string> ids;

@@ -87,15 +87,7 @@ TEST_F(OrderTest, NothingToOrderGivesZero) {
   EXPECT_TRUE(ui.Empty());
 }
 
-class ReachRecordTest : public ReachTest {
- protected:
-  int MakeReach(int number, const std::vector<int>& collectors) {
-    state.PendingReach = number;
-    const int reach = AddReachRecord(surface, state, collectors);
-    state.PendingReach = 0;
-    return reach;
-  }
-};
+class ReachRecordTest : public ReachTest {};
 
 TEST_F(ReachRecordTest, TheRecordListsItsCollectorsAndMarksThem) {
   const int ab = Collector(0, 1), bc = Collector(1, 2, "X_CAF");
