@@ -1,6 +1,8 @@
 #include "network/map_coordinates.h"
 
 #include <cmath>
+#include <optional>
+#include <tuple>
 #include <string>
 #include <vector>
 
@@ -54,29 +56,69 @@ int RecomputeUserCoordinates(Surface& surface, const AppState& state) {
   return count;
 }
 
-bool SnapNodeToMap(Surface& surface, const Calibration& calibration, int node) {
-  CursorKeeper keeper(surface);
-  surface.SetCurrentObject(node);
-  if (surface.CurrentObject() != node || node < kFirstObjectNumber) return false;
+namespace {
+
+// Where the current object's Xus, Yus put it, and how far that is from its
+// centre. None when it never had coordinates or already stands there.
+struct MapShift {
+  std::int32_t x = 0, y = 0, dx = 0, dy = 0;
+  double cx = 0, cy = 0;
+};
+
+std::optional<MapShift> ShiftToMap(Surface& surface, const Calibration& calibration) {
   const double x_log = Val(surface.ObjTag("Xlog")), y_log = Val(surface.ObjTag("Ylog"));
   const double x_us = Val(surface.ObjTag("Xus")), y_us = Val(surface.ObjTag("Yus"));
   if (std::fabs(x_log) < 1 && std::fabs(y_log) < 1 && std::fabs(x_us) < 0.000001 &&
       std::fabs(y_us) < 0.000001) {
-    return false;
+    return std::nullopt;
   }
-  const std::int32_t x = UserToLogicX(calibration, x_us, y_us);
-  const std::int32_t y = UserToLogicY(calibration, x_us, y_us);
-  auto [cx, cy] = ObjectCentre(surface, node);
-  const std::int32_t dx = x - RoundLong(cx), dy = y - RoundLong(cy);
-  if (dx == 0 && dy == 0 && x == RoundLong(x_log) && y == RoundLong(y_log)) return false;
-  const std::vector<int> standing = StandingOn(surface, surface.ObjTag("Id"), cx, cy);
+  MapShift shift;
+  shift.x = UserToLogicX(calibration, x_us, y_us);
+  shift.y = UserToLogicY(calibration, x_us, y_us);
+  std::tie(shift.cx, shift.cy) = ObjectCentre(surface, surface.CurrentObject());
+  shift.dx = shift.x - RoundLong(shift.cx);
+  shift.dy = shift.y - RoundLong(shift.cy);
+  if (shift.dx == 0 && shift.dy == 0 && shift.x == RoundLong(x_log) &&
+      shift.y == RoundLong(y_log)) {
+    return std::nullopt;
+  }
+  return shift;
+}
+
+// Writes the logical position and moves the current object there.
+void ApplyShift(Surface& surface, const MapShift& shift) {
+  surface.SetObjTag("Xlog", shift.x);
+  surface.SetObjTag("Ylog", shift.y);
+  surface.MoveObject(shift.dx, shift.dy);
+}
+
+bool MakeCurrent(Surface& surface, int number) {
+  surface.SetCurrentObject(number);
+  return surface.CurrentObject() == number && number >= kFirstObjectNumber;
+}
+
+}  // namespace
+
+bool MoveObjectToMap(Surface& surface, const Calibration& calibration, int object) {
+  CursorKeeper keeper(surface);
+  if (!MakeCurrent(surface, object)) return false;
+  const std::optional<MapShift> shift = ShiftToMap(surface, calibration);
+  if (!shift) return false;
+  ApplyShift(surface, *shift);
+  return true;
+}
+
+bool SnapNodeToMap(Surface& surface, const Calibration& calibration, int node) {
+  CursorKeeper keeper(surface);
+  if (!MakeCurrent(surface, node)) return false;
+  const std::optional<MapShift> shift = ShiftToMap(surface, calibration);
+  if (!shift) return false;
+  const std::vector<int> standing = StandingOn(surface, surface.ObjTag("Id"), shift->cx, shift->cy);
   surface.SetCurrentObject(node);
-  surface.SetObjTag("Xlog", x);
-  surface.SetObjTag("Ylog", y);
-  surface.MoveObject(dx, dy);
+  ApplyShift(surface, *shift);
   for (int number : standing) {
     surface.SetCurrentObject(number);
-    surface.MoveObject(dx, dy);
+    surface.MoveObject(shift->dx, shift->dy);
   }
   return true;
 }

@@ -13,6 +13,13 @@ namespace pluvane {
 // integers. Returns how many objects were updated. The cursor is kept.
 int RecomputeUserCoordinates(Surface& surface, const AppState& state);
 
+// Puts an object that keeps its own Xlog, Ylog and Xus, Yus (a node, a
+// catchment, a gauge) where its map coordinates fall by the calibration,
+// writing Xlog, Ylog; the links bound to it follow. An object with Xlog, Ylog
+// under 1 and Xus, Yus under 0.000001 never had coordinates and stays. True
+// when it moved. The cursor is kept.
+bool MoveObjectToMap(Surface& surface, const Calibration& calibration, int object);
+
 // Puts a node where its Xus, Yus fall by the calibration. When that logical
 // position differs from its Xlog, Ylog or from the centre of its symbol, the
 // tags are written and the symbol moved by the difference: the links bound to

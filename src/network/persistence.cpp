@@ -153,8 +153,9 @@ void RestoreNetworkParameters(NetworkSession& s) {
   Surface& surface = s.surface;
   AppState& state = s.state;
   state.NodeCount = CountByName(surface, 99);
+  const std::array<int, 100> largest = MaxIdNumbers(surface);
   for (int i = 1; i <= 99; ++i) {
-    state.ElementCounters[i] = MaxIdNumber(surface, i);
+    state.ElementCounters[i] = largest[i];
     s.ui.ShowProgress(i * 100 / 99);
   }
   s.ui.ShowProgress(0);
@@ -231,12 +232,14 @@ bool mnuFile_Load(NetworkSession& s) {
   const std::string file = AskOpenFile(s.ui, "Charger un réseau Pluvane existant", kNetworkFilter,
                                        "Mtf", OpenDialogStart(s));
   if (file.empty()) return false;
-  if (!s.surface.LoadFile(file, 2)) {
-    s.ui.ShowMessage("Le fichier " + file + " ne peut pas être lu comme un réseau Pluvane.",
-                     kProductTitle, MessageIcon::kExclamation);
-    return false;
-  }
-  return true;
+  return LoadBesideNetwork(s, file);
+}
+
+bool LoadBesideNetwork(NetworkSession& s, const std::string& file) {
+  if (s.surface.LoadFile(file, 2)) return true;
+  s.ui.ShowMessage("Le fichier " + file + " ne peut pas être lu comme un réseau Pluvane.",
+                   kProductTitle, MessageIcon::kExclamation);
+  return false;
 }
 
 bool mnuRUF(NetworkSession& s, int index) {

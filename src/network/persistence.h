@@ -44,6 +44,9 @@ void ResetNetwork(NetworkSession& s);
 
 // Loads a drawing beside the network: its objects are added as they are.
 bool mnuFile_Load(NetworkSession& s);
+// Adds the objects of a network file to the drawing, as the selection; a file
+// that does not read is told to the user and adds nothing.
+bool LoadBesideNetwork(NetworkSession& s, const std::string& file);
 // Opens the recent file of that menu entry (from 1).
 bool mnuRUF(NetworkSession& s, int index);
 

@@ -20,29 +20,6 @@ constexpr const char* kLinkStep = "Placer une liaison";
 // A quarter of the half turn, as the catchments of a complex always turned.
 constexpr double kHalfTurn = 3.1416;
 
-struct LinkStyle {
-  std::int32_t color = 0;
-  double thick = 0;  // in units of LinkThick
-  int style = 0;
-};
-
-LinkStyle StyleOfKey(std::string_view key) {
-  switch (INameOfKey(key)) {
-    case kINameCAC:
-      return {16711680, 1, 0};
-    case kINameCAF:
-      return {255, 1, 0};
-    case kINameCAO:
-      return {16776960, 1, 0};
-    case kINameTR:
-      return {0, 0, 2};
-    case kINameReach:
-      return {0, 2, 0};
-    default:  // routes and anything else: thin black
-      return {0, 0, 0};
-  }
-}
-
 bool IsWideSymbol(std::string_view key) {
   const int i_name = INameOfKey(key);
   return i_name == kINamePLU || i_name == kINameBV;
@@ -67,13 +44,42 @@ int AddStyledLink(Surface& surface, const AppState& state, std::string_view key,
 
 }  // namespace
 
-void PrepareLink(Surface& surface, const AppState& state, std::string_view key) {
-  const LinkStyle style = StyleOfKey(key);
+LinkStyle LinkStyleOfKey(const AppState& state, std::string_view key) {
+  struct Entry {
+    std::int32_t color;
+    double thick;  // in units of LinkThick
+    int style;
+  };
+  Entry entry{0, 0, 0};  // routes and anything else: thin black
+  switch (INameOfKey(key)) {
+    case kINameCAC:
+      entry = {16711680, 1, 0};
+      break;
+    case kINameCAF:
+      entry = {255, 1, 0};
+      break;
+    case kINameCAO:
+      entry = {16776960, 1, 0};
+      break;
+    case kINameTR:
+      entry = {0, 0, 2};
+      break;
+    case kINameReach:
+      entry = {0, 2, 0};
+      break;
+    default:
+      break;
+  }
   const double z = state.ScaleWithZoom ? ZoomOrOne(state) : 1;
+  return {entry.color, -(entry.thick * state.LinkThick / z), entry.style};
+}
+
+void PrepareLink(Surface& surface, const AppState& state, std::string_view key) {
+  const LinkStyle style = LinkStyleOfKey(state, key);
   CursorKeeper keeper(surface);
   surface.SetCurrentObject(kDefaults);
   surface.SetLineColor(style.color);
-  surface.SetLineWidth(-(style.thick * state.LinkThick / z));
+  surface.SetLineWidth(style.width);
   surface.SetLineStyle(style.style);
 }
 
@@ -134,7 +140,7 @@ int DrawLink(Surface& surface, AppState& state, std::string_view key, int object
   surface.SetLinkEndMarker(0, marker0);
   surface.SetLinkEndMarker(1, marker1);
   surface.SetLinkPoint(2, 0, 0);
-  const LinkStyle style = StyleOfKey(key);
+  const LinkStyle style = LinkStyleOfKey(state, key);
   surface.SetLineStyle(style.style);
   surface.SetLineWidth(-NodeHalfSize(surface, state.SymbolSize));
   surface.SetLineColor(style.color);

@@ -4,6 +4,7 @@
 // around it and the route between them). Each is one undo step.
 #pragma once
 
+#include <cstdint>
 #include <string_view>
 
 #include "foundation/user_interface.h"
@@ -11,6 +12,15 @@
 #include "shell/app_state.h"
 
 namespace pluvane {
+
+// The style of the links of a key: line colour, width (negative: logical
+// units, LinkThick scaled by the zoom when symbols follow it) and style.
+struct LinkStyle {
+  std::int32_t color = 0;
+  double width = 0;
+  int style = 0;
+};
+LinkStyle LinkStyleOfKey(const AppState& state, std::string_view key);
 
 // Sets the defaults of the next objects (line colour, width, style) to the
 // style of links of that key. Widths are negative: logical units.

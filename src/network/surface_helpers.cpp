@@ -1,6 +1,7 @@
 #include "network/surface_helpers.h"
 
 #include <algorithm>
+#include <optional>
 
 #include "foundation/numbers.h"
 #include "foundation/text.h"
@@ -107,19 +108,46 @@ std::vector<int> SelectedObjects(Surface& surface) {
   return selected;
 }
 
+namespace {
+
+// The number after the first underscore of an Id, none without an underscore.
+std::optional<int> IdNumber(const std::string& id) {
+  const std::size_t underscore = id.find('_');
+  if (underscore == std::string::npos) return std::nullopt;
+  return ValLong(std::string_view(id).substr(underscore + 1));
+}
+
+}  // namespace
+
 int MaxIdNumber(Surface& surface, int i_name) {
   CursorKeeper keeper(surface);
   int largest = 0;
   bool any = false;
   ForEachMatch(surface, "iName", i_name, [&](int) {
-    const std::string id = surface.ObjTag("Id");
-    const std::size_t underscore = id.find('_');
-    if (underscore == std::string::npos) return;
-    const int number = ValLong(std::string_view(id).substr(underscore + 1));
-    largest = any ? std::max(largest, number) : number;
+    const std::optional<int> number = IdNumber(surface.ObjTag("Id"));
+    if (!number) return;
+    largest = any ? std::max(largest, *number) : *number;
     any = true;
   });
   return largest < 0 ? 0 : largest;
+}
+
+std::array<int, 100> MaxIdNumbers(Surface& surface) {
+  CursorKeeper keeper(surface);
+  std::array<int, 100> largest{};
+  std::array<bool, 100> any{};
+  for (int n = surface.FirstObject(); n > 0; n = surface.NextObject()) {
+    double kind = 0;
+    if (!ReadWholeNumber(surface.ObjTag("iName"), kind)) continue;
+    if (kind < 1 || kind > 99 || kind != static_cast<int>(kind)) continue;
+    const std::optional<int> number = IdNumber(surface.ObjTag("Id"));
+    if (!number) continue;
+    const int i = static_cast<int>(kind);
+    largest[i] = any[i] ? std::max(largest[i], *number) : *number;
+    any[i] = true;
+  }
+  for (int& value : largest) value = std::max(value, 0);
+  return largest;
 }
 
 std::pair<double, double> ObjectCentre(const Surface& surface, int number) {

@@ -161,5 +161,26 @@ TEST(SelectedObjectsTest, InCreationOrderAndCursorKept) {
   EXPECT_TRUE(SelectedObjects(surface).empty());
 }
 
+TEST_F(SurfaceHelpers, MaxIdNumbersGivesWhatMaxIdNumberGivesForEveryKind) {
+  const std::pair<const char*, const char*> objects[] = {
+      {"5", "Cac_12"}, {" 5 ", "Cac_57"}, {"5", "Cac_x"},  {"5.0", "Cac_60"}, {"99", "Nod_4"},
+      {"99", "Nod"},   {"7", "Cao_-3"},   {"8", "Dqq_2b"}, {"5b", "Cac_99"},  {"", "Bv_8"},
+      {"100", "1"},    {"21", "Bvs_1_2"}};
+  for (const auto& [i_name, id] : objects) {
+    surface_.AddObject(kKindRectangle, 0, 0, 10, 10);
+    surface_.SetObjTag("iName", i_name);
+    surface_.SetObjTag("Id", id);
+  }
+  surface_.SetCurrentObject(kPage);
+  const std::array<int, 100> all = MaxIdNumbers(surface_);
+  for (int i = 1; i <= 99; ++i) EXPECT_EQ(all[i], MaxIdNumber(surface_, i)) << i;
+  EXPECT_EQ(all[5], 60);
+  EXPECT_EQ(all[99], 4);
+  EXPECT_EQ(all[7], 0);
+  EXPECT_EQ(all[8], 2);
+  EXPECT_EQ(all[21], 1);
+  EXPECT_EQ(surface_.CurrentObject(), kPage);
+}
+
 }  // namespace
 }  // namespace pluvane
