@@ -11,10 +11,8 @@ namespace pluvane {
 namespace {
 
 struct Command {
-  const char* usage;  // the command's line of the usage text
-  std::function<int(const std::vector<std::string>&, const std::string&, std::ostream&,
-                    ScriptedUi&)>
-      run;
+  std::string usage;  // the command's lines of the usage text
+  CliCommandRun run;
 };
 
 // The value after an option, or empty with `ok` false when it is missing.
@@ -42,8 +40,8 @@ int Plot(const std::vector<std::string>& args, const std::string&, std::ostream&
   return 0;
 }
 
-const std::map<std::string, Command>& Commands() {
-  static const std::map<std::string, Command> commands = {
+std::map<std::string, Command>& Commands() {
+  static std::map<std::string, Command> commands = {
       {"plot",
        {"  plot SCRIPT.Mst [--ctl OUT.ctl]\n"
         "                compiles page 1 of a plot script in the script's folder;\n"
@@ -54,6 +52,10 @@ const std::map<std::string, Command>& Commands() {
 }
 
 }  // namespace
+
+void RegisterCliCommand(const std::string& name, const std::string& usage, CliCommandRun run) {
+  Commands()[name] = Command{usage, std::move(run)};
+}
 
 std::string CliUsage() {
   std::string usage =

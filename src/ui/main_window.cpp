@@ -7,7 +7,9 @@
 #include <map>
 
 #include "foundation/numbers.h"
+#include "foundation/paths.h"
 #include "network/persistence.h"
+#include "ui/drawing_picture.h"
 
 namespace pluvane {
 
@@ -24,6 +26,11 @@ MainWindow::MainWindow() : ui_(this) {
   };
   ui_.panel_sink = [this](const std::string& panel, const std::string& text) {
     if (panel == "caption") setWindowTitle(QString::fromStdString(text));
+  };
+  ui_.picture_writer = [this](const std::string& path) {
+    const AppState& state = application_->state();
+    return SaveDrawingPicture(surface_, path, kDefaultPictureWidth,
+                              PictureFolders{DirOf(state.NetworkFile), state.SymbolDir});
   };
   surface_.SetChangeListener([this] { RefreshSummary(); });
   BuildMenus();

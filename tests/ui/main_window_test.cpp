@@ -6,21 +6,15 @@
 #include <QImage>
 #include <filesystem>
 
+#include "qt_test_app.h"
+
 namespace pluvane {
 namespace {
 
 namespace fs = std::filesystem;
 
-QApplication& App() {
-  static int argc = 1;
-  static char name[] = "test_ui";
-  static char* argv[] = {name, nullptr};
-  static QApplication* app = new QApplication(argc, argv);
-  return *app;
-}
-
 TEST(MainWindow, StartsOnTheShippedConfigurationAndShowsTheNetworkSummary) {
-  App();
+  TestApp();
   MainWindow window;
   ASSERT_TRUE(window.Start(PLUVANE_BIN, ""));
   window.show();
