@@ -79,6 +79,7 @@ int KeyCode(int qt_key, Qt::KeyboardModifiers modifiers) {
 
 SurfaceView::SurfaceView(Surface& surface, QWidget* parent)
     : QAbstractScrollArea(parent), surface_(surface) {
+  setFrameShape(QFrame::NoFrame);
   setFocusPolicy(Qt::StrongFocus);
   viewport()->setMouseTracking(true);
   viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
