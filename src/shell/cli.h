@@ -16,9 +16,9 @@ class ScriptedUi;
 
 // A command: its arguments (after its name), the folder of the programs, the
 // output stream and the messages' sink. Returns the exit status.
-using CliCommandRun = std::function<int(const std::vector<std::string>& args,
-                                        const std::string& app_path, std::ostream& out,
-                                        ScriptedUi& ui)>;
+using CliCommandRun =
+    std::function<int(const std::vector<std::string>& args, const std::string& app_path,
+                      std::ostream& out, ScriptedUi& ui)>;
 
 // Adds a command that the core cannot hold (one that needs Qt to draw, say):
 // the program registers it before RunCli. `usage` is its part of the usage

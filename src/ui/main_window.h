@@ -28,6 +28,7 @@ class MainWindow : public QMainWindow {
 
   Surface& surface() { return surface_; }
   Application& application() { return *application_; }
+  QtUserInterface& user_interface() { return ui_; }
   // The summary shown in the window.
   QString Summary();
 

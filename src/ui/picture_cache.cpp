@@ -91,8 +91,7 @@ bool PictureCache::Draw(QPainter& painter, const std::string& name, const QRectF
       into.end();
       found = renderings_.emplace(key, std::move(image)).first;
     }
-    painter.drawImage(QPointF(std::round(target.left()), std::round(target.top())),
-                      found->second);
+    painter.drawImage(QPointF(std::round(target.left()), std::round(target.top())), found->second);
     return true;
   }
   if (entry.svg) {

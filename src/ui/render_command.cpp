@@ -1,6 +1,7 @@
 #include "ui/render_command.h"
 
 #include <QGuiApplication>
+#include <cstdio>
 #include <cstdlib>
 #include <memory>
 
@@ -19,9 +20,17 @@ namespace {
 
 constexpr const char* kTitle = "Pluvane";
 
+// Qt's own notes (no runtime folder, fonts) would mix with the treatment's
+// messages on the error stream; only its fatal ones are let through.
+void QuietQtMessages(QtMsgType type, const QMessageLogContext&, const QString& message) {
+  if (type == QtCriticalMsg || type == QtFatalMsg)
+    std::fprintf(stderr, "%s\n", message.toLocal8Bit().constData());
+}
+
 // Drawing needs a Qt application; a command line has no display to give it.
 void EnsureGuiApplication() {
   if (QCoreApplication::instance()) return;
+  qInstallMessageHandler(QuietQtMessages);
   if (std::getenv("QT_QPA_PLATFORM") == nullptr) setenv("QT_QPA_PLATFORM", "offscreen", 1);
   static int argc = 1;
   static char name[] = "pluvane-cli";
@@ -58,9 +67,9 @@ int RenderCommand(const std::vector<std::string>& args, const std::string& app_p
     return 1;
   }
   if (PictureFormatOf(output) == PictureFormat::kUnknown) {
-    ui.ShowMessage("Erreur de sauvegarde : format d'image non reconnu (" + LastExtension(output) +
-                       ")",
-                   kTitle, MessageIcon::kCritical);
+    ui.ShowMessage(
+        "Erreur de sauvegarde : format d'image non reconnu (" + LastExtension(output) + ")", kTitle,
+        MessageIcon::kCritical);
     return 1;
   }
   Surface surface;

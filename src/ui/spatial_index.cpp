@@ -61,12 +61,13 @@ void SpatialIndex::Build(const Surface& surface) {
       continue;
     }
     for (int r = r0; r <= r1; ++r)
-      for (int c = c0; c <= c1; ++c) cells_[static_cast<std::size_t>(r) * cols_ + c].push_back(rank);
+      for (int c = c0; c <= c1; ++c)
+        cells_[static_cast<std::size_t>(r) * cols_ + c].push_back(rank);
   }
 }
 
-void SpatialIndex::CellRange(double left, double top, double right, double bottom, int& c0,
-                             int& r0, int& c1, int& r1) const {
+void SpatialIndex::CellRange(double left, double top, double right, double bottom, int& c0, int& r0,
+                             int& c1, int& r1) const {
   auto cell = [](double v, double origin, double size, int count) {
     return static_cast<int>(std::clamp(std::floor((v - origin) / size), 0.0, count - 1.0));
   };

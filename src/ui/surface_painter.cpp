@@ -24,12 +24,18 @@ const QColor kSelectionColor(0, 120, 215);
 
 Qt::PenStyle PenStyleOf(int style) {
   switch (style) {
-    case 1: return Qt::DotLine;
-    case 2: return Qt::DashLine;
-    case 3: return Qt::DashDotLine;
-    case 4: return Qt::DashDotDotLine;
-    case 5: return Qt::NoPen;
-    default: return Qt::SolidLine;
+    case 1:
+      return Qt::DotLine;
+    case 2:
+      return Qt::DashLine;
+    case 3:
+      return Qt::DashDotLine;
+    case 4:
+      return Qt::DashDotDotLine;
+    case 5:
+      return Qt::NoPen;
+    default:
+      return Qt::SolidLine;
   }
 }
 
@@ -37,14 +43,22 @@ Qt::PenStyle PenStyleOf(int style) {
 QBrush BrushOf(const Shape& shape) {
   const QColor color = ColorOfBgr(shape.fill_color);
   switch (shape.fill_style) {
-    case 0: return QBrush(color);
-    case 2: return QBrush(color, Qt::HorPattern);
-    case 3: return QBrush(color, Qt::VerPattern);
-    case 4: return QBrush(color, Qt::BDiagPattern);
-    case 5: return QBrush(color, Qt::FDiagPattern);
-    case 6: return QBrush(color, Qt::CrossPattern);
-    case 7: return QBrush(color, Qt::DiagCrossPattern);
-    default: return Qt::NoBrush;
+    case 0:
+      return QBrush(color);
+    case 2:
+      return QBrush(color, Qt::HorPattern);
+    case 3:
+      return QBrush(color, Qt::VerPattern);
+    case 4:
+      return QBrush(color, Qt::BDiagPattern);
+    case 5:
+      return QBrush(color, Qt::FDiagPattern);
+    case 6:
+      return QBrush(color, Qt::CrossPattern);
+    case 7:
+      return QBrush(color, Qt::DiagCrossPattern);
+    default:
+      return Qt::NoBrush;
   }
 }
 
@@ -82,9 +96,7 @@ QColor ColorOfBgr(std::int32_t color) {
   return QColor(c & 0xFF, (c >> 8) & 0xFF, (c >> 16) & 0xFF);
 }
 
-double SurfacePainter::PixelsOf(double size) const {
-  return size < 0 ? t_.Pixels(-size) : size;
-}
+double SurfacePainter::PixelsOf(double size) const { return size < 0 ? t_.Pixels(-size) : size; }
 
 QPen SurfacePainter::PenOf(const Shape& shape) const {
   QPen pen(ColorOfBgr(shape.line_color));
@@ -144,9 +156,8 @@ void SurfacePainter::PaintBackground(const Surface& surface, QPainter& painter) 
   if (natural.isEmpty()) return;
   const double scale = surface.BackgroundScale() > 0 ? surface.BackgroundScale() : 1;
   const double width = surface.LogicWidth() * scale;
-  const double height = surface.BackgroundMode() == 4
-                            ? surface.LogicHeight() * scale
-                            : width * natural.height() / natural.width();
+  const double height = surface.BackgroundMode() == 4 ? surface.LogicHeight() * scale
+                                                      : width * natural.height() / natural.width();
   const QRectF target(t_.ToClient(surface.LogicLeft(), surface.LogicTop()),
                       QSizeF(t_.Pixels(width), t_.Pixels(height)));
   painter.save();
@@ -172,12 +183,14 @@ void SurfacePainter::PaintGrid(const Surface& surface, QPainter& painter, const 
   const double x0 = page.left() + std::ceil((area.left() - page.left()) / step_x) * step_x;
   for (double x = x0; x <= area.right(); x += step_x) {
     const double px = t_.ToClientX(x);
-    painter.drawLine(QPointF(px, t_.ToClientY(area.top())), QPointF(px, t_.ToClientY(area.bottom())));
+    painter.drawLine(QPointF(px, t_.ToClientY(area.top())),
+                     QPointF(px, t_.ToClientY(area.bottom())));
   }
   const double y0 = page.top() + std::ceil((area.top() - page.top()) / step_y) * step_y;
   for (double y = y0; y <= area.bottom(); y += step_y) {
     const double py = t_.ToClientY(y);
-    painter.drawLine(QPointF(t_.ToClientX(area.left()), py), QPointF(t_.ToClientX(area.right()), py));
+    painter.drawLine(QPointF(t_.ToClientX(area.left()), py),
+                     QPointF(t_.ToClientX(area.right()), py));
   }
   painter.restore();
 }
@@ -206,8 +219,12 @@ void SurfacePainter::PaintShape(QPainter& painter, const Shape& shape) {
   if (vertices.size() < 2 && IsLineKind(shape.kind) && shape.kind != kKindArc)
     vertices = QPolygonF({box.topLeft(), box.bottomRight()});
   switch (shape.kind) {
-    case kKindRectangle: painter.drawRect(box); break;
-    case kKindEllipse: painter.drawEllipse(box); break;
+    case kKindRectangle:
+      painter.drawRect(box);
+      break;
+    case kKindEllipse:
+      painter.drawEllipse(box);
+      break;
     case kKindArc:
     case kKindPie:
     case kKindChord: {
@@ -225,7 +242,9 @@ void SurfacePainter::PaintShape(QPainter& painter, const Shape& shape) {
       if (shape.kind == kKindChord) painter.drawChord(box, a, s);
       break;
     }
-    case kKindPolygon: painter.drawPolygon(vertices); break;
+    case kKindPolygon:
+      painter.drawPolygon(vertices);
+      break;
     case kKindBezier:
       if (vertices.size() >= 4 && (vertices.size() - 1) % 3 == 0) {
         QPainterPath path(vertices[0]);
@@ -246,7 +265,9 @@ void SurfacePainter::PaintShape(QPainter& painter, const Shape& shape) {
       painter.drawPolyline(vertices);
       PaintMarkers(painter, shape, vertices);
       break;
-    case kKindText: PaintText(painter, shape, box); break;
+    case kKindText:
+      PaintText(painter, shape, box);
+      break;
     case kKindPicture:
       if (!pictures_.Draw(painter, shape.picture, box, !options.vector_output)) {
         // An unreadable picture still shows where the symbol stands.
@@ -254,7 +275,9 @@ void SurfacePainter::PaintShape(QPainter& painter, const Shape& shape) {
         painter.drawRect(box);
       }
       break;
-    default: painter.drawRect(box); break;
+    default:
+      painter.drawRect(box);
+      break;
   }
 }
 
@@ -294,8 +317,8 @@ void SurfacePainter::PaintText(QPainter& painter, const Shape& shape, const QRec
   if (text.angle != 0) painter.rotate(-text.angle);
   const QRectF area(x, 0, extent.width(), extent.height());
   if (text.fill_back) {
-    painter.fillRect(area, shape.fill_style == 1 ? ColorOfBgr(page_color_)
-                                                 : ColorOfBgr(shape.fill_color));
+    painter.fillRect(
+        area, shape.fill_style == 1 ? ColorOfBgr(page_color_) : ColorOfBgr(shape.fill_color));
   }
   painter.setPen(ColorOfBgr(text.color));
   painter.drawText(area, flags, string);

@@ -25,8 +25,8 @@ constexpr int kMostGhosts = 500;
 const QColor kGestureColor(0, 120, 215);
 
 int ClampToInt(double value) {
-  return static_cast<int>(std::clamp(value, static_cast<double>(INT_MIN / 2),
-                                     static_cast<double>(INT_MAX / 2)));
+  return static_cast<int>(
+      std::clamp(value, static_cast<double>(INT_MIN / 2), static_cast<double>(INT_MAX / 2)));
 }
 
 }  // namespace
@@ -54,26 +54,45 @@ int KeyCode(int qt_key, Qt::KeyboardModifiers modifiers) {
   if (qt_key >= Qt::Key_0 && qt_key <= Qt::Key_9) return '0' + (qt_key - Qt::Key_0);
   if (qt_key >= Qt::Key_F1 && qt_key <= Qt::Key_F24) return 112 + (qt_key - Qt::Key_F1);
   switch (qt_key) {
-    case Qt::Key_Left: return 37;
-    case Qt::Key_Up: return 38;
-    case Qt::Key_Right: return 39;
-    case Qt::Key_Down: return 40;
-    case Qt::Key_Escape: return 27;
-    case Qt::Key_Delete: return 46;
+    case Qt::Key_Left:
+      return 37;
+    case Qt::Key_Up:
+      return 38;
+    case Qt::Key_Right:
+      return 39;
+    case Qt::Key_Down:
+      return 40;
+    case Qt::Key_Escape:
+      return 27;
+    case Qt::Key_Delete:
+      return 46;
     case Qt::Key_Return:
-    case Qt::Key_Enter: return 13;
-    case Qt::Key_Backspace: return 8;
-    case Qt::Key_Tab: return 9;
-    case Qt::Key_Space: return 32;
-    case Qt::Key_Insert: return 45;
-    case Qt::Key_Home: return 36;
-    case Qt::Key_End: return 35;
-    case Qt::Key_PageUp: return 33;
-    case Qt::Key_PageDown: return 34;
-    case Qt::Key_Shift: return 16;
-    case Qt::Key_Control: return 17;
-    case Qt::Key_Alt: return 18;
-    default: return 0;
+    case Qt::Key_Enter:
+      return 13;
+    case Qt::Key_Backspace:
+      return 8;
+    case Qt::Key_Tab:
+      return 9;
+    case Qt::Key_Space:
+      return 32;
+    case Qt::Key_Insert:
+      return 45;
+    case Qt::Key_Home:
+      return 36;
+    case Qt::Key_End:
+      return 35;
+    case Qt::Key_PageUp:
+      return 33;
+    case Qt::Key_PageDown:
+      return 34;
+    case Qt::Key_Shift:
+      return 16;
+    case Qt::Key_Control:
+      return 17;
+    case Qt::Key_Alt:
+      return 18;
+    default:
+      return 0;
   }
 }
 
@@ -90,9 +109,9 @@ SurfaceView::SurfaceView(Surface& surface, QWidget* parent)
 SurfaceView::~SurfaceView() { surface_.SetChangeListener(nullptr); }
 
 ViewTransform SurfaceView::Transform() const {
-  return ViewTransform::Fit(QRectF(surface_.ViewLeft(), surface_.ViewTop(), surface_.ViewWidth(),
-                                   surface_.ViewHeight()),
-                            viewport()->size());
+  return ViewTransform::Fit(
+      QRectF(surface_.ViewLeft(), surface_.ViewTop(), surface_.ViewWidth(), surface_.ViewHeight()),
+      viewport()->size());
 }
 
 int SurfaceView::ClientWidth() const { return viewport()->width(); }
@@ -195,8 +214,9 @@ void SurfaceView::paintEvent(QPaintEvent*) {
     frame_ = QImage(pixels * ratio, QImage::Format_ARGB32_Premultiplied);
     frame_.setDevicePixelRatio(ratio);
     QPainter into(&frame_);
-    painter_.Paint(surface_, into, QRectF(surface_.ViewLeft(), surface_.ViewTop(),
-                                          surface_.ViewWidth(), surface_.ViewHeight()),
+    painter_.Paint(surface_, into,
+                   QRectF(surface_.ViewLeft(), surface_.ViewTop(), surface_.ViewWidth(),
+                          surface_.ViewHeight()),
                    pixels);
     frame_stale_ = false;
   }
@@ -277,8 +297,8 @@ void SurfaceView::EndGesture() {
         surface_.DeselectAll();
       } else {
         surface_.SelectInRect(ClampToInt(std::floor(t.ToLogicX(rect.left()))),
-                            ClampToInt(std::floor(t.ToLogicY(rect.top()))),
-                            ClampToInt(std::ceil(t.ToLogicX(rect.right()))),
+                              ClampToInt(std::floor(t.ToLogicY(rect.top()))),
+                              ClampToInt(std::ceil(t.ToLogicX(rect.right()))),
                               ClampToInt(std::ceil(t.ToLogicY(rect.bottom()))));
       }
     }

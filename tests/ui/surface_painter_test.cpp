@@ -34,9 +34,27 @@ class PainterTest : public ::testing::Test {
     return image;
   }
 
+  // A link across the middle, from (5, 500) to (995, 500); it is current.
+  int AddMiddleLink() {
+    const int a = surface_.AddObject(2, 0, 495, 10, 505);
+    const int b = surface_.AddObject(2, 990, 495, 1000, 505);
+    return surface_.AddLink(a, b);
+  }
+
   Surface surface_;
   SurfacePainter painter_;
 };
+
+struct Pixel {
+  int x;
+  int y;
+  QColor color;
+};
+
+void ExpectColours(const QImage& image, std::initializer_list<Pixel> pixels) {
+  for (const Pixel& p : pixels)
+    EXPECT_EQ(image.pixelColor(p.x, p.y), p.color) << "at " << p.x << ", " << p.y;
+}
 
 TEST(ColorOfBgr, HasRedInTheLowByte) {
   EXPECT_EQ(ColorOfBgr(0x0000FF), QColor(255, 0, 0));
@@ -48,13 +66,15 @@ TEST(ColorOfBgr, HasRedInTheLowByte) {
 TEST_F(PainterTest, ARedRectangleIsRedWhereItsBoxSays) {
   AddFilledRect(surface_, 200, 300, 600, 700, kRed);
   const QImage image = Paint();
-  EXPECT_EQ(image.pixelColor(40, 50), QColor(Qt::red));
-  EXPECT_EQ(image.pixelColor(21, 31), QColor(Qt::red));
-  EXPECT_EQ(image.pixelColor(58, 68), QColor(Qt::red));
-  EXPECT_EQ(image.pixelColor(10, 50), QColor(Qt::white));
-  EXPECT_EQ(image.pixelColor(40, 20), QColor(Qt::white));
-  EXPECT_EQ(image.pixelColor(70, 50), QColor(Qt::white));
-  EXPECT_EQ(image.pixelColor(40, 80), QColor(Qt::white));
+  ExpectColours(image, {
+                           {40, 50, QColor(Qt::red)},
+                           {21, 31, QColor(Qt::red)},
+                           {58, 68, QColor(Qt::red)},
+                           {10, 50, QColor(Qt::white)},
+                           {40, 20, QColor(Qt::white)},
+                           {70, 50, QColor(Qt::white)},
+                           {40, 80, QColor(Qt::white)},
+                       });
 }
 
 TEST_F(PainterTest, TheSurroundOutsideTheLogicalSpaceTakesBackColor1) {
@@ -78,9 +98,7 @@ TEST_F(PainterTest, ALinkPassesThroughThePixelsBetweenItsEnds) {
 }
 
 TEST_F(PainterTest, ADashedLinkLeavesGaps) {
-  const int a = surface_.AddObject(2, 0, 495, 10, 505);
-  const int b = surface_.AddObject(2, 990, 495, 1000, 505);
-  surface_.AddLink(a, b);
+  AddMiddleLink();
   surface_.SetLineColor(kBlue);
   surface_.SetLineWidth(-20);
   surface_.SetLineStyle(2);
@@ -172,9 +190,11 @@ TEST_F(PainterTest, AGroupPaintsItsChildren) {
   surface_.DeselectAll();
   ASSERT_EQ(surface_.ObjectCount(kPage), 1);
   const QImage image = Paint();
-  EXPECT_EQ(image.pixelColor(20, 20), QColor(Qt::red));
-  EXPECT_EQ(image.pixelColor(80, 80), QColor(Qt::blue));
-  EXPECT_EQ(image.pixelColor(50, 50), QColor(Qt::white));
+  ExpectColours(image, {
+                           {20, 20, QColor(Qt::red)},
+                           {80, 80, QColor(Qt::blue)},
+                           {50, 50, QColor(Qt::white)},
+                       });
 }
 
 TEST_F(PainterTest, ASelectedObjectIsOutlined) {
@@ -207,17 +227,20 @@ TEST_F(PainterTest, SymbolsSmallerThanAPixelAreDots) {
 TEST_F(PainterTest, ASymbolsSvgIsDrawnInItsBox) {
   TempFolder folder;
   const std::string svg = folder.File("red.svg");
-  WriteBytes(svg, "<svg xmlns='http://www.w3.org/2000/svg' width='10' height='10' "
-                        "viewBox='0 0 10 10'><rect x='0' y='0' width='10' height='10' "
-                        "fill='#ff0000'/></svg>");
+  WriteBytes(svg,
+             "<svg xmlns='http://www.w3.org/2000/svg' width='10' height='10' "
+             "viewBox='0 0 10 10'><rect x='0' y='0' width='10' height='10' "
+             "fill='#ff0000'/></svg>");
   const int n = surface_.AddObject(12, 200, 200, 600, 600);
   surface_.SetCurrentObject(n);
   surface_.SetObjectPicture(svg);
   const QImage image = Paint();
-  EXPECT_EQ(image.pixelColor(40, 40), QColor(Qt::red));
-  EXPECT_EQ(image.pixelColor(22, 22), QColor(Qt::red));
-  EXPECT_EQ(image.pixelColor(10, 10), QColor(Qt::white));
-  EXPECT_EQ(image.pixelColor(70, 40), QColor(Qt::white));
+  ExpectColours(image, {
+                           {40, 40, QColor(Qt::red)},
+                           {22, 22, QColor(Qt::red)},
+                           {10, 10, QColor(Qt::white)},
+                           {70, 40, QColor(Qt::white)},
+                       });
 }
 
 TEST_F(PainterTest, AMetafileNameIsDrawnFromTheShippedSvg) {
@@ -228,7 +251,8 @@ TEST_F(PainterTest, AMetafileNameIsDrawnFromTheShippedSvg) {
   const QImage image = Paint();
   // NOD is a white disc in a black ring.
   EXPECT_EQ(image.pixelColor(50, 50), QColor(Qt::white));
-  EXPECT_TRUE(Near(image.pixelColor(50, 10), Qt::black)) << image.pixelColor(50, 10).name().toStdString();
+  EXPECT_TRUE(Near(image.pixelColor(50, 10), Qt::black))
+      << image.pixelColor(50, 10).name().toStdString();
 }
 
 TEST_F(PainterTest, AnUnreadablePictureShowsItsBox) {
@@ -286,9 +310,7 @@ TEST_F(PainterTest, ATextWithItsBackFilledHidesWhatLiesBehind) {
 }
 
 TEST_F(PainterTest, AnArrowHeadMarksTheMiddleOfALink) {
-  const int a = surface_.AddObject(2, 0, 495, 10, 505);
-  const int b = surface_.AddObject(2, 990, 495, 1000, 505);
-  surface_.AddLink(a, b);
+  AddMiddleLink();
   surface_.SetLineColor(kBlue);
   surface_.SetLinkEndMarker(4, 5);
   surface_.SetLinkMarkerWidth(4, -200);
@@ -297,25 +319,27 @@ TEST_F(PainterTest, AnArrowHeadMarksTheMiddleOfALink) {
   const QImage image = Paint();
   // Across the line, the head is 20 pixels wide at its base (x 40) and
   // narrows to its tip (x 60), pointing downstream.
-  EXPECT_EQ(image.pixelColor(44, 44), QColor(Qt::red));
-  EXPECT_EQ(image.pixelColor(44, 55), QColor(Qt::red));
-  EXPECT_EQ(image.pixelColor(55, 50), QColor(Qt::red));
-  EXPECT_EQ(image.pixelColor(58, 42), QColor(Qt::white));
-  EXPECT_EQ(image.pixelColor(37, 42), QColor(Qt::white));
+  ExpectColours(image, {
+                           {44, 44, QColor(Qt::red)},
+                           {44, 55, QColor(Qt::red)},
+                           {55, 50, QColor(Qt::red)},
+                           {58, 42, QColor(Qt::white)},
+                           {37, 42, QColor(Qt::white)},
+                       });
 }
 
 TEST_F(PainterTest, AnArrowHeadAtTheDownstreamEndPointsOutwards) {
-  const int a = surface_.AddObject(2, 0, 495, 10, 505);
-  const int b = surface_.AddObject(2, 990, 495, 1000, 505);
-  surface_.AddLink(a, b);
+  AddMiddleLink();
   surface_.SetLinkEndMarker(1, 5);
   surface_.SetLinkMarkerWidth(1, 20);  // pixels
   surface_.SetLinkMarkerHeight(1, 20);
   surface_.SetLinkMarkerColor(1, kRed);
   const QImage image = Paint();
-  EXPECT_EQ(image.pixelColor(82, 42), QColor(Qt::red));
-  EXPECT_EQ(image.pixelColor(98, 50), QColor(Qt::red));
-  EXPECT_EQ(image.pixelColor(98, 42), QColor(Qt::white));
+  ExpectColours(image, {
+                           {82, 42, QColor(Qt::red)},
+                           {98, 50, QColor(Qt::red)},
+                           {98, 42, QColor(Qt::white)},
+                       });
 }
 
 TEST_F(PainterTest, TheGridShowsOnlyWhenOnAndWideEnough) {
@@ -325,9 +349,11 @@ TEST_F(PainterTest, TheGridShowsOnlyWhenOnAndWideEnough) {
   EXPECT_EQ(Paint().pixelColor(10, 5), QColor(Qt::white));
   surface_.SetGridOn(2);
   QImage image = Paint();
-  EXPECT_EQ(image.pixelColor(10, 5), QColor(200, 200, 200));
-  EXPECT_EQ(image.pixelColor(5, 10), QColor(200, 200, 200));
-  EXPECT_EQ(image.pixelColor(15, 15), QColor(Qt::white));
+  ExpectColours(image, {
+                           {10, 5, QColor(200, 200, 200)},
+                           {5, 10, QColor(200, 200, 200)},
+                           {15, 15, QColor(Qt::white)},
+                       });
   surface_.SetGridStepX(20);  // two pixels: too fine
   EXPECT_EQ(Paint().pixelColor(10, 5), QColor(Qt::white));
 }
@@ -345,10 +371,12 @@ TEST_F(PainterTest, TheBackgroundPictureStretchesOverTheLogicalSpaceInMode4) {
   surface_.SetBackgroundMode(4);
   surface_.SetBackgroundScale(0.5);
   QImage image = Paint();
-  EXPECT_EQ(image.pixelColor(2, 2), QColor(Qt::green));
-  EXPECT_EQ(image.pixelColor(48, 48), QColor(Qt::green));
-  EXPECT_EQ(image.pixelColor(52, 48), QColor(Qt::white));
-  EXPECT_EQ(image.pixelColor(48, 52), QColor(Qt::white));
+  ExpectColours(image, {
+                           {2, 2, QColor(Qt::green)},
+                           {48, 48, QColor(Qt::green)},
+                           {52, 48, QColor(Qt::white)},
+                           {48, 52, QColor(Qt::white)},
+                       });
   // Mode 0 keeps the picture's aspect from the page origin: half as high as wide.
   surface_.SetBackgroundMode(0);
   image = Paint();
@@ -360,9 +388,11 @@ TEST_F(PainterTest, TheViewKeepsItsAspect) {
   AddFilledRect(surface_, 0, 0, 1000, 1000, kRed);
   // A view twice as wide as high into a square: the width decides the scale.
   const QImage image = Paint(QRectF(0, 0, 2000, 1000));
-  EXPECT_EQ(image.pixelColor(48, 48), QColor(Qt::red));
-  EXPECT_EQ(image.pixelColor(52, 48), QColor(Qt::white));
-  EXPECT_EQ(image.pixelColor(48, 52), QColor(Qt::white));
+  ExpectColours(image, {
+                           {48, 48, QColor(Qt::red)},
+                           {52, 48, QColor(Qt::white)},
+                           {48, 52, QColor(Qt::white)},
+                       });
 }
 
 }  // namespace

@@ -119,12 +119,15 @@ TEST_F(SurfaceViewTest, HitsAThinLineWithinAFewPixels) {
 
 TEST_F(SurfaceViewTest, SignalsCarryLogicalPositionsButtonsAndShift) {
   std::vector<std::vector<double>> calls;
-  QObject::connect(view_.get(), &SurfaceView::MousePressed,
-                   [&](int b, int s, double x, double y) { calls.push_back({1, 1.0 * b, 1.0 * s, x, y}); });
-  QObject::connect(view_.get(), &SurfaceView::MouseMoved,
-                   [&](int b, int s, double x, double y) { calls.push_back({2, 1.0 * b, 1.0 * s, x, y}); });
-  QObject::connect(view_.get(), &SurfaceView::MouseReleased,
-                   [&](int b, int s, double x, double y) { calls.push_back({3, 1.0 * b, 1.0 * s, x, y}); });
+  QObject::connect(view_.get(), &SurfaceView::MousePressed, [&](int b, int s, double x, double y) {
+    calls.push_back({1, 1.0 * b, 1.0 * s, x, y});
+  });
+  QObject::connect(view_.get(), &SurfaceView::MouseMoved, [&](int b, int s, double x, double y) {
+    calls.push_back({2, 1.0 * b, 1.0 * s, x, y});
+  });
+  QObject::connect(view_.get(), &SurfaceView::MouseReleased, [&](int b, int s, double x, double y) {
+    calls.push_back({3, 1.0 * b, 1.0 * s, x, y});
+  });
   surface_.SetEditMode(0);
   Mouse(QEvent::MouseButtonPress, QPointF(10, 20), Qt::RightButton, Qt::ShiftModifier);
   Mouse(QEvent::MouseMove, QPointF(30, 40), Qt::RightButton, Qt::ShiftModifier);
@@ -138,7 +141,8 @@ TEST_F(SurfaceViewTest, SignalsCarryLogicalPositionsButtonsAndShift) {
 TEST_F(SurfaceViewTest, KeysAndDoubleClicksGoToTheWindow) {
   const int n = surface_.AddObject(2, 1000, 1000, 2000, 2000);
   int key = 0, shift = 0, clicked = -1;
-  QObject::connect(view_.get(), &SurfaceView::KeyPressed, [&](int k, int s) { key = k, shift = s; });
+  QObject::connect(view_.get(), &SurfaceView::KeyPressed,
+                   [&](int k, int s) { key = k, shift = s; });
   QObject::connect(view_.get(), &SurfaceView::DoubleClicked,
                    [&](int object, double, double) { clicked = object; });
   QKeyEvent press(QEvent::KeyPress, Qt::Key_Left, Qt::ShiftModifier);
@@ -153,7 +157,8 @@ TEST_F(SurfaceViewTest, ARubberBandSelectsWhatItTouches) {
   const int a = surface_.AddObject(2, 1000, 1000, 1200, 1200);
   const int b = surface_.AddObject(2, 3000, 2000, 3200, 2200);
   int finished = -1;
-  QObject::connect(view_.get(), &SurfaceView::SelectionFinished, [&](int count) { finished = count; });
+  QObject::connect(view_.get(), &SurfaceView::SelectionFinished,
+                   [&](int count) { finished = count; });
   Drag(QPointF(50, 50), QPointF(150, 150));
   EXPECT_EQ(finished, 1);
   EXPECT_TRUE(surface_.IsSelected(a));
@@ -183,9 +188,8 @@ TEST_F(SurfaceViewTest, DraggingMovesTheSelectionWithItsLinks) {
   const int b = surface_.AddObject(2, 3000, 1000, 3200, 1200);
   const int link = surface_.AddLink(a, b);
   int moved_x = 0, moved_y = 0;
-  QObject::connect(view_.get(), &SurfaceView::MoveFinished, [&](int dx, int dy) {
-    moved_x = dx, moved_y = dy;
-  });
+  QObject::connect(view_.get(), &SurfaceView::MoveFinished,
+                   [&](int dx, int dy) { moved_x = dx, moved_y = dy; });
   // Beside the link, which runs through the centres.
   Drag(QPointF(104, 104), QPointF(124, 144));
   EXPECT_EQ(moved_x, 200);
@@ -214,7 +218,9 @@ TEST_F(SurfaceViewTest, NoSelectionGesturesWhileSelectionIsDisabled) {
 TEST_F(SurfaceViewTest, TheZoomRectangleIsGivenInLogicalUnits) {
   std::vector<double> rect;
   QObject::connect(view_.get(), &SurfaceView::ZoomRectangle,
-                   [&](double l, double t, double r, double b) { rect = {l, t, r, b}; });
+                   [&](double l, double t, double r, double b) {
+                     rect = {l, t, r, b};
+                   });
   surface_.SetEditMode(kEditModeZoom);
   Drag(QPointF(200, 150), QPointF(100, 50));
   EXPECT_EQ(rect, (std::vector<double>{1000, 500, 2000, 1500}));
@@ -241,8 +247,8 @@ TEST_F(SurfaceViewTest, TheWheelZoomsAboutThePointer) {
   int changed = 0;
   QObject::connect(view_.get(), &SurfaceView::ViewChanged, [&] { ++changed; });
   const QPointF at(100, 60);
-  QWheelEvent wheel(at, view_->viewport()->mapToGlobal(at), QPoint(), QPoint(0, 120),
-                    Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+  QWheelEvent wheel(at, view_->viewport()->mapToGlobal(at), QPoint(), QPoint(0, 120), Qt::NoButton,
+                    Qt::NoModifier, Qt::NoScrollPhase, false);
   QApplication::sendEvent(view_->viewport(), &wheel);
   EXPECT_EQ(changed, 1);
   EXPECT_NEAR(view_->ClientToLogicX(100), 1000, 1e-6);
@@ -265,9 +271,8 @@ TEST_F(SurfaceViewTest, ScrollBarsShowWhenAskedAndMoveTheView) {
 
 TEST_F(SurfaceViewTest, ReportsItsClientSize) {
   int width = 0, height = 0;
-  QObject::connect(view_.get(), &SurfaceView::ClientResized, [&](int w, int h) {
-    width = w, height = h;
-  });
+  QObject::connect(view_.get(), &SurfaceView::ClientResized,
+                   [&](int w, int h) { width = w, height = h; });
   view_->resize(500, 200);
   QApplication::processEvents();
   EXPECT_EQ(width, 500);
