@@ -6,12 +6,15 @@
 #include <vector>
 
 #include "shell/cli.h"
+#include "ui/render_command.h"
 
 int main(int argc, char** argv) {
   std::setlocale(LC_NUMERIC, "C");
   std::error_code error;
   std::filesystem::path self = std::filesystem::read_symlink("/proc/self/exe", error);
   if (error) self = std::filesystem::absolute(argv[0]);
+  // Commands that draw need Qt, which the core does not link.
+  pluvane::RegisterRenderCommand();
   std::vector<std::string> args(argv + 1, argv + argc);
   return pluvane::RunCli(args, self.parent_path().string(), std::cout, std::cerr);
 }

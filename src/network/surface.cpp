@@ -116,6 +116,7 @@ void Surface::ReindexAround(int number, const std::optional<std::string>& old_id
 }
 
 void Surface::Attach(int number, std::unique_ptr<SurfaceObject> object) {
+  ++shape_revision_;
   SurfaceObject& placed = *object;
   slots_[SlotOf(number)] = std::move(object);
   ++live_count_;
@@ -133,6 +134,7 @@ void Surface::Attach(int number, std::unique_ptr<SurfaceObject> object) {
 }
 
 std::unique_ptr<SurfaceObject> Surface::Detach(int number) {
+  ++shape_revision_;
   std::unique_ptr<SurfaceObject> object = std::move(slots_[SlotOf(number)]);
   --live_count_;
   if (object->selected) --selected_count_;
@@ -243,6 +245,7 @@ void Surface::Apply(JournalRecord& record) {
   } else if (auto* shape = std::get_if<ShapeRecord>(&record)) {
     SurfaceObject* object = shape->number == kDefaults ? &defaults_ : Object(shape->number);
     if (object) std::swap(object->shape, *shape->shape);
+    ++shape_revision_;
   } else if (auto* value = std::get_if<TagValueRecord>(&record)) {
     SurfaceObject* object = Object(value->number);
     if (!object || value->position >= object->tags.size()) return;
@@ -461,6 +464,11 @@ void Surface::Mark(SurfaceObject& object, bool selected) {
   selected_count_ += selected ? 1 : -1;
 }
 
+bool Surface::IsSelected(int number) const {
+  const SurfaceObject* object = Object(number);
+  return object && object->selected;
+}
+
 bool Surface::Selected() const {
   if (const SurfaceObject* object = CurrentReal()) return object->selected;
   if (current_ == kSelection) return selected_count_ > 0;
@@ -592,6 +600,7 @@ void Surface::Reset() {
   top_layer_ = 0;
   bottom_layer_ = 0;
   current_ = 0;
+  ++shape_revision_;
   document_extra_ = nullptr;
   page_extra_ = nullptr;
 }

@@ -202,6 +202,13 @@ class Surface {
   void SetTextFillBack(bool on);
   // The whole shape of an object (for the view), nullptr if there is none.
   const Shape* ObjectShape(int number) const;
+  // For painters, which must not move the cursor: the next object after a
+  // number in creation order (0 if none; start from 0), and its selection.
+  int NextObjectNumber(int after) const { return NextLive(after); }
+  bool IsSelected(int number) const;
+  // Grows at every change of an object's existence or shape, so that a view
+  // knows when its spatial index is stale. Selection and tags leave it.
+  std::uint64_t ShapeRevision() const { return shape_revision_; }
 
   // --- Interaction state (not recorded) ---
   int EditMode() const { return edit_mode_; }
@@ -354,6 +361,7 @@ class Surface {
   std::int64_t top_layer_ = 0;
   std::int64_t bottom_layer_ = 0;
   int current_ = 0;
+  std::uint64_t shape_revision_ = 0;
   Journal journal_;
 
   bool selection_enabled_ = true;

@@ -14,10 +14,8 @@ namespace pluvane {
 namespace {
 
 struct Command {
-  const char* usage;  // the command's line of the usage text
-  std::function<int(const std::vector<std::string>&, const std::string&, std::ostream&,
-                    ScriptedUi&)>
-      run;
+  std::string usage;  // the command's lines of the usage text
+  CliCommandRun run;
 };
 
 // The value after an option, or empty with `ok` false when it is missing.
@@ -61,8 +59,8 @@ int Info(const std::vector<std::string>& args, const std::string& app_path, std:
   return 0;
 }
 
-const std::map<std::string, Command>& Commands() {
-  static const std::map<std::string, Command> commands = {
+std::map<std::string, Command>& Commands() {
+  static std::map<std::string, Command> commands = {
       {"info",
        {"  info NETWORK.mtf\n"
         "                opens a network and prints, for each type present, its\n"
@@ -79,6 +77,10 @@ const std::map<std::string, Command>& Commands() {
 }
 
 }  // namespace
+
+void RegisterCliCommand(const std::string& name, const std::string& usage, CliCommandRun run) {
+  Commands()[name] = Command{usage, std::move(run)};
+}
 
 std::string CliUsage() {
   std::string usage =

@@ -16,6 +16,8 @@
 #include "shell/frm_preference.h"
 #include "shell/main_menus.h"
 #include "ui/form_window.h"
+#include "foundation/paths.h"
+#include "ui/drawing_picture.h"
 
 namespace pluvane {
 
@@ -32,6 +34,11 @@ MainWindow::MainWindow() : ui_(this) {
   };
   ui_.panel_sink = [this](const std::string& panel, const std::string& text) {
     if (panel == "caption") setWindowTitle(QString::fromStdString(text));
+  };
+  ui_.picture_writer = [this](const std::string& path) {
+    const AppState& state = application_->state();
+    return SaveDrawingPicture(surface_, path, kDefaultPictureWidth,
+                              PictureFolders{DirOf(state.NetworkFile), state.SymbolDir});
   };
   surface_.SetChangeListener([this] { RefreshSummary(); });
   BindCommands();

@@ -37,6 +37,7 @@ class MainWindow : public QMainWindow {
   void RunMenu(const std::string& name);
   // The action of a menu item, by name (nullptr when none).
   QAction* Action(const std::string& name) const;
+  QtUserInterface& user_interface() { return ui_; }
   // The summary shown in the window.
   QString Summary();
 

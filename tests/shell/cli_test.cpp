@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <sstream>
 
+#include "foundation/scripted_ui.h"
 #include "foundation/test_files.h"
 #include "network/surface.h"
 
@@ -42,6 +43,29 @@ TEST(Cli, BadUsageIsTwo) {
   EXPECT_EQ(unknown.err.rfind("pluvane-cli: commande inconnue : dessine\n", 0), 0u);
   EXPECT_EQ(RunCommand({"plot"}).status, 2);
   EXPECT_EQ(RunCommand({"plot", "a.Mst", "--ctl"}).status, 2);
+}
+
+TEST(Cli, ARegisteredCommandRunsWithItsUsageAndMessages) {
+  std::vector<std::string> seen;
+  RegisterCliCommand("essai", "  essai WORD    repeats a word\n",
+                     [&](const std::vector<std::string>& args, const std::string& app_path,
+                         std::ostream& out, ScriptedUi& ui) {
+                       seen = args;
+                       seen.push_back(app_path);
+                       if (args.empty()) return 2;
+                       ui.ShowMessage("mot " + args[0], "Essai", MessageIcon::kInformation);
+                       out << args[0] << "\n";
+                       return 0;
+                     });
+  CliRun run = RunCommand({"essai", "bonjour"}, "/opt/pluvane");
+  EXPECT_EQ(run.status, 0);
+  EXPECT_EQ(run.out, "bonjour\n");
+  EXPECT_EQ(run.err, "Essai: mot bonjour\n");
+  EXPECT_EQ(seen, (std::vector<std::string>{"bonjour", "/opt/pluvane"}));
+  EXPECT_NE(RunCommand({"--help"}).out.find("  essai WORD    repeats a word\n"), std::string::npos);
+  run = RunCommand({"essai"});
+  EXPECT_EQ(run.status, 2);
+  EXPECT_EQ(run.err, "usage: pluvane-cli\n  essai WORD    repeats a word\n");
 }
 
 TEST(Cli, PlotCompilesPageOneAndCopiesTheControlFile) {

@@ -27,6 +27,15 @@ TEST(MainWindow, StartsOnTheShippedConfigurationAndShowsTheNetworkSummary) {
   const QImage shot = window.grab().toImage();
   EXPECT_FALSE(shot.isNull());
   shot.save(QString::fromStdString(SnapshotPath("main_window.png")));
+  // Pictures of the drawing go through the main window's writer.
+  const std::string picture =
+      (fs::path(PLUVANE_BIN).parent_path() / "main_window_drawing.png").string();
+  fs::remove(picture);
+  EXPECT_TRUE(window.user_interface().SaveDrawingPicture(picture));
+  QImage drawn;
+  EXPECT_TRUE(drawn.load(QString::fromStdString(picture)));
+  EXPECT_EQ(drawn.width(), 1600);
+  EXPECT_FALSE(window.user_interface().SaveDrawingPicture(picture + ".dxf"));
   window.application().QuitCommand();
   window.close();
 }

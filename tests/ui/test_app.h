@@ -1,21 +1,15 @@
-// The one QApplication of the UI tests, and where their pictures go.
+// Where the pictures of the UI tests go, to be looked at; the test application
+// itself is in qt_test_app.h.
 #pragma once
 
-#include <QApplication>
 #include <filesystem>
 #include <string>
 
+#include "qt_test_app.h"
+
 namespace pluvane {
 
-inline QApplication& TestApp() {
-  static int argc = 1;
-  static char name[] = "test_ui";
-  static char* argv[] = {name, nullptr};
-  static QApplication* app = new QApplication(argc, argv);
-  return *app;
-}
-
-// A file of the build folder for the pictures the tests make, to be looked at.
+// A file of the build folder's shots/ for the pictures the tests make.
 inline std::string SnapshotPath(const std::string& name) {
   const std::filesystem::path folder = std::filesystem::path(PLUVANE_BIN).parent_path() / "shots";
   std::filesystem::create_directories(folder);
