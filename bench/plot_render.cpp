@@ -8,19 +8,11 @@
 #include <fstream>
 #include <string>
 
+#include "bench_clock.h"
 #include "foundation/fixed_width.h"
 #include "foundation/scripted_ui.h"
 #include "network/surface.h"
 #include "plot/morvex_draw.h"
-
-namespace {
-
-double Milliseconds(std::chrono::steady_clock::time_point since) {
-  return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - since)
-      .count();
-}
-
-}  // namespace
 
 int main() {
   constexpr int kPoints = 1000000;

@@ -120,7 +120,8 @@ void FrmEchDef::Rewrite() {
   w.resize(kScaleWords);
   // A changed step takes the format that shows its decimals.
   const bool date_scale = IsDate(Spread1.Text(1, 1)) || IsDate(Word(scale_words_, 2));
-  if (Val(Spread1.Text(1, 3)) != Val(w[5]) && !date_scale) w[13] = FormatOfStep(Spread1.Value(1, 3));
+  if (Val(Spread1.Text(1, 3)) != Val(w[5]) && !date_scale)
+    w[13] = FormatOfStep(Spread1.Value(1, 3));
   if (Val(Spread1.Text(2, 3)) != Val(w[6])) w[14] = FormatOfStep(Spread1.Value(2, 3));
   std::string scale = "ECHELLE " + Quoted(w[0]);
   const int cells[8][2] = {{1, 1}, {1, 2}, {2, 1}, {2, 2}, {1, 3}, {2, 3}, {1, 4}, {2, 4}};

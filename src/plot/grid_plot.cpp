@@ -134,8 +134,8 @@ std::string Plotxy(UserInterface& ui, const Grid& grid, const PlotxyRequest& req
   script.push_back(" Cadre " + ScriptNumber(kLeft) + " " + ScriptNumber(kRight) + " " +
                    ScriptNumber(kBottom) + " " + ScriptNumber(kTop) + "  " +
                    Quoted(request.page_title) + "  6 1 0 6 0 65535");
-  script.push_back("    Echelle \"F\" " + ScriptNumber(l.x_min) + " " + ScriptNumber(l.x_max) + " " +
-                   ScriptNumber(l.y_min) + " " + ScriptNumber(l.y_max) + " " +
+  script.push_back("    Echelle \"F\" " + ScriptNumber(l.x_min) + " " + ScriptNumber(l.x_max) +
+                   " " + ScriptNumber(l.y_min) + " " + ScriptNumber(l.y_max) + " " +
                    ScriptNumber(x_step.step) + " " + ScriptNumber(y_step.step) + " " +
                    ScriptNumber(x_step.spacing) + " " + ScriptNumber(y_step.spacing) +
                    " \"\"  \"\"  \"V\" 5 " + Quoted(FormatOfStep(x_step.step)) + " " +

@@ -72,8 +72,8 @@ void DrawCurves(UserInterface& ui, PlotPage& page, const std::vector<CtlPlot>& p
   }
 }
 
-void DrawFrames(UserInterface& ui, CtlLines& ctl, PlotPage& page, int frame_count,
-                bool no_legend, bool equal_scales, const std::string& script_dir) {
+void DrawFrames(UserInterface& ui, CtlLines& ctl, PlotPage& page, int frame_count, bool no_legend,
+                bool equal_scales, const std::string& script_dir) {
   CtlScale scale;
   for (int f = 0; f < frame_count && !ctl.AtEnd(); ++f) {
     const CtlFrame frame = ReadCtlFrame(ctl.Next());
@@ -93,7 +93,6 @@ void DrawFrames(UserInterface& ui, CtlLines& ctl, PlotPage& page, int frame_coun
     DrawCurves(ui, page, plots, script_dir);
   }
 }
-
 
 // One undo step for the whole page, closed whatever happens.
 class StepGuard {

@@ -92,8 +92,8 @@ void DrawTitles(PlotPage& page, const CtlScale& scale, const PlotText& style, in
     PlotText title = style;
     title.text = scale.x_title;
     title.align = kAlignRight;
-    const double label_y = last_x_label ? page.DeviceToCmY(BoxOf(page, last_x_label).top)
-                                        : page.bottom - kTick;
+    const double label_y =
+        last_x_label ? page.DeviceToCmY(BoxOf(page, last_x_label).top) : page.bottom - kTick;
     DrawText(page, title, page.CmToDeviceX(page.right), page.CmToDeviceY(label_y - 0.6));
   }
   if (Trim(scale.y_title).empty()) return;
@@ -109,8 +109,8 @@ void DrawTitles(PlotPage& page, const CtlScale& scale, const PlotText& style, in
   // Along the axis, reading upwards, its end 2 cm below the frame's top and
   // its band a tick length to the left of the labels.
   title.angle = 90;
-  const std::int32_t labels_left = last_y_label ? BoxOf(page, last_y_label).left
-                                                : page.CmToDeviceX(page.left - kTick);
+  const std::int32_t labels_left =
+      last_y_label ? BoxOf(page, last_y_label).left : page.CmToDeviceX(page.left - kTick);
   const std::int32_t tick = page.CmToDeviceX(kTick) - page.CmToDeviceX(0);
   DrawText(page, title, labels_left - tick - TextHeight(title.points),
            page.CmToDeviceY(page.top_read - 2.0));
@@ -147,8 +147,8 @@ void DrawAxes(PlotPage& page, const CtlFrame& frame, const CtlScale& scale, cons
   const double x_range = page.x_max - page.x_min, y_range = page.y_max - page.y_min;
   const double dx = x_range > 0 ? width * scale.x_step / x_range : 0;
   const double dy = y_range > 0 ? height * scale.y_step / y_range : 0;
-  PlotText style{"", PlotFontFace(frame.font), scale.label_size, frame.colour, 0, kAlignCentre,
-                 VerticalAlign::kTop};
+  PlotText style{"",           PlotFontFace(frame.font), scale.label_size, frame.colour, 0,
+                 kAlignCentre, VerticalAlign::kTop};
   const int last_x = DrawXAxis(page, scale, style, dx);
   const int last_y = DrawYAxis(page, scale, style, dy);
   DrawTitles(page, scale, style, last_x, last_y);

@@ -93,7 +93,9 @@ void DrawPointSymbol(PlotPage& page, int kind, std::int32_t x, std::int32_t y, i
                  {{x - s, y - s}, {x - s, y + s}, {x + s, y + s}, {x + s, y - s}, {x - s, y - s}});
       break;
     case 4:
-    case 5: DrawEllipse(page, x + s, y + s, x - s, y - s); break;
+    case 5:
+      DrawEllipse(page, x + s, y + s, x - s, y - s);
+      break;
     case 6:
     case 7:
       DrawPoints(page, kKindPolygon,
@@ -101,14 +103,18 @@ void DrawPointSymbol(PlotPage& page, int kind, std::int32_t x, std::int32_t y, i
       break;
     case 8: {
       // The old size was s twips / 20 in points.
-      PlotText text{SymbolCharacter(symbol), PlotFontFace(std::string("ARIAL")),
-                    (size == 0 ? 4 : size) * 0.75,         page.line.colour,
-                    0,                                     kAlignCentre,
+      PlotText text{SymbolCharacter(symbol),
+                    PlotFontFace(std::string("ARIAL")),
+                    (size == 0 ? 4 : size) * 0.75,
+                    page.line.colour,
+                    0,
+                    kAlignCentre,
                     VerticalAlign::kMiddle};
       DrawText(page, text, x, y);
       break;
     }
-    default: break;
+    default:
+      break;
   }
 }
 
@@ -129,8 +135,8 @@ void PlotUcm(UserInterface& ui, PlotPage& page, const std::vector<double>& x,
                         plot.symbol_size, plot.symbol);
       }
     } else {
-      page.buffer.reserve(std::min<std::size_t>(static_cast<std::size_t>(count) + 4,
-                                                kMaxPlotPoints));
+      page.buffer.reserve(
+          std::min<std::size_t>(static_cast<std::size_t>(count) + 4, kMaxPlotPoints));
       FillBuffer(page, x, y, count, window, place);
       if (!page.buffer.empty()) {
         if (plot.kind != 1) CloseBuffer(page, plot.kind);

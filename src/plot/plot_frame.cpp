@@ -45,7 +45,7 @@ void DrawFrameTitle(PlotPage& page, const CtlFrame& frame, const std::vector<Ctl
   double free_height = page.top - 0.2;
   bool placed = false;
   if (titled) {
-    PlotText title{frame.title, PlotFontFace(frame.font), frame.text_size, frame.colour, 0,
+    PlotText title{frame.title,  PlotFontFace(frame.font), frame.text_size, frame.colour, 0,
                    kAlignCentre, VerticalAlign::kTop};
     const int number = DrawText(page, title, page.CmToDeviceX((page.left + page.right) / 2),
                                 page.CmToDeviceY(page.top - 0.2));
@@ -60,8 +60,8 @@ void DrawFrameTitle(PlotPage& page, const CtlFrame& frame, const std::vector<Ctl
     double lowest = free_height;
     for (const CtlPlot& plot : plots) {
       if (Trim(plot.symbol).empty()) continue;
-      const double width = 2 * kLegendSample + 0.1 +
-                           (static_cast<double>(CharCount(plot.symbol)) + 1) * legend_cm;
+      const double width =
+          2 * kLegendSample + 0.1 + (static_cast<double>(CharCount(plot.symbol)) + 1) * legend_cm;
       if (x + width > page.right && x > page.left + kLegendSample) {
         x = page.left + kLegendSample;
         line_y -= 0.4;
@@ -92,8 +92,9 @@ void DrawComments(PlotPage& page, const std::vector<CtlComment>& comments) {
   // The alignment words are read but change nothing: a comment starts at its
   // position, which is the base of the text.
   for (const CtlComment& comment : comments) {
-    PlotText text{comment.text, PlotFontFace(comment.font), comment.size,    comment.colour,
-                  comment.angle, kAlignLeft,               VerticalAlign::kBottom};
+    PlotText text{
+        comment.text, PlotFontFace(comment.font), comment.size, comment.colour, comment.angle,
+        kAlignLeft,   VerticalAlign::kBottom};
     DrawText(page, text, page.CmToDeviceX(comment.x), page.CmToDeviceY(comment.y));
   }
 }

@@ -80,9 +80,7 @@ int DrawEllipse(PlotPage& page, std::int32_t x1, std::int32_t y1, std::int32_t x
   return page.surface.AddObject(kKindEllipse, x1, y1, x2, y2);
 }
 
-std::int32_t TextHeight(double points) {
-  return RoundLong(PointsToCm(points) * kPlotUnitsPerCm);
-}
+std::int32_t TextHeight(double points) { return RoundLong(PointsToCm(points) * kPlotUnitsPerCm); }
 
 std::int32_t TextWidth(const std::string& text, double points) {
   return RoundLong(static_cast<double>(CharCount(text)) * kCharWidth * TextHeight(points));

@@ -52,8 +52,7 @@ int DrawPolyObject(PlotPage& page, int kind);
 // The same with other points.
 int DrawPoints(PlotPage& page, int kind, const std::vector<Point>& points);
 // An ellipse in device units.
-int DrawEllipse(PlotPage& page, std::int32_t x1, std::int32_t y1, std::int32_t x2,
-                std::int32_t y2);
+int DrawEllipse(PlotPage& page, std::int32_t x1, std::int32_t y1, std::int32_t x2, std::int32_t y2);
 // A text with its reference point at device (x, y).
 int DrawText(PlotPage& page, const PlotText& text, std::int32_t x, std::int32_t y);
 

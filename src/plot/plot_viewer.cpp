@@ -22,6 +22,14 @@ std::optional<double> AskNumber(UserInterface& ui, const std::string& prompt,
   return Val(*answer);
 }
 
+// Applies `change` to the selected objects, the cursor kept.
+template <typename Change>
+void ToSelection(Surface& surface, Change change) {
+  CursorKeeper keeper(surface);
+  surface.SetCurrentObject(kSelection);
+  change();
+}
+
 }  // namespace
 
 void ViewerDraw(UserInterface& ui, Surface& surface, const ViewerState& state,
@@ -37,28 +45,25 @@ void ViewerDraw(UserInterface& ui, Surface& surface, const ViewerState& state,
 void mnuOpt_Attrib_Dess_CoLine(UserInterface& ui, Surface& surface) {
   const std::optional<std::int32_t> colour = ui.ChooseColour(0);
   if (!colour) return;
-  CursorKeeper keeper(surface);
-  surface.SetCurrentObject(kSelection);
-  surface.SetLineColor(*colour);
-  surface.SetCurrentObject(kDefaults);
-  surface.SetLineColor(*colour);
+  ToSelection(surface, [&] {
+    surface.SetLineColor(*colour);
+    surface.SetCurrentObject(kDefaults);
+    surface.SetLineColor(*colour);
+  });
 }
 
 void mnuOpt_Attrib_Dess_WtLine(UserInterface& ui, Surface& surface) {
-  const auto width = AskNumber(ui, "Entrez la taille désirée (en nombre réel positif (ex 0,1,2,4,...).",
-                               "Epaisseur du trait de ligne");
+  const auto width =
+      AskNumber(ui, "Entrez la taille désirée (en nombre réel positif (ex 0,1,2,4,...).",
+                "Epaisseur du trait de ligne");
   if (!width) return;
-  CursorKeeper keeper(surface);
-  surface.SetCurrentObject(kSelection);
-  surface.SetLineWidth(*width);
+  ToSelection(surface, [&] { surface.SetLineWidth(*width); });
 }
 
 void mnuOpt_Attrib_Text_Co(UserInterface& ui, Surface& surface) {
   const std::optional<std::int32_t> colour = ui.ChooseColour(0);
   if (!colour) return;
-  CursorKeeper keeper(surface);
-  surface.SetCurrentObject(kSelection);
-  surface.SetTextColor(*colour);
+  ToSelection(surface, [&] { surface.SetTextColor(*colour); });
 }
 
 void mnuOpt_Attrib_Text_Font(UserInterface& ui, Surface& surface) {
@@ -67,30 +72,26 @@ void mnuOpt_Attrib_Text_Font(UserInterface& ui, Surface& surface) {
   initial.size = 8;
   const std::optional<FontChoice> font = ui.ChooseFont(initial);
   if (!font) return;
-  CursorKeeper keeper(surface);
-  surface.SetCurrentObject(kSelection);
-  surface.SetTextFontName(font->name);
-  surface.SetTextSize(-static_cast<double>(TextHeight(font->size)));
-  surface.SetTextBold(font->bold);
-  surface.SetTextItalic(font->italic);
+  ToSelection(surface, [&] {
+    surface.SetTextFontName(font->name);
+    surface.SetTextSize(-static_cast<double>(TextHeight(font->size)));
+    surface.SetTextBold(font->bold);
+    surface.SetTextItalic(font->italic);
+  });
 }
 
 void mnuOpt_Attrib_Text_Ori(UserInterface& ui, Surface& surface) {
   const auto angle = AskNumber(ui, "Entrez l'angle à appliquer en degré",
                                "Définition de l'angle d'orientation des textes");
   if (!angle) return;
-  CursorKeeper keeper(surface);
-  surface.SetCurrentObject(kSelection);
-  surface.SetTextAngle(*angle);
+  ToSelection(surface, [&] { surface.SetTextAngle(*angle); });
 }
 
 void mnuOpt_Attrib_Text_Size(UserInterface& ui, Surface& surface) {
-  const auto size = AskNumber(ui, "Entrez la taille désirée (en nombre réel positif (ex 4,6,8,...).",
-                              "Taille du texte");
+  const auto size = AskNumber(
+      ui, "Entrez la taille désirée (en nombre réel positif (ex 4,6,8,...).", "Taille du texte");
   if (!size) return;
-  CursorKeeper keeper(surface);
-  surface.SetCurrentObject(kSelection);
-  surface.SetTextSize(-static_cast<double>(TextHeight(*size)));
+  ToSelection(surface, [&] { surface.SetTextSize(-static_cast<double>(TextHeight(*size))); });
 }
 
 void mnuOpt_PlacerLigne(Surface& surface) { surface.SetEditMode(kKindLine); }
@@ -100,7 +101,8 @@ void mnuOpt_PlacerTxt(Surface& surface) { surface.SetEditMode(kKindText); }
 std::string mnuUtil_Vistrel_ChooseFile(UserInterface& ui, ViewerState& state) {
   const std::string initial = state.last_curve_file.empty() ? "*.deb" : state.last_curve_file;
   std::string folder, name, base, extension = "deb";
-  if (!state.last_curve_file.empty()) SplitPath(state.last_curve_file, folder, name, base, extension);
+  if (!state.last_curve_file.empty())
+    SplitPath(state.last_curve_file, folder, name, base, extension);
   const std::string file = ui.AskOpenFile(
       "Charger un fichier crb d'Kalder",
       "fichier deb|*.deb|fichier hys|*.hys|fichier app|*.app|fichier lim|*.lim|fichier "

@@ -19,8 +19,8 @@ struct ViewerState {
   std::string script;          // the script shown
   std::string initial_script;  // its first form, to go back to
   int action = kViewerInitial;
-  std::string page_title;      // the window's title
-  std::string selection_mode;  // the element kind: "SEC", "SAPP"...; also the chooser's mode
+  std::string page_title;       // the window's title
+  std::string selection_mode;   // the element kind: "SEC", "SAPP"...; also the chooser's mode
   std::string last_curve_file;  // offered by mnuUtil_Vistrel next time
 };
 

@@ -32,8 +32,7 @@ std::vector<std::string> IdentifiersOf(UserInterface& ui, const std::string& fil
 
 }  // namespace
 
-std::vector<std::string> CurveNamesOf(UserInterface& ui, const std::string& file,
-                                      bool marks_only) {
+std::vector<std::string> CurveNamesOf(UserInterface& ui, const std::string& file, bool marks_only) {
   std::vector<std::string> names;
   TextReader reader(file);
   if (!FileExist(file) || !reader.IsOpen()) {

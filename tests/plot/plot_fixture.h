@@ -22,7 +22,8 @@ using XY = std::pair<double, double>;
 // One curve of a curve file: its header and its data lines.
 inline std::string CurveText(const std::string& name, const std::vector<XY>& points) {
   std::string text = "'" + name + "'\r\n";
-  for (const XY& p : points) text += FormatFixed(p.first, 10, 3) + FormatFixed(p.second, 10, 3) + "\r\n";
+  for (const XY& p : points)
+    text += FormatFixed(p.first, 10, 3) + FormatFixed(p.second, 10, 3) + "\r\n";
   return text;
 }
 

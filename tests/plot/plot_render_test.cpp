@@ -39,7 +39,8 @@ std::vector<const Shape*> Strokes(Surface& surface, bool vertical) {
 // A frame whose X runs from 01/01/2000 to `x_max` by days, labelled every 5.
 std::string DateScript(const std::string& x_max) {
   return "PAGE \"A4\" \"H\"\r\n Cadre 2 28 2 20 \"\" 6 1 0 6 0 0\r\n Echelle \"F\" 01/01/2000 " +
-         x_max + " 0 10 1 1 5 2 \"\" \"\" \"V\" 5 \"01/01/2000\" \"######0.00\"\r\n Grille 0 0 2 1 0\r\n" +
+         x_max +
+         " 0 10 1 1 5 2 \"\" \"\" \"V\" 5 \"01/01/2000\" \"######0.00\"\r\n Grille 0 0 2 1 0\r\n" +
          kPlotA + " EndCadre\r\nENDPAGE\r\n";
 }
 
@@ -109,9 +110,8 @@ TEST_F(Render, SegmentCrossingWithBothEndsOutsideLeavesNoTrace) {
   }
   ASSERT_EQ(long_ones.size(), 1u);
   // From (110, 5) to (50, 5) it enters at x = 100, then leaves at y = 10.
-  const std::vector<Point> expected = {{DevX(28), DevY(11)},
-                                       {DevX(15), DevY(11)},
-                                       {DevX(15), DevY(20)}};
+  const std::vector<Point> expected = {
+      {DevX(28), DevY(11)}, {DevX(15), DevY(11)}, {DevX(15), DevY(20)}};
   EXPECT_EQ(long_ones[0]->points, expected);
 }
 
@@ -146,8 +146,8 @@ TEST_F(Render, TicksStandAtTheStepsWithLongOnesAtTheLabels) {
 TEST_F(Render, LabelsAtTheirTicksInTheirFormat) {
   WriteCurves("c.crb", CurveText("A", {{0, 0}, {100, 10}}));
   Draw(PageScript(kPlotA));
-  for (const auto& [text, value] : std::vector<std::pair<std::string, double>>{
-           {"0.00", 0}, {"50.00", 50}, {"100.00", 100}}) {
+  for (const auto& [text, value] :
+       std::vector<std::pair<std::string, double>>{{"0.00", 0}, {"50.00", 50}, {"100.00", 100}}) {
     const Shape* label = TextShape(surface, text);
     ASSERT_NE(label, nullptr) << text;
     EXPECT_NEAR((label->box.left + label->box.right) / 2.0, DevX(CmOfX(value)), 1) << text;
@@ -285,8 +285,7 @@ TEST_F(Render, OnlyTheFirstPageIsDrawn) {
 }
 
 TEST_F(Render, LegendEntriesFollowTheTitle) {
-  WriteCurves("c.crb",
-              CurveText("A", {{0, 0}, {100, 10}}) + CurveText("B", {{10, 1}, {20, 2}}));
+  WriteCurves("c.crb", CurveText("A", {{0, 0}, {100, 10}}) + CurveText("B", {{10, 1}, {20, 2}}));
   const std::string plots =
       " Plotxy 1 \"c.crb\" \"A\" \"Pluie\" 0 2 255\r\n"
       " Plotxy 3 \"c.crb\" \"B\" \"Débit\" 0 1 65280 0 4\r\n"
@@ -416,9 +415,13 @@ TEST_F(Render, CurveKindsAndTheirShapes) {
   EXPECT_EQ(ellipses, 1);
   EXPECT_EQ(triangles, 1);
   EXPECT_EQ(symbols, 2);
-  const std::vector<Point> closed = {{DevX(2), DevY(11)}, {DevX(28), DevY(11)}, {DevX(2), DevY(11)}};
-  const std::vector<Point> area = {{DevX(2), DevY(11)}, {DevX(28), DevY(11)}, {DevX(28), DevY(2)},
-                                   {DevX(2), DevY(2)},  {DevX(2), DevY(11)}};
+  const std::vector<Point> closed = {
+      {DevX(2), DevY(11)}, {DevX(28), DevY(11)}, {DevX(2), DevY(11)}};
+  const std::vector<Point> area = {{DevX(2), DevY(11)},
+                                   {DevX(28), DevY(11)},
+                                   {DevX(28), DevY(2)},
+                                   {DevX(2), DevY(2)},
+                                   {DevX(2), DevY(11)}};
   bool closed_found = false, area_found = false;
   for (const Shape* shape : AllShapes(surface)) {
     if (shape->kind == kKindPolyline && shape->points == closed) closed_found = true;

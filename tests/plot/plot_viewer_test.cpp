@@ -1,15 +1,16 @@
+#include "plot/plot_viewer.h"
+
 #include <gtest/gtest.h>
 
 #include "foundation/expect_message.h"
 #include "foundation/numbers.h"
-#include "foundation/text.h"
-#include "plot/curve_file.h"
 #include "foundation/paths.h"
 #include "foundation/scripted_ui.h"
 #include "foundation/test_files.h"
+#include "foundation/text.h"
+#include "plot/curve_file.h"
 #include "plot/frm_ech_def.h"
 #include "plot/grid_plot.h"
-#include "plot/plot_viewer.h"
 #include "plot/script_words.h"
 #include "plot_fixture.h"
 
@@ -221,12 +222,14 @@ TEST_F(ScaleDialogue, ReversedPairsAreTold) {
   FrmEchDef form(ui, state);
   form.Spread1.SetText(1, 1, "5");
   EXPECT_FALSE(form.Spread1_LeaveCell(1, 1));
-  ExpectLastMessage(ui, "Incohérence entre les valeurs Xmin et Xmax :\n     Xmin = 5\n     Xmax = 4",
+  ExpectLastMessage(ui,
+                    "Incohérence entre les valeurs Xmin et Xmax :\n     Xmin = 5\n     Xmax = 4",
                     "Définition des Echelles", MessageIcon::kNone);
   EXPECT_EQ(form.Spread1.ActiveCol(), 1);
   form.Spread1.SetText(2, 2, "-1");
   EXPECT_FALSE(form.Spread1_LeaveCell(2, 2));
-  ExpectLastMessage(ui, "Incohérence entre les valeurs Ymin et Ymax :\n     Ymin = 0\n     Ymax = -1",
+  ExpectLastMessage(ui,
+                    "Incohérence entre les valeurs Ymin et Ymax :\n     Ymin = 0\n     Ymax = -1",
                     "Définition des Echelles", MessageIcon::kNone);
   form.Spread1.SetText(1, 1, "05/01/2000");
   form.Spread1.SetText(1, 2, "01/02/1999");

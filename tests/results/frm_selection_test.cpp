@@ -17,7 +17,8 @@ class Selection : public ::testing::Test {
   }
   std::vector<std::string> Names(FrmSelection& form) {
     std::vector<std::string> names;
-    for (int row = 1; row <= form.Spread1.MaxRows(); ++row) names.push_back(form.Spread1.Text(1, row));
+    for (int row = 1; row <= form.Spread1.MaxRows(); ++row)
+      names.push_back(form.Spread1.Text(1, row));
     return names;
   }
   std::string List() const { return folder.File("IdCrb.Tmp"); }
@@ -118,10 +119,9 @@ TEST_F(Selection, IdentifierModes) {
 TEST_F(Selection, MissingSourceIsTold) {
   const std::string missing = folder.File("absent.Deb");
   FrmSelection form(ui, "identif", missing, List());
-  ExpectLastMessage(ui,
-                    "Fichier " + missing +
-                        " introuvable!\nEnregistrer les données et Quitter le programme!",
-                    "", MessageIcon::kNone);
+  ExpectLastMessage(
+      ui, "Fichier " + missing + " introuvable!\nEnregistrer les données et Quitter le programme!",
+      "", MessageIcon::kNone);
   EXPECT_EQ(form.Spread1.MaxRows(), 0);
   FrmSelection curves(ui, "Deb", missing, List());
   EXPECT_EQ(ui.Messages().size(), 2u);
