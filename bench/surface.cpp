@@ -7,16 +7,8 @@
 #include <filesystem>
 #include <string>
 
+#include "bench_clock.h"
 #include "network/surface_helpers.h"
-
-namespace {
-
-double Milliseconds(std::chrono::steady_clock::time_point since) {
-  return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - since)
-      .count();
-}
-
-}  // namespace
 
 int main() {
   using pluvane::Surface;
