@@ -25,14 +25,14 @@ QSize PictureSize(const QRectF& extent, int width_pixels) {
   return QSize(width, height);
 }
 
-void PaintWhole(const Surface& surface, QPainter& painter, const QSize& size,
-                const PictureFolders& folders, bool vector) {
+void PaintWhole(const Surface& surface, const QRectF& extent, QPainter& painter,
+                const QSize& size, const PictureFolders& folders, bool vector) {
   SurfacePainter surface_painter;
   surface_painter.SetFolders(folders.base_dir, folders.symbol_dir);
   surface_painter.options.show_selection = false;
   surface_painter.options.show_grid = false;
   surface_painter.options.vector_output = vector;
-  surface_painter.Paint(surface, painter, DrawingExtent(surface), size);
+  surface_painter.Paint(surface, painter, extent, size);
 }
 
 }  // namespace
@@ -53,20 +53,30 @@ QRectF DrawingExtent(const Surface& surface) {
 }
 
 QImage RenderDrawing(const Surface& surface, int width_pixels, const PictureFolders& folders) {
-  const QSize size = PictureSize(DrawingExtent(surface), width_pixels);
+  return RenderArea(surface, DrawingExtent(surface), width_pixels, folders);
+}
+
+QImage RenderArea(const Surface& surface, const QRectF& extent, int width_pixels,
+                  const PictureFolders& folders) {
+  const QSize size = PictureSize(extent, width_pixels);
   QImage image(size, QImage::Format_ARGB32_Premultiplied);
   image.fill(Qt::white);
   QPainter painter(&image);
-  PaintWhole(surface, painter, size, folders, false);
+  PaintWhole(surface, extent, painter, size, folders, false);
   painter.end();
   return image;
 }
 
 bool SaveDrawingPicture(const Surface& surface, const std::string& path, int width_pixels,
                         const PictureFolders& folders) {
+  return SaveAreaPicture(surface, DrawingExtent(surface), path, width_pixels, folders);
+}
+
+bool SaveAreaPicture(const Surface& surface, const QRectF& extent, const std::string& path,
+                     int width_pixels, const PictureFolders& folders) {
   const PictureFormat format = PictureFormatOf(path);
   const QString file = QString::fromStdString(path);
-  const QSize size = PictureSize(DrawingExtent(surface), width_pixels);
+  const QSize size = PictureSize(extent, width_pixels);
   switch (format) {
     case PictureFormat::kSvg:
     case PictureFormat::kMetafile: {
@@ -77,7 +87,7 @@ bool SaveDrawingPicture(const Surface& surface, const std::string& path, int wid
       generator.setTitle("Pluvane");
       QPainter painter;
       if (!painter.begin(&generator)) return false;
-      PaintWhole(surface, painter, size, folders, true);
+      PaintWhole(surface, extent, painter, size, folders, true);
       return painter.end() && QFile::exists(file);
     }
     case PictureFormat::kPdf: {
@@ -92,11 +102,11 @@ bool SaveDrawingPicture(const Surface& surface, const std::string& path, int wid
       if (!painter.begin(&writer)) return false;
       // The page may round to a slightly other size: paint over the whole of it.
       const QSize page(painter.device()->width(), painter.device()->height());
-      PaintWhole(surface, painter, page, folders, true);
+      PaintWhole(surface, extent, painter, page, folders, true);
       return painter.end() && QFile::exists(file);
     }
     case PictureFormat::kRaster:
-      return RenderDrawing(surface, width_pixels, folders).save(file);
+      return RenderArea(surface, extent, width_pixels, folders).save(file);
     case PictureFormat::kUnknown:
       break;
   }

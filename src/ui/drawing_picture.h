@@ -32,4 +32,10 @@ QImage RenderDrawing(const Surface& surface, int width_pixels, const PictureFold
 bool SaveDrawingPicture(const Surface& surface, const std::string& path, int width_pixels,
                         const PictureFolders& folders = {});
 
+// The same for a given logical rectangle (a plot's page, for instance).
+QImage RenderArea(const Surface& surface, const QRectF& extent, int width_pixels,
+                  const PictureFolders& folders = {});
+bool SaveAreaPicture(const Surface& surface, const QRectF& extent, const std::string& path,
+                     int width_pixels, const PictureFolders& folders = {});
+
 }  // namespace pluvane

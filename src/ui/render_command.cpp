@@ -10,6 +10,8 @@
 #include "foundation/scripted_ui.h"
 #include "network/persistence.h"
 #include "network/surface.h"
+#include "plot/morvex_draw.h"
+#include "plot/plot_command.h"
 #include "shell/cli.h"
 #include "ui/drawing_picture.h"
 #include "ui/picture_format.h"
@@ -89,7 +91,55 @@ int RenderCommand(const std::vector<std::string>& args, const std::string& app_p
   return 0;
 }
 
+int PlotCommand(const std::vector<std::string>& args, const std::string&, std::ostream& out,
+                ScriptedUi& ui) {
+  std::string script, ctl, output;
+  int width = kDefaultPictureWidth;
+  for (std::size_t i = 0; i < args.size(); ++i) {
+    const std::string& arg = args[i];
+    if ((arg == "--ctl" || arg == "-o" || arg == "--width") && i + 1 >= args.size()) return 2;
+    if (arg == "--ctl") {
+      ctl = args[++i];
+    } else if (arg == "-o" || arg == "--output") {
+      output = args[++i];
+    } else if (arg == "--width") {
+      width = static_cast<int>(ValLong(args[++i]));
+      if (width < 1) return 2;
+    } else if (script.empty() && arg.rfind("-", 0) != 0) {
+      script = arg;
+    } else {
+      return 2;
+    }
+  }
+  if (script.empty()) return 2;
+  if (!output.empty() && PictureFormatOf(output) == PictureFormat::kUnknown) {
+    ui.ShowMessage(
+        "Erreur de sauvegarde : format d'image non reconnu (" + LastExtension(output) + ")", kTitle,
+        MessageIcon::kCritical);
+    return 1;
+  }
+  if (!CompileScriptPage(ui, script, ctl)) return 1;
+  if (!ctl.empty()) out << ctl << "\n";
+  if (output.empty()) return 0;
+  PlotPicture page = DrawScriptPage(ui, script);
+  if (!page.drawn) return 1;
+  EnsureGuiApplication();
+  if (!SaveAreaPicture(*page.surface, QRectF(0, 0, page.width, page.height), output, width)) {
+    ui.ShowMessage("Erreur de sauvegarde : écriture impossible de " + output, kTitle,
+                   MessageIcon::kCritical);
+    return 1;
+  }
+  out << output << "\n";
+  return 0;
+}
+
 void RegisterRenderCommand() {
+  RegisterCliCommand("plot",
+                     "  plot SCRIPT.Mst [--ctl OUT.ctl] [-o OUT.svg|pdf|png] [--width PIXELS]\n"
+                     "                compiles page 1 of a plot script in the script's folder;\n"
+                     "                --ctl also writes the control file there, -o draws the\n"
+                     "                page into a picture\n",
+                     PlotCommand);
   RegisterCliCommand("render",
                      "  render NETWORK.mtf -o OUT.svg|pdf|png [--width PIXELS]\n"
                      "                draws the whole network as the window shows it into a\n"
