@@ -352,6 +352,11 @@ int Surface::FindById(std::string_view id) const {
   return found == id_index_.end() ? 0 : found->second.front();
 }
 
+int Surface::CountById(std::string_view id) const {
+  auto found = id_index_.find(std::string(id));
+  return found == id_index_.end() ? 0 : static_cast<int>(found->second.size());
+}
+
 int Surface::FirstObject() {
   const int number = NextLive(0);
   current_ = number ? number : kPage;

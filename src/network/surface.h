@@ -71,6 +71,8 @@ class Surface {
   // First object whose Id is `id` in creation order, 0 if none, from the index
   // of Ids. The cursor does not move.
   int FindById(std::string_view id) const;
+  // How many objects have that Id, from the same index.
+  int CountById(std::string_view id) const;
   // Walks of all objects, and of the selection. Each makes the object found
   // current and returns it; after the last, 0 is returned and the page (or
   // the selection) is current.

@@ -46,6 +46,8 @@ std::vector<int> FindObjectList(Surface& surface, std::string_view tag_name,
 }
 
 int CountByTag(Surface& surface, std::string_view tag_name, const TagMatch& value) {
+  // Ids are counted from the index: creating an element asks this each time.
+  if (tag_name == "Id" && !value.numeric()) return surface.CountById(value.text());
   CursorKeeper keeper(surface);
   surface.SetCurrentObject(kAllObjects);
   int count = 0;

@@ -184,3 +184,28 @@ TEST_F(SurfaceHelpers, MaxIdNumbersGivesWhatMaxIdNumberGivesForEveryKind) {
 
 }  // namespace
 }  // namespace pluvane
+
+namespace pluvane {
+namespace {
+
+TEST(SurfaceHelpersIdCount, IdsAreCountedFromTheIndexAsTheWalkWouldCountThem) {
+  Surface surface;
+  for (int i = 0; i < 3; ++i) {
+    surface.AddObject(kKindRectangle, 0, 0, 10, 10);
+    surface.SetObjTag("Id", i < 2 ? "Nod_1" : "Nod_2");
+  }
+  const int hidden = surface.AddObject(kKindRectangle, 0, 0, 10, 10);
+  surface.SetObjTag("Id", "Nod_1");
+  surface.SetObjectVisible(false);
+  surface.SetCurrentObject(hidden);
+  EXPECT_EQ(CountByTag(surface, "Id", "Nod_1"), 3);
+  EXPECT_EQ(CountByTag(surface, "Id", "Nod_2"), 1);
+  EXPECT_EQ(CountByTag(surface, "Id", "nod_2"), 0);
+  EXPECT_EQ(CountByTag(surface, "Id", "Absent"), 0);
+  EXPECT_EQ(surface.CurrentObject(), hidden);
+  surface.DeleteObject(hidden);
+  EXPECT_EQ(CountByTag(surface, "Id", "Nod_1"), 2);
+}
+
+}  // namespace
+}  // namespace pluvane
