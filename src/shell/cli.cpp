@@ -4,7 +4,12 @@
 #include <map>
 
 #include "foundation/scripted_ui.h"
+#include "network/persistence.h"
+#include "network/surface.h"
 #include "plot/plot_command.h"
+#include "shell/application.h"
+#include "simulation/model_command.h"
+#include "simulation/model_generation.h"
 
 namespace pluvane {
 
@@ -42,8 +47,45 @@ int Plot(const std::vector<std::string>& args, const std::string&, std::ostream&
   return 0;
 }
 
+// Opens the network as the program does and generates the model of a
+// scenario (the network's current one by default). Nothing is saved.
+int Generate(const std::vector<std::string>& args, const std::string& app_path, std::ostream& out,
+             ScriptedUi& ui) {
+  std::string network, scenario;
+  bool scenario_given = false;
+  for (std::size_t i = 0; i < args.size(); ++i) {
+    if (args[i] == "--scenario") {
+      if (!TakeOption(args, i, scenario)) return 2;
+      scenario_given = true;
+    } else if (network.empty() && args[i].rfind("-", 0) != 0) {
+      network = args[i];
+    } else {
+      return 2;
+    }
+  }
+  if (network.empty()) return 2;
+  Surface surface;
+  Application application(surface, ui);
+  if (!application.Load(app_path, "")) return 1;
+  NetworkSession session = application.session();
+  if (!OpenNetwork(session, true, network)) return 1;
+  AppState& state = application.state();
+  if (!scenario_given) scenario = state.ScenarioName;
+  ModelContext context{surface, state, ui};
+  const int steps = RunModelGeneration(context, scenario);
+  if (steps != kModelStepCount) return 1;
+  out << state.ModelFolder << "\n";
+  return 0;
+}
+
 const std::map<std::string, Command>& Commands() {
   static const std::map<std::string, Command> commands = {
+      {"generate",
+       {"  generate NETWORK.mtf [--scenario NAME]\n"
+        "                generates the engine's input files of the scenario (the\n"
+        "                network's current one by default) in the model folder\n"
+        "                beside the network, whose path is printed\n",
+        Generate}},
       {"plot",
        {"  plot SCRIPT.Mst [--ctl OUT.ctl]\n"
         "                compiles page 1 of a plot script in the script's folder;\n"
