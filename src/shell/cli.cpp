@@ -73,7 +73,15 @@ int Generate(const std::vector<std::string>& args, const std::string& app_path, 
   if (!scenario_given) scenario = state.ScenarioName;
   ModelContext context{surface, state, ui};
   const int steps = RunModelGeneration(context, scenario);
-  if (steps != kModelStepCount) return 1;
+  if (steps != kModelStepCount) {
+    // The driver stops silently on a run-time error; say where it stopped.
+    if (steps > 0) {
+      ui.ShowMessage("génération interrompue à l'étape " + std::to_string(steps) + " sur " +
+                         std::to_string(kModelStepCount),
+                     "pluvane-cli", MessageIcon::kExclamation);
+    }
+    return 1;
+  }
   out << state.ModelFolder << "\n";
   return 0;
 }
