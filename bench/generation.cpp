@@ -5,6 +5,7 @@
 // pluvane.ini and Symboles) as its argument.
 #include <chrono>
 #include <cstdio>
+#include <cstdlib>
 #include <filesystem>
 #include <sstream>
 #include <string>
@@ -134,6 +135,7 @@ int main(int argc, char** argv) {
                 ms, ms / first);
     if (status != 0) std::printf("%s", err.str().c_str());
   }
-  fs::remove_all(work);
+  // PLUVANE_BENCH_KEEP keeps the networks for a closer look (perf, pluvane-cli).
+  if (!std::getenv("PLUVANE_BENCH_KEEP")) fs::remove_all(work);
   return 0;
 }

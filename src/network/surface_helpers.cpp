@@ -1,6 +1,7 @@
 #include "network/surface_helpers.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "foundation/numbers.h"
 #include "foundation/text.h"
@@ -107,19 +108,44 @@ std::vector<int> SelectedObjects(Surface& surface) {
   return selected;
 }
 
+bool IdNumberOf(std::string_view id, int& number) {
+  const std::size_t underscore = id.find('_');
+  if (underscore == std::string_view::npos) return false;
+  number = ValLong(id.substr(underscore + 1));
+  return true;
+}
+
 int MaxIdNumber(Surface& surface, int i_name) {
   CursorKeeper keeper(surface);
   int largest = 0;
   bool any = false;
   ForEachMatch(surface, "iName", i_name, [&](int) {
-    const std::string id = surface.ObjTag("Id");
-    const std::size_t underscore = id.find('_');
-    if (underscore == std::string::npos) return;
-    const int number = ValLong(std::string_view(id).substr(underscore + 1));
+    int number = 0;
+    if (!IdNumberOf(surface.ObjTag("Id"), number)) return;
     largest = any ? std::max(largest, number) : number;
     any = true;
   });
   return largest < 0 ? 0 : largest;
+}
+
+std::array<int, 100> MaxIdNumbers(Surface& surface) {
+  CursorKeeper keeper(surface);
+  std::array<int, 100> largest{};
+  std::array<bool, 100> any{};
+  for (int n = surface.FirstObject(); n > 0; n = surface.NextObject()) {
+    double kind = 0;
+    if (!ReadWholeNumber(surface.ObjTag("iName"), kind) || kind < 1 || kind > 99 ||
+        kind != std::floor(kind)) {
+      continue;
+    }
+    int number = 0;
+    if (!IdNumberOf(surface.ObjTag("Id"), number)) continue;
+    const auto i = static_cast<std::size_t>(kind);
+    largest[i] = any[i] ? std::max(largest[i], number) : number;
+    any[i] = true;
+  }
+  for (int& number : largest) number = std::max(number, 0);
+  return largest;
 }
 
 std::pair<double, double> ObjectCentre(const Surface& surface, int number) {
