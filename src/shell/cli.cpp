@@ -114,9 +114,10 @@ std::string CliUsage() {
       "\n"
       "Commands:\n";
   for (const auto& [name, command] : Commands()) usage += command.usage;
-  usage += "  --help        this text; COMMAND --help, the same\n"
-           "\n"
-           "Exit status: 0 success, 1 the treatment refused, 2 bad usage.\n";
+  usage +=
+      "  --help        this text; COMMAND --help, the same\n"
+      "\n"
+      "Exit status: 0 success, 1 the treatment refused, 2 bad usage.\n";
   return usage;
 }
 

@@ -24,7 +24,8 @@ int GenFicGen(ModelContext& context, const std::string& path) {
   surface.SetCurrentObject(scenario);
   ModelTextFile file(path);
   file.Line(context.state.ModelName);
-  file.Line(PadInt(static_cast<std::int16_t>(ValInt(CharLeft(surface.ObjTag("CalcMode"), 1)) - 1), 5));
+  file.Line(
+      PadInt(static_cast<std::int16_t>(ValInt(CharLeft(surface.ObjTag("CalcMode"), 1)) - 1), 5));
   file.Line(FormatFixed(Val(surface.ObjTag("CalcDuree")), 10, 2));
   file.Line(FormatFixed(Val(surface.ObjTag("CalcDt")), 10, 2));
   file.Flush();

@@ -89,8 +89,8 @@ void FillRecord(Record& r, const Surface& surface, int kind) {
   switch (kind) {
     case 1:
     case 21:
-      FillTags(r, {"S", "L", "m", "ci", "Fpluie", "Fpluie1", "Fpluie2", "Fpluie3", "Fruissel",
-                   "K"});
+      FillTags(r,
+               {"S", "L", "m", "ci", "Fpluie", "Fpluie1", "Fpluie2", "Fpluie3", "Fruissel", "K"});
       if (kind == 21) r.Tag(11, "Qsec");
       break;
     case 2:

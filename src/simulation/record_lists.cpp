@@ -73,17 +73,17 @@ int GenFicSec(ModelContext& context, const std::string& path) {
 int GenFicApp(ModelContext& context, const std::string& path) {
   Surface& surface = context.surface;
   const double y_shift = context.YShift;
-  return WriteRecords(surface, path, FindObjectList(surface, "iName", "4"), false,
-                      [&](ModelTextFile& file) {
-                        const int count = ValInt(surface.ObjTag("NbPt"));
-                        file.Line("'" + surface.ObjTag("libell") + "'");
-                        for (int i = 1; i <= count; ++i) {
-                          std::string line = FormatFixed(NumberedVal(surface, "X", i), 10, 0) +
-                                             FormatFixed(NumberedVal(surface, "Y", i) - y_shift, 10, 0);
-                          if (i == 1) line += FormatFixed(Val(surface.ObjTag("Qsec")), 10, 2);
-                          file.Line(line);
-                        }
-                      });
+  return WriteRecords(
+      surface, path, FindObjectList(surface, "iName", "4"), false, [&](ModelTextFile& file) {
+        const int count = ValInt(surface.ObjTag("NbPt"));
+        file.Line("'" + surface.ObjTag("libell") + "'");
+        for (int i = 1; i <= count; ++i) {
+          std::string line = FormatFixed(NumberedVal(surface, "X", i), 10, 0) +
+                             FormatFixed(NumberedVal(surface, "Y", i) - y_shift, 10, 0);
+          if (i == 1) line += FormatFixed(Val(surface.ObjTag("Qsec")), 10, 2);
+          file.Line(line);
+        }
+      });
 }
 
 }  // namespace pluvane

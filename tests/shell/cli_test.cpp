@@ -19,8 +19,7 @@ struct CliRun {
   std::string err;
 };
 
-CliRun RunCommand(const std::vector<std::string>& args,
-                  const std::string& app_path = PLUVANE_BIN) {
+CliRun RunCommand(const std::vector<std::string>& args, const std::string& app_path = PLUVANE_BIN) {
   std::ostringstream out, err;
   const int status = RunCli(args, app_path, out, err);
   return {status, out.str(), err.str()};
@@ -46,14 +45,12 @@ TEST(Cli, BadUsageIsTwo) {
 TEST(Cli, PlotCompilesPageOneAndCopiesTheControlFile) {
   TempFolder folder;
   const std::string script = folder.File("s.Mst");
-  fs::copy_file(std::string(PLUVANE_TESTS) + "/plot/data/scripts/s01_writer_example.Mst",
-                script);
+  fs::copy_file(std::string(PLUVANE_TESTS) + "/plot/data/scripts/s01_writer_example.Mst", script);
   const std::string ctl = folder.File("copie.ctl");
   CliRun run = RunCommand({"plot", script, "--ctl", ctl});
   EXPECT_EQ(run.status, 0) << run.err;
-  EXPECT_EQ(ReadBytes(ctl),
-            ReadBytes(std::string(PLUVANE_TEST_DATA) +
-                      "/../../plot/data/expected/s01_writer_example.ctl"));
+  EXPECT_EQ(ReadBytes(ctl), ReadBytes(std::string(PLUVANE_TEST_DATA) +
+                                      "/../../plot/data/expected/s01_writer_example.ctl"));
   EXPECT_TRUE(fs::exists(folder.File("P1.ctl")));
 }
 

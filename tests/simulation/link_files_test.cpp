@@ -4,8 +4,8 @@
 
 #include "foundation/expect_message.h"
 #include "foundation/paths.h"
-#include "simulation/link_ranks.h"
 #include "simulation/li2_description.h"
+#include "simulation/link_ranks.h"
 #include "simulation/model_fixture.h"
 #include "simulation/node_file.h"
 
@@ -72,7 +72,8 @@ TEST_F(LinkFiles, AnEmptyNameShiftsTheColumnsLeft) {
   const int a = Node(1000, 1000), b = Node(2000, 1000);
   Set(Link("X_CAC", a, b), {{"libell", ""}});
   Generate();
-  EXPECT_EQ(Li1Line(1), "    1     2    5         1         2         0         0         0         0");
+  EXPECT_EQ(Li1Line(1),
+            "    1     2    5         1         2         0         0         0         0");
 }
 
 TEST_F(LinkFiles, BranchesBeyondTheirCountAreEmpty) {
@@ -168,7 +169,9 @@ TEST_F(LinkFiles, ASectionNameOfTwentyCharactersKeepsSixteen) {
   Set(Link("X_CAF", Node(1000, 1000), Node(2000, 1000)),
       {{"IdSect", "Section évasée 2x3m2"}, {"ZRam", "4"}});
   Generate();
-  EXPECT_EQ(Li2Record(1).substr(8, 16), "Section \xE9vas\xE9" "e 2");
+  EXPECT_EQ(Li2Record(1).substr(8, 16),
+            "Section \xE9vas\xE9"
+            "e 2");
   EXPECT_EQ(Bytes(1, 1), Single(4));
 }
 

@@ -133,10 +133,10 @@ inline void ModelTest::BuildReference() {
                                   {"Y2", "1"},
                                   {"Z2", "0.5"},
                                   {"T2", "0"}});
-  TagList level_law = {{"IdAval", "cac_1"}, {"NbDer", "1"},  {"IdDer_a", "Rejet usine"},
+  TagList level_law = {{"IdAval", "cac_1"}, {"NbDer", "1"},     {"IdDer_a", "Rejet usine"},
                        {"TypeAval", "2"},   {"TypeDer_a", "1"}, {"NbPtDa", "2"},
-                       {"Xda1", "1"},       {"Yda1", "2"},    {"Xda2", "3"},
-                       {"Yda2", "4"},       {"Xda3", "5"},    {"Yda3", "6"}};
+                       {"Xda1", "1"},       {"Yda1", "2"},      {"Xda2", "3"},
+                       {"Yda2", "4"},       {"Xda3", "5"},      {"Yda3", "6"}};
   for (int i = 1; i <= 10; ++i) {
     level_law.emplace_back("Xav" + std::to_string(i), std::to_string(i));
     level_law.emplace_back("Yav" + std::to_string(i), std::to_string(10 * i));

@@ -20,7 +20,8 @@ class Generation : public ModelTest {
   }
   std::string Msg() const { return ReadBytes(ModelFile(".msg")); }
   std::string MsgHead() const {
-    return "<<< D\xE9" "but du traitement >>>\r\n\r\n"
+    return "<<< D\xE9"
+           "but du traitement >>>\r\n\r\n"
            "Fichiers mis en oeuvre pour le mod\xE8le Scn-1_reseau :\r\n\r\n";
   }
   std::string Paths(const std::vector<std::string>& extensions) const {
@@ -36,9 +37,9 @@ TEST_F(Generation, EightStepsWithTheirProgressAndLog) {
   EXPECT_EQ(state.ModelName, "Scn-1_reseau");
   EXPECT_EQ(ui.Progress(), (std::vector<int>{12, 25, 38, 50, 62, 75, 88, 100, 0}));
   EXPECT_EQ(ReadBytes(folder.File("Scn-1/scenario.nom")), "Scn-1_reseau\r\n");
-  EXPECT_EQ(Msg(), MsgHead() +
-                       Paths({".NOD", ".GEN", ".LI1", ".LI2", ".BRN", ".SEC", ".APP", ".PLU"}) +
-                       "\r\n");
+  EXPECT_EQ(
+      Msg(),
+      MsgHead() + Paths({".NOD", ".GEN", ".LI1", ".LI2", ".BRN", ".SEC", ".APP", ".PLU"}) + "\r\n");
   EXPECT_TRUE(ui.Empty());
 }
 
@@ -73,8 +74,8 @@ TEST_F(Generation, TheLinkWritersTrapTheirOwnErrors) {
   BuildReference();
   std::filesystem::create_directories(ModelFile(".LI1"));
   EXPECT_EQ(Generate(), 8);
-  ExpectLastMessage(ui, "Erreur d'accès au chemin/fichier\rGenFicLi1",
-                    "Pluvane (erreur n°75, L0)", MessageIcon::kExclamation);
+  ExpectLastMessage(ui, "Erreur d'accès au chemin/fichier\rGenFicLi1", "Pluvane (erreur n°75, L0)",
+                    MessageIcon::kExclamation);
   EXPECT_EQ(ReadBytes(ModelFile(".APP")), Expected("reference.APP"));
 }
 

@@ -52,9 +52,7 @@ TEST_F(RecordFiles, ReachFieldsAreCutToTen) {
   EXPECT_EQ(Write(GenFicBrn, ".BRN"), "    1\r\n1234567890Collecteur     Cac_2\r\n");
 }
 
-TEST_F(RecordFiles, NoReachGivesTheCountAlone) {
-  EXPECT_EQ(Write(GenFicBrn, ".BRN"), "    0\r\n");
-}
+TEST_F(RecordFiles, NoReachGivesTheCountAlone) { EXPECT_EQ(Write(GenFicBrn, ".BRN"), "    0\r\n"); }
 
 TEST_F(RecordFiles, ASectionWithoutPointsGivesTwoEmptyLines) {
   Record({{"iName", "101"}, {"Id", "Vide"}, {"NbPt", "0"}, {"X1", "3"}});
@@ -68,11 +66,16 @@ TEST_F(RecordFiles, AHydrographWithoutPointsLosesItsDryWeatherFlow) {
 }
 
 TEST_F(RecordFiles, HydrographValuesAreRoundedToWholeNumbers) {
-  Set(Symbol("X_HY", 0, 0, Node(100, 100)),
-      {{"libell", " Débit été "}, {"NbPt", "2"}, {"X1", "2.5"}, {"Y1", "-0.5"}, {"X2", "3.5"},
-       {"Y2", "abc"}, {"Qsec", "0.125"}});
+  Set(Symbol("X_HY", 0, 0, Node(100, 100)), {{"libell", " Débit été "},
+                                             {"NbPt", "2"},
+                                             {"X1", "2.5"},
+                                             {"Y1", "-0.5"},
+                                             {"X2", "3.5"},
+                                             {"Y2", "abc"},
+                                             {"Qsec", "0.125"}});
   EXPECT_EQ(Write(GenFicApp, ".APP"),
-            "' D\xE9" "bit \xE9t\xE9 '\r\n"
+            "' D\xE9"
+            "bit \xE9t\xE9 '\r\n"
             "        3.       -1.      0.13\r\n"
             "        4.        0.\r\n");
 }

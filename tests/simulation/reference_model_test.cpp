@@ -18,7 +18,9 @@ class ReferenceModel : public ModelTest {
   }
 };
 
-TEST_F(ReferenceModel, NodeFile) { EXPECT_EQ(ReadBytes(ModelFile(".NOD")), Expected("reference.NOD")); }
+TEST_F(ReferenceModel, NodeFile) {
+  EXPECT_EQ(ReadBytes(ModelFile(".NOD")), Expected("reference.NOD"));
+}
 
 TEST_F(ReferenceModel, GeneralFile) {
   EXPECT_EQ(ReadBytes(ModelFile(".GEN")), Expected("reference.GEN"));

@@ -51,7 +51,7 @@ TEST_F(ScenarioCheck, AnUnsavedNetworkIsRefused) {
 }
 
 TEST_F(ScenarioCheck, AModelNameOfTwentyFourIsAccepted) {
-  Scenario("Scn-1234");                              // 8
+  Scenario("Scn-1234");                                    // 8
   state.NetworkFile = folder.File("reseau-de-15car.mtf");  // 15, with "_" 24
   EXPECT_FALSE(Check("Scn-1234"));
   EXPECT_TRUE(ui.Empty());
