@@ -1,7 +1,7 @@
 #include "network/surface_helpers.h"
 
 #include <algorithm>
-#include <optional>
+#include <cmath>
 
 #include "foundation/numbers.h"
 #include "foundation/text.h"
@@ -110,25 +110,21 @@ std::vector<int> SelectedObjects(Surface& surface) {
   return selected;
 }
 
-namespace {
-
-// The number after the first underscore of an Id, none without an underscore.
-std::optional<int> IdNumber(const std::string& id) {
+bool IdNumberOf(std::string_view id, int& number) {
   const std::size_t underscore = id.find('_');
-  if (underscore == std::string::npos) return std::nullopt;
-  return ValLong(std::string_view(id).substr(underscore + 1));
+  if (underscore == std::string_view::npos) return false;
+  number = ValLong(id.substr(underscore + 1));
+  return true;
 }
-
-}  // namespace
 
 int MaxIdNumber(Surface& surface, int i_name) {
   CursorKeeper keeper(surface);
   int largest = 0;
   bool any = false;
   ForEachMatch(surface, "iName", i_name, [&](int) {
-    const std::optional<int> number = IdNumber(surface.ObjTag("Id"));
-    if (!number) return;
-    largest = any ? std::max(largest, *number) : *number;
+    int number = 0;
+    if (!IdNumberOf(surface.ObjTag("Id"), number)) return;
+    largest = any ? std::max(largest, number) : number;
     any = true;
   });
   return largest < 0 ? 0 : largest;
@@ -140,15 +136,17 @@ std::array<int, 100> MaxIdNumbers(Surface& surface) {
   std::array<bool, 100> any{};
   for (int n = surface.FirstObject(); n > 0; n = surface.NextObject()) {
     double kind = 0;
-    if (!ReadWholeNumber(surface.ObjTag("iName"), kind)) continue;
-    if (kind < 1 || kind > 99 || kind != static_cast<int>(kind)) continue;
-    const std::optional<int> number = IdNumber(surface.ObjTag("Id"));
-    if (!number) continue;
-    const int i = static_cast<int>(kind);
-    largest[i] = any[i] ? std::max(largest[i], *number) : *number;
+    if (!ReadWholeNumber(surface.ObjTag("iName"), kind) || kind < 1 || kind > 99 ||
+        kind != std::floor(kind)) {
+      continue;
+    }
+    int number = 0;
+    if (!IdNumberOf(surface.ObjTag("Id"), number)) continue;
+    const auto i = static_cast<std::size_t>(kind);
+    largest[i] = any[i] ? std::max(largest[i], number) : number;
     any[i] = true;
   }
-  for (int& value : largest) value = std::max(value, 0);
+  for (int& number : largest) number = std::max(number, 0);
   return largest;
 }
 

@@ -38,9 +38,10 @@ std::vector<int> SelectedObjects(Surface& surface);
 // The largest number after the first underscore of Id over the objects of the
 // kind ("Rsp_4" gives 4); 0 if none, or if that largest is negative.
 int MaxIdNumber(Surface& surface, int i_name);
-// The same for every kind from 1 to 99 in one walk of the drawing (index 0
-// unused).
+// The same for every kind 1 to 99 in one walk of the drawing (index 0 unused).
 std::array<int, 100> MaxIdNumbers(Surface& surface);
+// The number after the first underscore of an Id; false when there is none.
+bool IdNumberOf(std::string_view id, int& number);
 // The centre of an object, ((left + right) / 2, (top + bottom) / 2).
 std::pair<double, double> ObjectCentre(const Surface& surface, int number);
 // Half the width of the first node (iName 99) if that is at least 1; else

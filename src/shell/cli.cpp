@@ -6,8 +6,11 @@
 #include "foundation/scripted_ui.h"
 #include "network/network_summary.h"
 #include "network/persistence.h"
+#include "network/surface.h"
 #include "plot/plot_command.h"
 #include "shell/application.h"
+#include "simulation/model_command.h"
+#include "simulation/model_generation.h"
 
 namespace pluvane {
 
@@ -59,6 +62,45 @@ int Info(const std::vector<std::string>& args, const std::string& app_path, std:
   return 0;
 }
 
+// Opens the network as the program does and generates the model of a
+// scenario (the network's current one by default). Nothing is saved.
+int Generate(const std::vector<std::string>& args, const std::string& app_path, std::ostream& out,
+             ScriptedUi& ui) {
+  std::string network, scenario;
+  bool scenario_given = false;
+  for (std::size_t i = 0; i < args.size(); ++i) {
+    if (args[i] == "--scenario") {
+      if (!TakeOption(args, i, scenario)) return 2;
+      scenario_given = true;
+    } else if (network.empty() && args[i].rfind("-", 0) != 0) {
+      network = args[i];
+    } else {
+      return 2;
+    }
+  }
+  if (network.empty()) return 2;
+  Surface surface;
+  Application application(surface, ui);
+  if (!application.Load(app_path, "")) return 1;
+  NetworkSession session = application.session();
+  if (!OpenNetwork(session, true, network)) return 1;
+  AppState& state = application.state();
+  if (!scenario_given) scenario = state.ScenarioName;
+  ModelContext context{surface, state, ui};
+  const int steps = RunModelGeneration(context, scenario);
+  if (steps != kModelStepCount) {
+    // The driver stops silently on a run-time error; say where it stopped.
+    if (steps > 0) {
+      ui.ShowMessage("génération interrompue à l'étape " + std::to_string(steps) + " sur " +
+                         std::to_string(kModelStepCount),
+                     "pluvane-cli", MessageIcon::kExclamation);
+    }
+    return 1;
+  }
+  out << state.ModelFolder << "\n";
+  return 0;
+}
+
 std::map<std::string, Command>& Commands() {
   static std::map<std::string, Command> commands = {
       {"info",
@@ -67,6 +109,12 @@ std::map<std::string, Command>& Commands() {
         "                iName, count and label, then the current scenario and\n"
         "                whether the network is calibrated\n",
         Info}},
+      {"generate",
+       {"  generate NETWORK.mtf [--scenario NAME]\n"
+        "                generates the engine's input files of the scenario (the\n"
+        "                network's current one by default) in the model folder\n"
+        "                beside the network, whose path is printed\n",
+        Generate}},
       {"plot",
        {"  plot SCRIPT.Mst [--ctl OUT.ctl]\n"
         "                compiles page 1 of a plot script in the script's folder;\n"

@@ -120,6 +120,24 @@ TEST_F(SurfaceHelpers, MaxIdNumberReadsAfterTheFirstUnderscore) {
   EXPECT_EQ(MaxIdNumber(surface_, 5), 57);
 }
 
+TEST_F(SurfaceHelpers, MaxIdNumbersGivesEveryKindInOneWalk) {
+  Add(11, "Rsp_4", "R4");
+  Add(11, "Rsp_2", "R2");
+  Add(10, "Rs_40", "R40");
+  Add(13, "Tr_-3", "T");
+  Add(5, "Cac_57", "C");
+  surface_.SetObjTag("iName", " 5.0 ");  // read as the number 5, as the searches do
+  Add(99, "Nod_12", "N");
+  Add(111, "Scn_3", "S");
+  const int cursor = Add(7, "Cao_2.9", "O");
+  const std::array<int, 100> counters = MaxIdNumbers(surface_);
+  for (int i = 1; i <= 99; ++i) EXPECT_EQ(counters[i], MaxIdNumber(surface_, i)) << i;
+  EXPECT_EQ(counters[5], 57);
+  EXPECT_EQ(counters[7], 2);
+  EXPECT_EQ(counters[99], 12);
+  EXPECT_EQ(surface_.CurrentObject(), cursor);
+}
+
 TEST_F(SurfaceHelpers, ObjectCentreIsTheMiddleOfTheBox) {
   const int n = surface_.AddObject(kKindRectangle, 10, 20, 31, 40);
   EXPECT_EQ(ObjectCentre(surface_, n), std::make_pair(20.5, 30.0));

@@ -8,6 +8,7 @@
 #include "foundation/scripted_ui.h"
 #include "foundation/test_files.h"
 #include "network/surface.h"
+#include "simulation/model_fixture.h"
 
 namespace pluvane {
 namespace {
@@ -191,6 +192,70 @@ TEST(CliInfo, TakesExactlyOneNetwork) {
   CliRun run = RunCommand({"info", "-x"});
   EXPECT_EQ(run.status, 2);
   EXPECT_NE(run.err.find("  info NETWORK.mtf"), std::string::npos);
+}
+
+// A complete application folder (pluvane.ini, Symboles...) of its own, so that
+// the recent files of the runs stay out of the build's.
+class CliGenerate : public ModelTest {
+ protected:
+  CliGenerate() {
+    fs::copy(PLUVANE_DATA, app.Path(), fs::copy_options::recursive);
+    BuildReference();
+    Record({{"iName", "112"}, {"iGroup", "-1"}, {"Id", "Scn-1"}, {"UsId", "Référence"}});
+    network = folder.File("reseau.mtf");
+    EXPECT_TRUE(surface.SaveFile(network, kNativeFormat));
+    fs::remove_all(state.ModelFolder);
+  }
+  CliRun Generate(std::vector<std::string> args) {
+    args.insert(args.begin(), "generate");
+    return RunCommand(args, app.Path());
+  }
+
+  TempFolder app;
+  std::string network;
+};
+
+TEST_F(CliGenerate, GeneratesTheCurrentScenarioBesideTheNetwork) {
+  CliRun run = Generate({network});
+  EXPECT_EQ(run.status, 0) << run.err;
+  EXPECT_EQ(run.out, folder.File("Scn-1") + "\n");
+  EXPECT_EQ(run.err, "");
+  EXPECT_EQ(ReadBytes(ModelFile(".LI1")), Expected("reference.LI1"));
+  EXPECT_EQ(ReadBytes(ModelFile(".BRN")), Expected("reference.BRN"));
+  EXPECT_EQ(ReadBytes(ModelFile(".GEN")), Expected("reference.GEN"));
+  EXPECT_EQ(ReadBytes(ModelFile(".NOD")).substr(0, 22), "         4         2\r\n");
+  EXPECT_EQ(ReadBytes(folder.File("Scn-1/scenario.nom")), "Scn-1_reseau\r\n");
+  EXPECT_TRUE(fs::exists(ModelFile(".msg")));
+}
+
+TEST_F(CliGenerate, TheScenarioOptionIsCheckedFirst) {
+  CliRun run = Generate({network, "--scenario", "Scenario-dixsept7"});
+  EXPECT_EQ(run.status, 1);
+  EXPECT_EQ(run.err,
+            "Contrôle de cohérence: Le nom du scénario de calcul doit être limité à 16 "
+            "caractères\n");
+  EXPECT_FALSE(fs::exists(folder.File("Scenario-dixsept7")));
+}
+
+TEST_F(CliGenerate, AScenarioWithoutRecordIsRefused) {
+  CliRun run = Generate({"--scenario", "Scn-2", network});
+  EXPECT_EQ(run.status, 1);
+  EXPECT_EQ(run.err.rfind("Contrôle de cohérence: Un scénario de pluie doit être défini", 0), 0u);
+}
+
+TEST_F(CliGenerate, AFailedStepEndsWithOne) {
+  fs::create_directories(ModelFile(".SEC"));
+  CliRun run = Generate({network});
+  EXPECT_EQ(run.status, 1);
+  EXPECT_EQ(run.err, "pluvane-cli: génération interrompue à l'étape 5 sur 8\n");
+}
+
+TEST_F(CliGenerate, BadUsageIsTwo) {
+  EXPECT_EQ(Generate({}).status, 2);
+  EXPECT_EQ(Generate({network, "--scenario"}).status, 2);
+  EXPECT_EQ(Generate({network, "autre.mtf"}).status, 2);
+  EXPECT_NE(RunCommand({"--help"}).out.find("  generate NETWORK.mtf [--scenario NAME]"),
+            std::string::npos);
 }
 
 }  // namespace

@@ -1,0 +1,59 @@
+// How the link files number things. Elements: the hydraulic objects of the
+// drawing, walked in creation order and ranked 1 to N (the line of .LI1 and
+// the record of .LI2). Nodes: their place in the .NOD list. Both name tables
+// are built once per file, so each look-up is immediate.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+#include "network/surface.h"
+
+namespace pluvane {
+
+// An element is kept in the link files when its kind (iName) is above 0,
+// below 99 and not a gauge (12), a calibration point (15) or a radius (17).
+bool IsLinkElement(int i_name);
+// The kind written in .LI1: the iName, except a mark (16), written as 12.
+int LinkKindCode(int i_name);
+
+struct LinkElement {
+  int number = 0;  // object number
+  int kind = 0;    // iName as a 16-bit leading number
+};
+
+// The kept elements in rank order, and the rank of each label.
+class LinkWalk {
+ public:
+  // Walks the whole drawing once; the cursor is put back.
+  explicit LinkWalk(Surface& surface);
+
+  const std::vector<LinkElement>& elements() const { return elements_; }
+  int count() const { return static_cast<int>(elements_.size()); }
+
+  // The rank of the first element whose libell equals `text` exactly (case
+  // counts, nothing trimmed). 0 for a blank text, a handle below 10 or an
+  // empty drawing; N, the last rank, when no element has that label.
+  int LinkRankOf(int handle, std::string_view text) const;
+
+ private:
+  std::vector<LinkElement> elements_;
+  std::unordered_map<std::string, int> ranks_;
+  bool drawing_empty_ = true;
+};
+
+// Node numbers from the node Id list of GetTabNodId.
+class NodeNumbering {
+ public:
+  explicit NodeNumbering(const std::vector<std::string>& ids);
+  // The place (from 1) of the first node whose Id equals `id`, both trimmed
+  // and in capitals; 0 for a blank Id or an unknown one.
+  int NodIndexOf(std::string_view id) const;
+
+ private:
+  std::unordered_map<std::string, int> places_;
+};
+
+}  // namespace pluvane
