@@ -56,8 +56,9 @@ TEST_F(Generation, OldFilesAreReplaced) {
   WriteBytes(ModelFile(".PLU"), "vieille pluie");
   EXPECT_EQ(Generate(), 8);
   EXPECT_EQ(ReadBytes(ModelFile(".APP")), Expected("reference.APP"));
-  // No rain writer yet in this list: the old rain file is gone all the same.
-  EXPECT_FALSE(FileExist(ModelFile(".PLU")));
+  // The rain file is written anew, and the .Scn beside it.
+  EXPECT_NE(ReadBytes(ModelFile(".PLU")), "vieille pluie");
+  EXPECT_TRUE(FileExist(ModelFile(".Scn")));
 }
 
 TEST_F(Generation, ARunTimeErrorEndsTheDriver) {
@@ -85,8 +86,10 @@ TEST_F(Generation, AMissingScenarioLeavesOutTheGeneralFileOnly) {
   EXPECT_EQ(Generate(), 8);
   EXPECT_FALSE(FileExist(ModelFile(".GEN")));
   EXPECT_EQ(ReadBytes(ModelFile(".NOD")), Expected("reference.NOD"));
-  EXPECT_EQ(ui.Messages().size(), 1u);
-  EXPECT_EQ(ui.Last().title, "Contrôle de cohérence");
+  // The general file's check speaks first, then the rain step finds no scenario.
+  ASSERT_EQ(ui.Messages().size(), 2u);
+  EXPECT_EQ(ui.Messages()[0].title, "Contrôle de cohérence");
+  ExpectLastMessage(ui, "scenario de pluie non trouvé !", "", MessageIcon::kNone);
 }
 
 TEST_F(Generation, TheRainWriterPlugsIntoItsStep) {
