@@ -9,7 +9,12 @@
 #include "network/surface.h"
 #include "plot/plot_command.h"
 #include "shell/application.h"
+#include "simulation/data_recap.h"
+#include "simulation/engine_commands.h"
+#include "simulation/engine_run.h"
 #include "simulation/model_command.h"
+#include "simulation/model_names.h"
+#include "foundation/text.h"
 #include "simulation/model_generation.h"
 
 namespace pluvane {
@@ -101,6 +106,84 @@ int Generate(const std::vector<std::string>& args, const std::string& app_path, 
   return 0;
 }
 
+// Opens the network as the program does; the scenario is NAME or else the
+// network's current one. False when it cannot open (its message shown), with
+// `usage` 2 when the words were wrong.
+bool OpenForScenario(const std::vector<std::string>& args, const std::string& app_path,
+                     Application& application, std::string& scenario, bool& velmar_only,
+                     int& usage) {
+  std::string network;
+  bool scenario_given = false;
+  usage = 0;
+  for (std::size_t i = 0; i < args.size(); ++i) {
+    if (args[i] == "--scenario") {
+      if (!TakeOption(args, i, scenario)) return usage = 2, false;
+      scenario_given = true;
+    } else if (args[i] == "--velmar-only") {
+      velmar_only = true;
+    } else if (network.empty() && args[i].rfind("-", 0) != 0) {
+      network = args[i];
+    } else {
+      return usage = 2, false;
+    }
+  }
+  if (network.empty()) return usage = 2, false;
+  if (!application.Load(app_path, "")) return false;
+  NetworkSession session = application.session();
+  if (!OpenNetwork(session, true, network)) return false;
+  if (!scenario_given) scenario = application.state().ScenarioName;
+  return true;
+}
+
+// Generates the model and runs the engine; prints the log and cleans as the
+// program does after a run.
+int Run(const std::vector<std::string>& args, const std::string& app_path, std::ostream& out,
+        ScriptedUi& ui) {
+  Surface surface;
+  Application application(surface, ui);
+  std::string scenario;
+  bool velmar_only = false;
+  int usage = 0;
+  if (!OpenForScenario(args, app_path, application, scenario, velmar_only, usage)) {
+    return usage ? usage : 1;
+  }
+  ModelContext context{surface, application.state(), ui};
+  const ScenarioRun run = RunScenario(context, scenario, !velmar_only);
+  if (run.steps < 0) return 1;
+  std::vector<std::string> lines;
+  ReadTextLines(run.msg_path, lines);
+  for (const std::string& line : lines) out << line << "\n";
+  const bool ok = run.steps == kModelStepCount && LogReportsSuccess(run.msg_path);
+  CleanModelFiles(application.state(), run.msg_path, run.steps);
+  return ok ? 0 : 1;
+}
+
+// Writes the data recap report of the scenario beside its model and prints its path.
+int Recap(const std::vector<std::string>& args, const std::string& app_path, std::ostream& out,
+          ScriptedUi& ui) {
+  Surface surface;
+  Application application(surface, ui);
+  std::string scenario;
+  bool velmar_only = false;
+  int usage = 0;
+  if (!OpenForScenario(args, app_path, application, scenario, velmar_only, usage)) {
+    return usage ? usage : 1;
+  }
+  if (velmar_only) return 2;
+  AppState& state = application.state();
+  state.ScenarioName = scenario;
+  SetModelNames(state);
+  MakeModelFolder(state);
+  const std::string path = WriteDataRecap(surface, state, ui);
+  if (path.empty()) {
+    ui.ShowMessage("Scénario ou réseau inconnu : aucun récapitulatif écrit.", "pluvane-cli",
+                   MessageIcon::kExclamation);
+    return 1;
+  }
+  out << path << "\n";
+  return 0;
+}
+
 std::map<std::string, Command>& Commands() {
   static std::map<std::string, Command> commands = {
       {"info",
@@ -115,6 +198,17 @@ std::map<std::string, Command>& Commands() {
         "                network's current one by default) in the model folder\n"
         "                beside the network, whose path is printed\n",
         Generate}},
+      {"run",
+       {"  run NETWORK.mtf [--scenario NAME] [--velmar-only]\n"
+        "                generates the model of the scenario, runs Velmar and Sidrel\n"
+        "                (Velmar only with --velmar-only) in the model folder, prints\n"
+        "                the run's log and cleans up as the program does\n",
+        Run}},
+      {"recap",
+       {"  recap NETWORK.mtf [--scenario NAME]\n"
+        "                writes the data recap report of the scenario beside its\n"
+        "                model and prints its path\n",
+        Recap}},
       {"plot",
        {"  plot SCRIPT.Mst [--ctl OUT.ctl]\n"
         "                compiles page 1 of a plot script in the script's folder;\n"
