@@ -1,60 +1,100 @@
 #include "ui/main_window.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QCloseEvent>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPageSetupDialog>
+#include <QPrintDialog>
 #include <QStatusBar>
+#include <QTimer>
 #include <vector>
 
-#include "foundation/numbers.h"
-#include "network/catalogue.h"
+#include "editors/frm_impfile_dlg.h"
+#include "foundation/paths.h"
 #include "network/link_direction.h"
-#include "network/network_summary.h"
 #include "network/persistence.h"
 #include "network/snap.h"
+#include "shell/drawing_export.h"
 #include "shell/frm_preference.h"
 #include "shell/main_menus.h"
-#include "ui/form_window.h"
-#include "foundation/paths.h"
+#include "simulation/data_recap.h"
+#include "simulation/engine_commands.h"
+#include "simulation/frm_scn_sim_param.h"
+#include "simulation/frm_scn_sim_param_select.h"
+#include "ui/background_dialog.h"
 #include "ui/drawing_picture.h"
+#include "ui/drawing_print.h"
+#include "ui/form_window.h"
 
 namespace pluvane {
+
+namespace {
+
+// How long the about window stays when FlashScreen shows it at start.
+constexpr int kFlashMilliseconds = 1500;
+
+}  // namespace
 
 MainWindow::MainWindow() : ui_(this) {
   application_ = std::make_unique<Application>(surface_, ui_);
   setWindowTitle("Pluvane");
-  summary_ = new QLabel(this);
-  summary_->setAlignment(Qt::AlignTop | Qt::AlignLeft);
-  summary_->setMargin(16);
-  summary_->setTextFormat(Qt::RichText);
-  setCentralWidget(summary_);
-  ui_.status_sink = [this](const std::string& text) {
-    statusBar()->showMessage(QString::fromStdString(text));
-  };
+  view_ = new SurfaceView(surface_, this);
+  view_->setObjectName("MDraw1");
+  setCentralWidget(view_);
+  panels_ = std::make_unique<StatusPanels>(statusBar());
+  ui_.status_sink = [this](const std::string& text) { panels_->SetStatus(text); };
+  ui_.progress_sink = [this](int value) { panels_->SetProgress(value); };
   ui_.panel_sink = [this](const std::string& panel, const std::string& text) {
-    if (panel == "caption") setWindowTitle(QString::fromStdString(text));
+    if (panel == "caption") {
+      setWindowTitle(QString::fromStdString(text));
+    } else {
+      panels_->SetPanel(panel, text);
+    }
   };
   ui_.picture_writer = [this](const std::string& path) {
-    const AppState& state = application_->state();
-    return SaveDrawingPicture(surface_, path, kDefaultPictureWidth,
-                              PictureFolders{DirOf(state.NetworkFile), state.SymbolDir});
+    return SaveDrawingPicture(surface_, path, kDefaultPictureWidth, Folders());
   };
-  surface_.SetChangeListener([this] { RefreshSummary(); });
+  connect(view_, &SurfaceView::ClientResized, this, [this](int width, int height) {
+    application_->state().ClientWidth = width;
+    application_->state().ClientHeight = height;
+  });
+  // Edits refresh the menus once the surface is quiet again.
+  connect(view_, &SurfaceView::SurfaceChanged, this, [this] {
+    if (menus_pending_) return;
+    menus_pending_ = true;
+    QTimer::singleShot(0, this, [this] {
+      menus_pending_ = false;
+      RefreshMenuState();
+    });
+  });
+  ask_print = [this](QPrinter& printer) {
+    QPrintDialog dialog(&printer, this);
+    return dialog.exec() == QDialog::Accepted;
+  };
+  ask_page_setup = [this](QPrinter& printer) {
+    QPageSetupDialog dialog(&printer, this);
+    return dialog.exec() == QDialog::Accepted;
+  };
+  printer_.setPageOrientation(QPageLayout::Landscape);
   BindCommands();
   BuildMenus();
-  resize(900, 600);
+  resize(1200, 800);
 }
 
-MainWindow::~MainWindow() = default;
+MainWindow::~MainWindow() {
+  // The view listens to the surface, which goes before the window's children.
+  delete view_;
+  view_ = nullptr;
+}
 
 void MainWindow::BindCommands() {
   auto session = [this] { return application_->session(); };
   auto after = [this](auto&& run) {
     return [this, run] {
       run();
-      RefreshSummary();
-      RefreshRecentFiles();
+      AfterCommand();
     };
   };
   commands_ = {
@@ -63,6 +103,10 @@ void MainWindow::BindCommands() {
       {"mnuFile_SaveAs", after([=] { NetworkSession s = session(); SaveNetworkAs(s); })},
       {"mnuFile_Close", after([=] { NetworkSession s = session(); CloseNetwork(s); })},
       {"mnuFile_Load", after([=] { NetworkSession s = session(); mnuFile_Load(s); })},
+      {"MnuFi_Import_Fond", after([this] { ImportBackground(); })},
+      {"MnuFi_Export_Emf", [this] { MnuFi_Export_Emf(application_->state(), ui_); }},
+      {"mnuFile_Print", [this] { PrintDrawing(); }},
+      {"mnuFile_PrtCfg", [this] { ask_page_setup(printer_); }},
       {"mnuPreference", [this] { OpenPreferences(); }},
       {"mnuFile_Quit",
        [this] {
@@ -70,6 +114,21 @@ void MainWindow::BindCommands() {
        }},
       {"mnuUtil_snapSymbol", after([this] { mnuUtil_snapSymbol(surface_, ui_); })},
       {"mnuUtil_XChange", after([this] { mnuUtil_XChange(surface_, ui_); })},
+      {"mnuScn_Edit", after([this] {
+         if (!NetworkLoaded(application_->state(), ui_)) return;
+         FrmScnSimParam form(surface_, application_->state(), ui_,
+                             [this](FormController& inner) { OpenForm(inner); });
+         OpenForm(form);
+       })},
+      {"mnuScn_Select", after([this] {
+         if (!NetworkLoaded(application_->state(), ui_)) return;
+         FrmScnSimParamSelect form(surface_, application_->state(), ui_);
+         OpenForm(form);
+       })},
+      {"mnuScn_ModeleGen", after([this] { RunScenarioCommand(false); })},
+      {"mnuScn_ModeleRun", after([this] { RunScenarioCommand(true); })},
+      {"mnuExploit_RecapData", [this] { RecapData(); }},
+      {"mnuAbout", [this] { ShowAbout(true); }},
   };
 }
 
@@ -83,18 +142,15 @@ void MainWindow::BuildMenus() {
     const std::string name(item.name);
     parents.resize(item.level);
     const bool has_children = i + 1 < items.size() && items[i + 1].level > item.level;
-    if (has_children || item.level == 0) {
+    if (has_children || item.level == 0 || name == "mnuRufList") {
       QMenu* menu = item.level == 0 ? menuBar()->addMenu(caption) : parents.back()->addMenu(caption);
       menu->setObjectName(QString::fromStdString(name));
       actions_[name] = menu->menuAction();
-      if (name == "mnuRufList") recent_menu_ = menu;
+      if (name == "mnuRufList") {
+        recent_menu_ = menu;
+        continue;
+      }
       parents.push_back(menu);
-      continue;
-    }
-    if (name == "mnuRufList") {
-      recent_menu_ = parents.back()->addMenu(caption);
-      recent_menu_->setObjectName("mnuRufList");
-      actions_[name] = recent_menu_->menuAction();
       continue;
     }
     QAction* action = parents.back()->addAction(caption);
@@ -102,11 +158,28 @@ void MainWindow::BuildMenus() {
     actions_[name] = action;
     connect(action, &QAction::triggered, this, [this, name] { RunMenu(name); });
   }
+  if (QMenu* file = Menu("mnuFile")) {
+    connect(file, &QMenu::aboutToShow, this, [this] {
+      ApplyMenus(FileMenuState(surface_, application_->state()));
+    });
+  }
+  if (QMenu* scenario = Menu("mnuScn")) {
+    connect(scenario, &QMenu::aboutToShow, this, [this] {
+      if (QAction* generate = Action("mnuScn_ModeleGen")) {
+        generate->setText(QString::fromStdString(ScenarioGenerationCaption(application_->state())));
+      }
+    });
+  }
 }
 
 QAction* MainWindow::Action(const std::string& name) const {
   auto found = actions_.find(name);
   return found == actions_.end() ? nullptr : found->second;
+}
+
+QMenu* MainWindow::Menu(const std::string& name) const {
+  QAction* action = Action(name);
+  return action ? action->menu() : nullptr;
 }
 
 void MainWindow::RunMenu(const std::string& name) {
@@ -116,6 +189,36 @@ void MainWindow::RunMenu(const std::string& name) {
     return;
   }
   found->second();
+}
+
+void MainWindow::ToolClicked(const std::string& key) {
+  if (key == "MDSAVE") {
+    RunMenu("mnuFile_Save");
+    return;
+  }
+  emit ToolRequested(QString::fromStdString(key));
+}
+
+void MainWindow::ApplyMenus(const MenuStates& states) {
+  for (const auto& [name, enabled] : states) {
+    if (QAction* action = Action(name)) action->setEnabled(enabled);
+  }
+}
+
+void MainWindow::RefreshMenuState() { ApplyMenus(RefreshMenus(surface_)); }
+
+PictureFolders MainWindow::Folders() const {
+  const AppState& state = application_->state();
+  return {state.NetworkFile.empty() ? state.WorkDir : DirOf(state.NetworkFile), state.SymbolDir};
+}
+
+void MainWindow::AfterCommand() {
+  const PictureFolders folders = Folders();
+  view_->painter().SetFolders(folders.base_dir, folders.symbol_dir);
+  view_->SyncScrollBars();
+  view_->Invalidate();
+  RefreshMenuState();
+  RefreshRecentFiles();
 }
 
 void MainWindow::RefreshRecentFiles() {
@@ -129,24 +232,53 @@ void MainWindow::RefreshRecentFiles() {
     connect(action, &QAction::triggered, this, [this, index] {
       NetworkSession s = application_->session();
       mnuRUF(s, index);
-      RefreshSummary();
-      RefreshRecentFiles();
+      AfterCommand();
     });
   }
 }
 
 bool MainWindow::Start(const std::string& app_path, const std::string& command_line) {
-  return application_->Load(app_path, command_line);
+  if (!application_->Load(app_path, command_line)) return false;
+  const AppState& state = application_->state();
+  tool_bars_ = std::make_unique<MainToolBars>(
+      this, state.SymbolDir, [this](const std::string& key) { ToolClicked(key); });
+  addToolBar(Qt::TopToolBarArea, tool_bars_->Band("RESO_CREATE"));
+  addToolBar(MainToolBars::AreaOfPosition(state.ToolBandPosition),
+             tool_bars_->Band("DisplayManagerBand"));
+  RefreshMenuState();
+  statusBar()->hide();
+  return true;
 }
 
 bool MainWindow::Activate() {
-  application_->show_window = [this] { show(); };
+  application_->show_window = [this] {
+    show();
+    if (application_->StartMinimised()) showMinimized();
+  };
+  application_->show_about = [this] { ShowAbout(false); };
   const auto result = application_->FirstActivation();
   if (result != Application::Activation::kReady) return false;
   statusBar()->show();
-  RefreshSummary();
-  RefreshRecentFiles();
+  AfterCommand();
   return true;
+}
+
+void MainWindow::ShowAbout(bool modal) {
+  if (about_) about_->close();
+  about_ = new AboutWindow(application_->state().SymbolDir, this);
+  about_->setAttribute(Qt::WA_DeleteOnClose);
+  if (modal) {
+    about_->exec();
+    return;
+  }
+  about_->show();
+  QApplication::processEvents();
+  QTimer::singleShot(kFlashMilliseconds, about_.data(), &QWidget::close);
+}
+
+void MainWindow::OpenForm(FormController& form) {
+  FormWindow window(form, this);
+  window.exec();
 }
 
 void MainWindow::OpenPreferences() {
@@ -155,40 +287,53 @@ void MainWindow::OpenPreferences() {
     surface_.SetScale(0, 0, state.LogicWidth, state.LogicHeight, 4096);
     surface_.Refresh();
   });
-  FormWindow window(form, this);
-  window.exec();
+  OpenForm(form);
 }
 
-QString MainWindow::Summary() {
-  const std::map<int, int> counts = CountsByIName(surface_);
-  const int total = surface_.ObjectCount(kPage);
-  const AppState& state = application_->state();
-  QString html = "<h2>" +
-                 QString::fromStdString(state.NetworkFile.empty() ? "Aucun réseau chargé"
-                                                                  : state.NetworkFile) +
-                 "</h2>";
-  html += QStringLiteral("<p>%1 objets sur le dessin.</p><table cellpadding='4'>").arg(total);
-  html += "<tr><th align='right'>iName</th><th align='right'>Nombre</th><th align='left'>"
-          "Élément</th></tr>";
-  for (auto [i_name, count] : counts) {
-    html += QStringLiteral("<tr><td align='right'>%1</td><td align='right'>%2</td><td>%3</td></tr>")
-                .arg(i_name)
-                .arg(count)
-                .arg(QString::fromStdString(LabelOfIName(i_name)));
-  }
-  html += "</table>";
-  if (!state.ScenarioName.empty()) {
-    html += "<p>Scénario courant : " + QString::fromStdString(state.ScenarioName) + "</p>";
-  }
-  return html;
+void MainWindow::ImportBackground() {
+  AppState& state = application_->state();
+  FrmImpfileDlg form(surface_, state, ui_);
+  BackgroundDialog dialog(form, state.WorkDir, this);
+  dialog.exec();
 }
 
-void MainWindow::RefreshSummary() {
-  if (summary_ && surface_.Redraw()) summary_->setText(Summary());
+void MainWindow::PrintDrawing() {
+  if (!ask_print(printer_)) return;
+  const QRectF view(surface_.ViewLeft(), surface_.ViewTop(), surface_.ViewWidth(),
+                    surface_.ViewHeight());
+  const std::string error = pluvane::PrintDrawing(surface_, view, printer_, Folders());
+  if (!error.empty()) ui_.ShowStatus(error);
+}
+
+void MainWindow::RunScenarioCommand(bool with_sidrel) {
+  AppState& state = application_->state();
+  if (!NetworkLoaded(state, ui_)) return;
+  log_window_.reset();
+  log_model_ = std::make_unique<ConsoleModel>(ui_, true);
+  log_window_ = std::make_unique<ConsoleWindow>(*log_model_, this);
+  ModelContext context{surface_, state, ui_};
+  if (with_sidrel) {
+    mnuScn_ModeleRun(context, *log_model_);
+  } else {
+    mnuScn_ModeleGen(context, *log_model_);
+  }
+}
+
+void MainWindow::RecapData() {
+  AppState& state = application_->state();
+  if (!NetworkLoaded(state, ui_)) return;
+  if (state.NetworkBase.empty() || state.ScenarioName.empty()) {
+    // The report lies beside the last model: there is none yet.
+    ui_.ShowStatus("Récapitulatif non écrit : générez d'abord le modèle du scénario.");
+    return;
+  }
+  mnuExploit_RecapData(surface_, state, ui_);
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
-  application_->Unload(4);
+  int position = 4;
+  if (tool_bars_) position = MainToolBars::PositionOfArea(toolBarArea(tool_bars_->Band("DisplayManagerBand")));
+  application_->Unload(position);
   event->accept();
 }
 

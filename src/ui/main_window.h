@@ -1,11 +1,14 @@
 // The program's main window: it owns the drawing and the application, drives
-// the start (first load, first activation) and the end (Quit, close), builds
-// its menus from the program's menu table and runs their commands. Until the
-// drawing view is in, the network shows as a summary of its elements by kind.
+// the start (first load, first activation) and the end (Quit, close), shows
+// the drawing in its SurfaceView, builds its menus and tool bands from the
+// program's tables, keeps the menus' enabled state, and runs the commands of
+// the menus by name. Tool clicks all pass through ToolClicked; those that arm
+// an interaction mode are handed on through ToolRequested.
 #pragma once
 
-#include <QLabel>
 #include <QMainWindow>
+#include <QPointer>
+#include <QPrinter>
 #include <functional>
 #include <map>
 #include <memory>
@@ -13,7 +16,14 @@
 
 #include "network/surface.h"
 #include "shell/application.h"
+#include "shell/console_model.h"
+#include "shell/menu_state.h"
+#include "ui/about_window.h"
+#include "ui/console_window.h"
+#include "ui/main_tool_bars.h"
 #include "ui/qt_user_interface.h"
+#include "ui/status_panels.h"
+#include "ui/surface_view.h"
 
 class QMenu;
 
@@ -33,13 +43,36 @@ class MainWindow : public QMainWindow {
 
   Surface& surface() { return surface_; }
   Application& application() { return *application_; }
+  SurfaceView* view() { return view_; }
+  StatusPanels& panels() { return *panels_; }
+  // The tool bands; null before Start.
+  MainToolBars* tool_bars() { return tool_bars_.get(); }
   // Runs a menu command by its name, as a click on the item does.
   void RunMenu(const std::string& name);
   // The action of a menu item, by name (nullptr when none).
   QAction* Action(const std::string& name) const;
+  // The menu of a menu item that opens one (nullptr when none).
+  QMenu* Menu(const std::string& name) const;
   QtUserInterface& user_interface() { return ui_; }
-  // The summary shown in the window.
-  QString Summary();
+
+  // A click on a tool of the bands. MDSAVE saves here; every other key is
+  // handed on through ToolRequested to the interaction modes.
+  void ToolClicked(const std::string& key);
+  // Applies RefreshMenus to the menus.
+  void RefreshMenuState();
+  // The about window: modal from the menu, for a moment at start.
+  void ShowAbout(bool modal);
+  QPointer<AboutWindow> about_window() const { return about_; }
+  // The log window of the last scenario run, if any.
+  ConsoleWindow* log_window() const { return log_window_.get(); }
+
+  // What the printer and page set-up dialogs are; tests replace them.
+  std::function<bool(QPrinter&)> ask_print;
+  std::function<bool(QPrinter&)> ask_page_setup;
+  QPrinter& printer() { return printer_; }
+
+ signals:
+  void ToolRequested(const QString& key);
 
  protected:
   void closeEvent(QCloseEvent* event) override;
@@ -47,17 +80,31 @@ class MainWindow : public QMainWindow {
  private:
   void BuildMenus();
   void BindCommands();
-  void RefreshSummary();
+  void AfterCommand();
+  void ApplyMenus(const MenuStates& states);
   void RefreshRecentFiles();
   void OpenPreferences();
+  void OpenForm(FormController& form);
+  void ImportBackground();
+  void PrintDrawing();
+  void RunScenarioCommand(bool with_sidrel);
+  void RecapData();
+  PictureFolders Folders() const;
 
   Surface surface_;
   QtUserInterface ui_;
   std::unique_ptr<Application> application_;
-  QLabel* summary_ = nullptr;
+  SurfaceView* view_ = nullptr;
+  std::unique_ptr<StatusPanels> panels_;
+  std::unique_ptr<MainToolBars> tool_bars_;
   QMenu* recent_menu_ = nullptr;
   std::map<std::string, QAction*> actions_;
   std::map<std::string, std::function<void()>> commands_;
+  QPointer<AboutWindow> about_;
+  std::unique_ptr<ConsoleModel> log_model_;
+  std::unique_ptr<ConsoleWindow> log_window_;
+  QPrinter printer_;
+  bool menus_pending_ = false;
 };
 
 }  // namespace pluvane

@@ -4,9 +4,19 @@
 
 #include <QApplication>
 #include <QImage>
+#include <QMenu>
+#include <QMessageBox>
+#include <QProgressBar>
+#include <QTest>
 #include <QStatusBar>
+#include <QTimer>
+#include <QToolBar>
 #include <filesystem>
 
+#include "foundation/ini_profile.h"
+#include "network/view_zoom.h"
+#include "foundation/test_files.h"
+#include "ui/background_dialog.h"
 #include "ui/test_app.h"
 
 namespace pluvane {
@@ -14,36 +24,89 @@ namespace {
 
 namespace fs = std::filesystem;
 
-TEST(MainWindow, StartsOnTheShippedConfigurationAndShowsTheNetworkSummary) {
+// A copy of the programs' folder (configuration, symbols, cursors) that the
+// test may change, with Demo.mtf in a folder of its own.
+class AppFolder {
+ public:
+  AppFolder() {
+    const fs::path bin(PLUVANE_BIN);
+    fs::copy_file(bin / "pluvane.ini", fs::path(folder_.Path()) / "pluvane.ini");
+    for (const char* sub : {"Symboles", "Curseurs"}) {
+      fs::copy(bin / sub, fs::path(folder_.Path()) / sub, fs::copy_options::recursive);
+    }
+    fs::create_directories(fs::path(folder_.Path()) / "reseau");
+    fs::copy_file(bin / "Exemples" / "Demo.mtf", fs::path(Demo()));
+  }
+  std::string Path() const { return folder_.Path(); }
+  std::string Ini() const { return folder_.File("pluvane.ini"); }
+  std::string Demo() const { return (fs::path(folder_.Path()) / "reseau" / "Demo.mtf").string(); }
+  std::string File(const std::string& name) const { return folder_.File(name); }
+
+ private:
+  TempFolder folder_;
+};
+
+struct SeenMessage {
+  QString text;
+  QString title;
+  QMessageBox::Icon icon = QMessageBox::NoIcon;
+};
+
+// Answers the next modal message box as soon as it shows (with the button of
+// that caption, or plain acceptance), and keeps what it said.
+void AnswerNextMessage(SeenMessage& seen, const QString& button = {}) {
+  QTimer::singleShot(0, [&seen, button] {
+    auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    if (!box) return AnswerNextMessage(seen, button);
+    seen = {box->text(), box->windowTitle(), box->icon()};
+    for (QAbstractButton* b : box->buttons()) {
+      if (b->text() == button) return b->click();
+    }
+    box->accept();
+  });
+}
+
+bool Enabled(MainWindow& window, const char* name) {
+  QAction* action = window.Action(name);
+  EXPECT_NE(action, nullptr) << name;
+  return action && action->isEnabled();
+}
+
+// Quits through the menu, without saving a network that is open.
+void Quit(MainWindow& window) {
+  SeenMessage seen;
+  const bool asks = window.surface().ObjectCount(kPage) >= 2;
+  if (asks) AnswerNextMessage(seen, "&Non");
+  EXPECT_TRUE(window.application().QuitCommand());
+  if (asks) EXPECT_TRUE(seen.text.startsWith("Voulez-vous sauvegarder le réseau en cours ?"));
+  window.close();
+}
+
+TEST(MainWindow, TheDrawingIsTheCentralWidget) {
   TestApp();
+  AppFolder app;
   MainWindow window;
-  ASSERT_TRUE(window.Start(PLUVANE_BIN, ""));
+  ASSERT_TRUE(window.Start(app.Path(), ""));
   window.show();
   ASSERT_TRUE(window.Activate());
   EXPECT_EQ(window.windowTitle(), "Pluvane");
-  const QString summary = window.Summary();
-  EXPECT_TRUE(summary.contains("Aucun réseau chargé"));
-  EXPECT_TRUE(summary.contains("1 objets sur le dessin."));
-  const QImage shot = window.grab().toImage();
-  EXPECT_FALSE(shot.isNull());
-  shot.save(QString::fromStdString(SnapshotPath("main_window.png")));
+  EXPECT_EQ(window.centralWidget(), window.view());
+  EXPECT_EQ(window.view()->objectName(), "MDraw1");
   // Pictures of the drawing go through the main window's writer.
-  const std::string picture =
-      (fs::path(PLUVANE_BIN).parent_path() / "main_window_drawing.png").string();
-  fs::remove(picture);
+  const std::string picture = app.File("drawing.png");
   EXPECT_TRUE(window.user_interface().SaveDrawingPicture(picture));
   QImage drawn;
   EXPECT_TRUE(drawn.load(QString::fromStdString(picture)));
   EXPECT_EQ(drawn.width(), 1600);
   EXPECT_FALSE(window.user_interface().SaveDrawingPicture(picture + ".dxf"));
-  window.application().QuitCommand();
-  window.close();
+  Quit(window);
 }
 
 TEST(MainWindow, EveryMenuItemExistsAndTheUnbuiltOnesSaySo) {
   TestApp();
+  AppFolder app;
   MainWindow window;
-  ASSERT_TRUE(window.Start(PLUVANE_BIN, ""));
+  ASSERT_TRUE(window.Start(app.Path(), ""));
   ASSERT_TRUE(window.Activate());
   for (const char* name : {"mnuFile_Open", "mnuFile_Quit", "mnuScn_ModeleRun", "MnuFi_Import_Mif_Nod",
                            "mnuExploit_ResCarto", "mnuMyUtil_Down", "mnuRufList"}) {
@@ -52,9 +115,269 @@ TEST(MainWindow, EveryMenuItemExistsAndTheUnbuiltOnesSaySo) {
   EXPECT_EQ(window.Action("mnuFile")->text(), "&Fichier");
   EXPECT_EQ(window.Action("mnuFile_SaveAs")->text(), "S&auvegarder sous...");
   window.RunMenu("mnuExploit_ResCarto");
-  EXPECT_EQ(window.statusBar()->currentMessage(), "Fonction non disponible dans cette version.");
-  window.application().QuitCommand();
-  window.close();
+  EXPECT_EQ(window.panels().Status()->text(), "Fonction non disponible dans cette version.");
+  Quit(window);
+}
+
+TEST(MainWindow, MenusFollowTheNetworkOfTheCommandLine) {
+  TestApp();
+  AppFolder app;
+  {
+    MainWindow empty;
+    ASSERT_TRUE(empty.Start(app.Path(), ""));
+    ASSERT_TRUE(empty.Activate());
+    for (const char* name : {"mnuPluie", "mnuOption", "mnuScn", "mnuExploitation",
+                             "mnuFile_Export", "mnuUtil"}) {
+      EXPECT_FALSE(Enabled(empty, name)) << name;
+    }
+    EXPECT_TRUE(Enabled(empty, "mnuFile_Import"));
+    // The file menu as it opens on an empty drawing.
+    emit empty.Menu("mnuFile")->aboutToShow();
+    EXPECT_FALSE(Enabled(empty, "mnuFile_Save"));
+    EXPECT_FALSE(Enabled(empty, "mnuFile_SaveAs"));
+    EXPECT_FALSE(Enabled(empty, "mnuFile_Close"));
+    EXPECT_FALSE(Enabled(empty, "mnuFile_Export"));
+    Quit(empty);
+  }
+  MainWindow window;
+  ASSERT_TRUE(window.Start(app.Path(), app.Demo()));
+  ASSERT_TRUE(window.Activate());
+  EXPECT_EQ(window.application().state().NetworkFile, app.Demo());
+  EXPECT_EQ(window.windowTitle().toStdString(), app.Demo());
+  EXPECT_GT(window.surface().ObjectCount(kPage), 10);
+  for (const char* name :
+       {"mnuPluie", "mnuOption", "mnuScn", "mnuExploitation", "mnuFile_Export", "mnuUtil"}) {
+    EXPECT_TRUE(Enabled(window, name)) << name;
+  }
+  emit window.Menu("mnuFile")->aboutToShow();
+  EXPECT_TRUE(Enabled(window, "mnuFile_Save"));
+  EXPECT_TRUE(Enabled(window, "mnuFile_Close"));
+  // The scenario menu names the current scenario in its generation item.
+  window.application().state().ScenarioName = "Scn-1";
+  emit window.Menu("mnuScn")->aboutToShow();
+  EXPECT_EQ(window.Action("mnuScn_ModeleGen")->text(), "Génération du &modèle Scn-1");
+  Quit(window);
+}
+
+TEST(MainWindow, ACommandLineFileThatIsNotANetworkClosesTheWindow) {
+  TestApp();
+  AppFolder app;
+  WriteBytes(app.File("notes.txt"), "x");
+  MainWindow window;
+  ASSERT_TRUE(window.Start(app.Path(), app.File("notes.txt")));
+  SeenMessage seen;
+  AnswerNextMessage(seen);
+  EXPECT_FALSE(window.Activate());
+  EXPECT_EQ(seen.text, "Fichier MTF inconnu");
+  EXPECT_EQ(seen.title, "Pluvane");
+}
+
+TEST(MainWindow, ANumberOfMinusOneOnTheCommandLineFailsLikeABadFile) {
+  TestApp();
+  AppFolder app;
+  MainWindow window;
+  ASSERT_TRUE(window.Start(app.Path(), app.Demo() + " 0 -1"));
+  SeenMessage seen;
+  AnswerNextMessage(seen);
+  EXPECT_FALSE(window.Activate());
+  EXPECT_EQ(seen.text, "Fichier MTF inconnu");
+  // The display flag "0" asked for a minimised window.
+  EXPECT_TRUE(window.application().StartMinimised());
+}
+
+TEST(MainWindow, ScenarioCommandsWantANetwork) {
+  TestApp();
+  AppFolder app;
+  MainWindow window;
+  ASSERT_TRUE(window.Start(app.Path(), ""));
+  ASSERT_TRUE(window.Activate());
+  for (const char* name : {"mnuScn_Edit", "mnuScn_Select", "mnuScn_ModeleGen", "mnuScn_ModeleRun",
+                           "mnuExploit_RecapData"}) {
+    SeenMessage seen;
+    AnswerNextMessage(seen);
+    window.RunMenu(name);
+    EXPECT_EQ(seen.text, "Un réseau doit être chargé.") << name;
+    EXPECT_EQ(seen.title, "Pluvane") << name;
+    EXPECT_EQ(seen.icon, QMessageBox::Warning) << name;
+  }
+  Quit(window);
+}
+
+TEST(MainWindow, StatusPanelsShowAtOnce) {
+  TestApp();
+  AppFolder app;
+  MainWindow window;
+  ASSERT_TRUE(window.Start(app.Path(), ""));
+  window.show();
+  ASSERT_TRUE(window.Activate());
+  QtUserInterface& ui = window.user_interface();
+  StatusPanels& panels = window.panels();
+  ui.ShowStatus("Sélectionnez un élément à éditer");
+  EXPECT_EQ(panels.Status()->text(), "Sélectionnez un élément à éditer");
+  EXPECT_EQ(panels.Status()->objectName(), "pnlStatus");
+  ui.ShowPanel("sbrXY", "652310.5, 1843200.25");
+  EXPECT_EQ(panels.XY()->text(), "652310.5, 1843200.25");
+  ui.ShowPanel("sbrSCN", "Scn-1");
+  EXPECT_EQ(panels.Scenario()->text(), "Scn-1");
+  EXPECT_TRUE(panels.Scenario()->isVisible());
+  ui.ShowPanel("sbrSCN", "");
+  EXPECT_FALSE(panels.Scenario()->isVisible());
+
+  QProgressBar* bar = panels.Progress();
+  EXPECT_EQ(bar->objectName(), "pnlProgress");
+  EXPECT_FALSE(bar->isVisible());
+  ui.ShowProgress(40);
+  EXPECT_TRUE(bar->isVisible());
+  EXPECT_EQ(bar->value(), 40);
+  ui.ShowProgress(150);  // out of range: ignored
+  EXPECT_EQ(bar->value(), 40);
+  EXPECT_TRUE(bar->isVisible());
+  ui.ShowProgress(100);
+  EXPECT_EQ(bar->value(), 100);
+  ui.ShowProgress(0);
+  EXPECT_FALSE(bar->isVisible());
+  Quit(window);
+}
+
+TEST(MainWindow, ToolBandsCarryTheCaptionsAndOpenTheCatchmentBands) {
+  TestApp();
+  AppFolder app;
+  MainWindow window;
+  ASSERT_TRUE(window.Start(app.Path(), app.Demo()));
+  ASSERT_TRUE(window.Activate());
+  MainToolBars* bars = window.tool_bars();
+  ASSERT_NE(bars, nullptr);
+  EXPECT_EQ(bars->Band("DisplayManagerBand")->windowTitle(), "Boîte à Outils");
+  EXPECT_EQ(bars->Band("RESO_CREATE")->windowTitle(), "CREATE RESO");
+  // Position de la BO = 4: the tool box stands on the left.
+  EXPECT_EQ(window.toolBarArea(bars->Band("DisplayManagerBand")), Qt::LeftToolBarArea);
+  EXPECT_EQ(bars->Tool("MDDELETE")->toolTip(), "Supprimer");
+  EXPECT_EQ(bars->Tool("X_NOD")->toolTip(), "Noeud");
+  EXPECT_FALSE(bars->Tool("X_NOD")->icon().isNull());
+  EXPECT_FALSE(bars->Tool("ZoomT")->icon().isNull());
+  ASSERT_NE(bars->DropDown("X_BVCOM"), nullptr);
+  EXPECT_EQ(bars->DropDown("X_BVCOM")->objectName(), "RESO_CREATE_BV_C");
+  EXPECT_EQ(bars->DropDown("X_BVCOM")->actions().size(), 3);
+  EXPECT_EQ(bars->DropDown("X_BVSIM")->actions().size(), 2);
+  EXPECT_EQ(bars->Tool("X_BVCOM")->menu(), bars->DropDown("X_BVCOM"));
+
+  QStringList requested;
+  QObject::connect(&window, &MainWindow::ToolRequested,
+                   [&requested](const QString& key) { requested << key; });
+  bars->Tool("MDMOVE")->trigger();
+  bars->DropDown("X_BVCOM")->actions()[0]->trigger();
+  EXPECT_EQ(requested, (QStringList{"MDMOVE", "X_BV"}));
+  // MDSAVE saves the network here and arms nothing.
+  fs::remove(app.Demo());
+  bars->Tool("MDSAVE")->trigger();
+  EXPECT_TRUE(fs::exists(app.Demo()));
+  EXPECT_EQ(requested.size(), 2);
+  Quit(window);
+  EXPECT_EQ(IniRead("Paramètres", "Position de la BO", 10, app.Ini()), "4");
+}
+
+TEST(MainWindow, ABackgroundPlanOfAnotherFormatIsRefused) {
+  TestApp();
+  AppFolder app;
+  MainWindow window;
+  ASSERT_TRUE(window.Start(app.Path(), ""));
+  ASSERT_TRUE(window.Activate());
+  WriteBytes(app.File("plan.dxf"), "0\nSECTION\n");
+  QImage plan(64, 48, QImage::Format_RGB32);
+  plan.fill(Qt::darkGreen);
+  ASSERT_TRUE(plan.save(QString::fromStdString(app.File("plan.jpg"))));
+  WriteBytes(app.File("plan.emf"), "not a picture Qt reads");
+
+  FrmImpfileDlg form(window.surface(), window.application().state(), window.user_interface());
+  BackgroundDialog dialog(form, app.Path());
+  dialog.Types()->setCurrentText("*.*");
+  EXPECT_EQ(dialog.Placings()->itemText(1), "2. Centrage au milieu");
+  ASSERT_TRUE(dialog.SelectFile("plan.dxf"));
+  SeenMessage seen;
+  AnswerNextMessage(seen);
+  EXPECT_FALSE(dialog.cmdOk());
+  EXPECT_EQ(seen.text, "Format non supporté comme fond de plan !");
+
+  ASSERT_TRUE(dialog.SelectFile("plan.emf"));
+  AnswerNextMessage(seen);
+  EXPECT_FALSE(dialog.cmdOk());
+  EXPECT_EQ(seen.text, "erreur dans pFileImportExt");
+
+  dialog.Types()->setCurrentText("*.jpg");
+  EXPECT_EQ(dialog.Files()->count(), 1);
+  ASSERT_TRUE(dialog.SelectFile("plan.jpg"));
+  dialog.Placings()->setCurrentIndex(1);
+  EXPECT_TRUE(dialog.cmdOk());
+  EXPECT_EQ(window.surface().BackgroundPicture(), app.File("plan.jpg"));
+  EXPECT_EQ(window.surface().BackgroundMode(), 4);
+  EXPECT_EQ(window.panels().Status()->text().toStdString(),
+            "Image de fond d'ecran : " + app.File("plan.jpg"));
+  Quit(window);
+}
+
+TEST(MainWindow, TheAboutWindowNamesTheProgramAndClosesOnEnter) {
+  TestApp();
+  AppFolder app;
+  IniWrite("Autres", "FlashScreen", "1", app.Ini());
+  MainWindow window;
+  ASSERT_TRUE(window.Start(app.Path(), ""));
+  ASSERT_TRUE(window.Activate());
+  // FlashScreen shows it for a moment at start.
+  QPointer<AboutWindow> about = window.about_window();
+  ASSERT_FALSE(about.isNull());
+  EXPECT_TRUE(about->isVisible());
+  EXPECT_TRUE(about->Text()->text().contains("Pluvane"));
+  EXPECT_TRUE(about->Text()->text().contains("Version 0.1"));
+  EXPECT_FALSE(about->Picture()->pixmap().isNull());
+  QTest::keyClick(about.data(), Qt::Key_Return);
+  QApplication::processEvents();
+  EXPECT_TRUE(about.isNull() || !about->isVisible());
+
+  // From the menu it waits for the user.
+  QTimer::singleShot(0, [&window] {
+    ASSERT_FALSE(window.about_window().isNull());
+    window.about_window()->grab().save(QString::fromStdString(SnapshotPath("about.png")));
+    QTest::keyClick(window.about_window().data(), Qt::Key_Escape);
+  });
+  window.RunMenu("mnuAbout");
+  Quit(window);
+}
+
+TEST(MainWindow, PrintsTheViewOnThePrinter) {
+  TestApp();
+  AppFolder app;
+  MainWindow window;
+  ASSERT_TRUE(window.Start(app.Path(), app.Demo()));
+  ASSERT_TRUE(window.Activate());
+  const std::string pdf = app.File("print.pdf");
+  window.ask_print = [&pdf](QPrinter& printer) {
+    printer.setOutputFormat(QPrinter::PdfFormat);
+    printer.setOutputFileName(QString::fromStdString(pdf));
+    return true;
+  };
+  window.RunMenu("mnuFile_Print");
+  ASSERT_TRUE(fs::exists(pdf));
+  EXPECT_GT(fs::file_size(pdf), 1000u);
+  Quit(window);
+}
+
+TEST(MainWindow, ScreenshotWithTheDemoNetwork) {
+  TestApp();
+  AppFolder app;
+  MainWindow window;
+  ASSERT_TRUE(window.Start(app.Path(), app.Demo()));
+  window.resize(1280, 800);
+  window.show();
+  ASSERT_TRUE(window.Activate());
+  ZoomToBounds(window.surface(), window.application().state());
+  window.surface().Refresh();
+  window.user_interface().ShowStatus("Prêt");
+  window.user_interface().ShowPanel("sbrXY", "652310.50, 1843200.25");
+  QApplication::processEvents();
+  const QImage shot = window.grab().toImage();
+  ASSERT_FALSE(shot.isNull());
+  EXPECT_TRUE(shot.save(QString::fromStdString(SnapshotPath("main_window.png"))));
+  Quit(window);
 }
 
 }  // namespace

@@ -1,0 +1,45 @@
+// The tool bands of the main window, built from the program's table: the
+// display tools ("Boîte à Outils"), the creation tools ("CREATE RESO"), and
+// the two small bands that the catchment tools X_BVCOM and X_BVSIM open as
+// drop-downs. Each tool shows its caption as a tip and a picture: the
+// element's own symbol for the placement tools, a short text otherwise.
+#pragma once
+
+#include <QAction>
+#include <QIcon>
+#include <QMainWindow>
+#include <QToolBar>
+#include <functional>
+#include <map>
+#include <string>
+
+namespace pluvane {
+
+class MainToolBars {
+ public:
+  // Adds the bands to the window; a click on a tool calls `clicked` with its key.
+  MainToolBars(QMainWindow* window, const std::string& symbol_dir,
+            std::function<void(const std::string&)> clicked);
+
+  // The band by its name ("DisplayManagerBand", "RESO_CREATE").
+  QToolBar* Band(const std::string& name) const;
+  // The action of a tool by key; the first when a key stands in two bands.
+  QAction* Tool(const std::string& key) const;
+  // The drop-down menu that a tool opens (X_BVCOM, X_BVSIM), nullptr if none.
+  QMenu* DropDown(const std::string& key) const;
+
+  // The docking area of the tool box as the configuration numbers it (1 top,
+  // 2 bottom, 4 left, 8 right), and back.
+  static Qt::ToolBarArea AreaOfPosition(int position);
+  static int PositionOfArea(Qt::ToolBarArea area);
+
+  // The picture of a tool: its symbol when there is one, else its short text.
+  static QIcon IconOf(const std::string& key, const std::string& symbol_dir);
+
+ private:
+  std::map<std::string, QToolBar*> bands_;
+  std::map<std::string, QAction*> tools_;
+  std::map<std::string, QMenu*> drop_downs_;
+};
+
+}  // namespace pluvane
