@@ -14,12 +14,14 @@
 #include <memory>
 #include <string>
 
+#include "foundation/form_controller.h"
 #include "network/surface.h"
 #include "shell/application.h"
 #include "shell/console_model.h"
 #include "shell/menu_state.h"
 #include "ui/about_window.h"
 #include "ui/console_window.h"
+#include "ui/drawing_picture.h"
 #include "ui/main_tool_bars.h"
 #include "ui/qt_user_interface.h"
 #include "ui/status_panels.h"

@@ -78,7 +78,9 @@ void Quit(MainWindow& window) {
   const bool asks = window.surface().ObjectCount(kPage) >= 2;
   if (asks) AnswerNextMessage(seen, "&Non");
   EXPECT_TRUE(window.application().QuitCommand());
-  if (asks) EXPECT_TRUE(seen.text.startsWith("Voulez-vous sauvegarder le réseau en cours ?"));
+  if (asks) {
+    EXPECT_TRUE(seen.text.startsWith("Voulez-vous sauvegarder le réseau en cours ?"));
+  }
   window.close();
 }
 
@@ -370,7 +372,13 @@ TEST(MainWindow, ScreenshotWithTheDemoNetwork) {
   window.show();
   ASSERT_TRUE(window.Activate());
   ZoomToBounds(window.surface(), window.application().state());
-  window.surface().Refresh();
+  // A little room around the network, as a user would leave it.
+  Surface& surface = window.surface();
+  const double margin = 0.04 * surface.ViewWidth();
+  ZoomToRect(surface, window.application().state(), surface.ViewLeft() - margin,
+             surface.ViewTop() - margin, surface.ViewLeft() + surface.ViewWidth() + margin,
+             surface.ViewTop() + surface.ViewHeight() + margin);
+  surface.Refresh();
   window.user_interface().ShowStatus("Prêt");
   window.user_interface().ShowPanel("sbrXY", "652310.50, 1843200.25");
   QApplication::processEvents();
