@@ -205,6 +205,25 @@ TEST(MainWindow, ScenarioCommandsWantANetwork) {
   Quit(window);
 }
 
+TEST(MainWindow, TheModelGenerationEndsWithItsLogInTheConsole) {
+  TestApp();
+  AppFolder app;
+  MainWindow window;
+  ASSERT_TRUE(window.Start(app.Path(), app.Demo()));
+  ASSERT_TRUE(window.Activate());
+  const std::string scenario = window.application().state().ScenarioName;
+  ASSERT_FALSE(scenario.empty());
+  window.RunMenu("mnuScn_ModeleGen");
+  ConsoleWindow* log = window.log_window();
+  ASSERT_NE(log, nullptr);
+  EXPECT_TRUE(log->isVisible());
+  EXPECT_EQ(log->windowTitle().toStdString(), "Génération du modèle " + scenario);
+  // No engine beside the program: the step is said to have succeeded.
+  EXPECT_FALSE(log->List()->findItems("Génération réussie (Velmar)", Qt::MatchExactly).isEmpty());
+  log->CloseButton()->click();
+  Quit(window);
+}
+
 TEST(MainWindow, StatusPanelsShowAtOnce) {
   TestApp();
   AppFolder app;
