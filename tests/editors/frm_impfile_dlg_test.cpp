@@ -28,6 +28,12 @@ class BackgroundPlan : public ::testing::Test {
   void SetFactor(const std::string& factor) {
     IniWrite(kSectionParameters, "Facteur d'affichage", factor, IniFilePath(state_));
   }
+  // A file of that name in the folder, for the plans that need only exist.
+  std::string Picture(const std::string& name) {
+    const std::string path = folder_.File(name);
+    WriteBytes(path, "x");
+    return path;
+  }
   std::string Factor() {
     return IniRead(kSectionParameters, "Facteur d'affichage", 255, IniFilePath(state_));
   }
@@ -67,8 +73,7 @@ TEST_F(BackgroundPlan, AnotherFormatIsRefusedAndNothingChanges) {
 }
 
 TEST_F(BackgroundPlan, TopLeftPlacingShowsTheWholeScaledSpace) {
-  const std::string plan = folder_.File("plan.jpg");
-  WriteBytes(plan, "x");
+  const std::string plan = Picture("plan.jpg");
   SetFactor("2");
   FrmImpfileDlg form(surface_, state_, ui_);
   ASSERT_TRUE(form.cmdOk(plan, 1));
@@ -87,8 +92,7 @@ TEST_F(BackgroundPlan, TopLeftPlacingShowsTheWholeScaledSpace) {
 }
 
 TEST_F(BackgroundPlan, CentredPlacingMovesTheViewToTheMiddle) {
-  const std::string plan = folder_.File("plan.bmp");
-  WriteBytes(plan, "x");
+  const std::string plan = Picture("plan.bmp");
   SetFactor("0.5");
   FrmImpfileDlg form(surface_, state_, ui_);
   ASSERT_TRUE(form.cmdOk(plan, 2));
@@ -102,8 +106,7 @@ TEST_F(BackgroundPlan, CentredPlacingMovesTheViewToTheMiddle) {
 }
 
 TEST_F(BackgroundPlan, ATinyOrMissingFactorCountsAsOne) {
-  const std::string plan = folder_.File("plan.gif");
-  WriteBytes(plan, "x");
+  const std::string plan = Picture("plan.gif");
   for (const char* factor : {"", "0", "0.0000001", "-0.0000005"}) {
     SetFactor(factor);
     FrmImpfileDlg form(surface_, state_, ui_);
@@ -116,8 +119,7 @@ TEST_F(BackgroundPlan, ATinyOrMissingFactorCountsAsOne) {
 }
 
 TEST_F(BackgroundPlan, ANegativeFactorLoadsThePictureButLeavesScaleAndView) {
-  const std::string plan = folder_.File("plan.tif");
-  WriteBytes(plan, "x");
+  const std::string plan = Picture("plan.tif");
   SetFactor("-3");
   surface_.SetBackgroundScale(0.8);
   FrmImpfileDlg form(surface_, state_, ui_);
@@ -132,8 +134,7 @@ TEST_F(BackgroundPlan, ANegativeFactorLoadsThePictureButLeavesScaleAndView) {
 }
 
 TEST_F(BackgroundPlan, APictureThatCannotBeReadFailsWithTheRoutinesName) {
-  const std::string plan = folder_.File("plan.emf");
-  WriteBytes(plan, "x");
+  const std::string plan = Picture("plan.emf");
   FrmImpfileDlg form(surface_, state_, ui_);
   form.picture_readable = [](const std::string&) { return false; };
   EXPECT_FALSE(form.cmdOk(plan, 1));
@@ -149,8 +150,7 @@ TEST_F(BackgroundPlan, AMissingFileFailsTheSameWay) {
 }
 
 TEST_F(BackgroundPlan, AFactorTooLargeForTheViewReportsTheZoomStep) {
-  const std::string plan = folder_.File("plan.jpg");
-  WriteBytes(plan, "x");
+  const std::string plan = Picture("plan.jpg");
   SetFactor("100000");
   FrmImpfileDlg form(surface_, state_, ui_);
   EXPECT_TRUE(form.cmdOk(plan, 1));
@@ -161,8 +161,7 @@ TEST_F(BackgroundPlan, AFactorTooLargeForTheViewReportsTheZoomStep) {
 }
 
 TEST_F(BackgroundPlan, AnUnknownPlacingIsTakenAsTheTopLeftCorner) {
-  const std::string plan = folder_.File("plan.jpg");
-  WriteBytes(plan, "x");
+  const std::string plan = Picture("plan.jpg");
   FrmImpfileDlg form(surface_, state_, ui_);
   ASSERT_TRUE(form.cmdOk(plan, 7));
   EXPECT_EQ(surface_.BackgroundMode(), 0);

@@ -66,6 +66,16 @@ void AnswerNextMessage(SeenMessage& seen, const QString& button = {}) {
   });
 }
 
+// The first load and the first activation of the window on the copy, with
+// `command_line` as the program was given it.
+bool Open(MainWindow& window, const AppFolder& app, const std::string& command_line,
+          bool show = false) {
+  TestApp();
+  if (!window.Start(app.Path(), command_line)) return false;
+  if (show) window.show();
+  return window.Activate();
+}
+
 bool Enabled(MainWindow& window, const char* name) {
   QAction* action = window.Action(name);
   EXPECT_NE(action, nullptr) << name;
@@ -85,12 +95,9 @@ void Quit(MainWindow& window) {
 }
 
 TEST(MainWindow, TheDrawingIsTheCentralWidget) {
-  TestApp();
   AppFolder app;
   MainWindow window;
-  ASSERT_TRUE(window.Start(app.Path(), ""));
-  window.show();
-  ASSERT_TRUE(window.Activate());
+  ASSERT_TRUE(Open(window, app, "", true));
   EXPECT_EQ(window.windowTitle(), "Pluvane");
   EXPECT_EQ(window.centralWidget(), window.view());
   EXPECT_EQ(window.view()->objectName(), "MDraw1");
@@ -105,11 +112,9 @@ TEST(MainWindow, TheDrawingIsTheCentralWidget) {
 }
 
 TEST(MainWindow, EveryMenuItemExistsAndTheUnbuiltOnesSaySo) {
-  TestApp();
   AppFolder app;
   MainWindow window;
-  ASSERT_TRUE(window.Start(app.Path(), ""));
-  ASSERT_TRUE(window.Activate());
+  ASSERT_TRUE(Open(window, app, ""));
   for (const char* name : {"mnuFile_Open", "mnuFile_Quit", "mnuScn_ModeleRun", "MnuFi_Import_Mif_Nod",
                            "mnuExploit_ResCarto", "mnuMyUtil_Down", "mnuRufList"}) {
     EXPECT_NE(window.Action(name), nullptr) << name;
@@ -188,11 +193,9 @@ TEST(MainWindow, ANumberOfMinusOneOnTheCommandLineFailsLikeABadFile) {
 }
 
 TEST(MainWindow, ScenarioCommandsWantANetwork) {
-  TestApp();
   AppFolder app;
   MainWindow window;
-  ASSERT_TRUE(window.Start(app.Path(), ""));
-  ASSERT_TRUE(window.Activate());
+  ASSERT_TRUE(Open(window, app, ""));
   for (const char* name : {"mnuScn_Edit", "mnuScn_Select", "mnuScn_ModeleGen", "mnuScn_ModeleRun",
                            "mnuExploit_RecapData"}) {
     SeenMessage seen;
@@ -206,11 +209,9 @@ TEST(MainWindow, ScenarioCommandsWantANetwork) {
 }
 
 TEST(MainWindow, TheModelGenerationEndsWithItsLogInTheConsole) {
-  TestApp();
   AppFolder app;
   MainWindow window;
-  ASSERT_TRUE(window.Start(app.Path(), app.Demo()));
-  ASSERT_TRUE(window.Activate());
+  ASSERT_TRUE(Open(window, app, app.Demo()));
   const std::string scenario = window.application().state().ScenarioName;
   ASSERT_FALSE(scenario.empty());
   window.RunMenu("mnuScn_ModeleGen");
@@ -225,12 +226,9 @@ TEST(MainWindow, TheModelGenerationEndsWithItsLogInTheConsole) {
 }
 
 TEST(MainWindow, StatusPanelsShowAtOnce) {
-  TestApp();
   AppFolder app;
   MainWindow window;
-  ASSERT_TRUE(window.Start(app.Path(), ""));
-  window.show();
-  ASSERT_TRUE(window.Activate());
+  ASSERT_TRUE(Open(window, app, "", true));
   QtUserInterface& ui = window.user_interface();
   StatusPanels& panels = window.panels();
   ui.ShowStatus("Sélectionnez un élément à éditer");
@@ -261,11 +259,9 @@ TEST(MainWindow, StatusPanelsShowAtOnce) {
 }
 
 TEST(MainWindow, ToolBandsCarryTheCaptionsAndOpenTheCatchmentBands) {
-  TestApp();
   AppFolder app;
   MainWindow window;
-  ASSERT_TRUE(window.Start(app.Path(), app.Demo()));
-  ASSERT_TRUE(window.Activate());
+  ASSERT_TRUE(Open(window, app, app.Demo()));
   MainToolBars* bars = window.tool_bars();
   ASSERT_NE(bars, nullptr);
   EXPECT_EQ(bars->Band("DisplayManagerBand")->windowTitle(), "Boîte à Outils");
@@ -298,11 +294,9 @@ TEST(MainWindow, ToolBandsCarryTheCaptionsAndOpenTheCatchmentBands) {
 }
 
 TEST(MainWindow, ABackgroundPlanOfAnotherFormatIsRefused) {
-  TestApp();
   AppFolder app;
   MainWindow window;
-  ASSERT_TRUE(window.Start(app.Path(), ""));
-  ASSERT_TRUE(window.Activate());
+  ASSERT_TRUE(Open(window, app, ""));
   WriteBytes(app.File("plan.dxf"), "0\nSECTION\n");
   QImage plan(64, 48, QImage::Format_RGB32);
   plan.fill(Qt::darkGreen);
@@ -337,12 +331,10 @@ TEST(MainWindow, ABackgroundPlanOfAnotherFormatIsRefused) {
 }
 
 TEST(MainWindow, TheAboutWindowNamesTheProgramAndClosesOnEnter) {
-  TestApp();
   AppFolder app;
   IniWrite("Autres", "FlashScreen", "1", app.Ini());
   MainWindow window;
-  ASSERT_TRUE(window.Start(app.Path(), ""));
-  ASSERT_TRUE(window.Activate());
+  ASSERT_TRUE(Open(window, app, ""));
   // FlashScreen shows it for a moment at start.
   QPointer<AboutWindow> about = window.about_window();
   ASSERT_FALSE(about.isNull());
@@ -365,11 +357,9 @@ TEST(MainWindow, TheAboutWindowNamesTheProgramAndClosesOnEnter) {
 }
 
 TEST(MainWindow, PrintsTheViewOnThePrinter) {
-  TestApp();
   AppFolder app;
   MainWindow window;
-  ASSERT_TRUE(window.Start(app.Path(), app.Demo()));
-  ASSERT_TRUE(window.Activate());
+  ASSERT_TRUE(Open(window, app, app.Demo()));
   const std::string pdf = app.File("print.pdf");
   window.ask_print = [&pdf](QPrinter& printer) {
     printer.setOutputFormat(QPrinter::PdfFormat);
@@ -383,13 +373,10 @@ TEST(MainWindow, PrintsTheViewOnThePrinter) {
 }
 
 TEST(MainWindow, ScreenshotWithTheDemoNetwork) {
-  TestApp();
   AppFolder app;
   MainWindow window;
-  ASSERT_TRUE(window.Start(app.Path(), app.Demo()));
   window.resize(1280, 800);
-  window.show();
-  ASSERT_TRUE(window.Activate());
+  ASSERT_TRUE(Open(window, app, app.Demo(), true));
   ZoomToBounds(window.surface(), window.application().state());
   // A little room around the network, as a user would leave it.
   Surface& surface = window.surface();
