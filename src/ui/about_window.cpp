@@ -46,8 +46,8 @@ AboutWindow::AboutWindow(const std::string& symbol_dir, QWidget* parent) : QDial
   QString description = QString::fromStdString(about.description).toHtmlEscaped();
   description.replace('\n', "<br>");
   text_->setText(QStringLiteral("<h2>%1</h2><p><b>%2</b></p><p>%3</p>")
-                     .arg(QString::fromStdString(about.name),
-                          QString::fromStdString(about.version), description));
+                     .arg(QString::fromStdString(about.name), QString::fromStdString(about.version),
+                          description));
   layout->addWidget(picture_);
   layout->addWidget(text_, 1);
   setFixedSize(sizeHint());

@@ -16,8 +16,7 @@ bool QtCanReadPicture(const std::string& path) {
   return reader.canRead();
 }
 
-BackgroundDialog::BackgroundDialog(FrmImpfileDlg& form, const std::string& folder,
-                                   QWidget* parent)
+BackgroundDialog::BackgroundDialog(FrmImpfileDlg& form, const std::string& folder, QWidget* parent)
     : QDialog(parent), form_(form) {
   setObjectName("frmImpfileDlg");
   setWindowTitle(QString::fromStdString(form_.Caption()));

@@ -32,15 +32,13 @@ constexpr std::pair<std::string_view, std::string_view> kDropDowns[] = {
 
 // Short texts of the tools that have no symbol.
 constexpr std::pair<std::string_view, std::string_view> kShortTexts[] = {
-    {"MDDELETE", "Sup"},     {"MDMOVE", "Dép"},      {"MDFUSION", "Fus"},
-    {"MDBREAK", "Div"},      {"MDBREAKPLUS", "Rép"}, {"MDEDIT1", "Ed"},
-    {"MDEDITALL", "EdG"},    {"MDSAVE", "Sav"},      {"ZOOMT", "ZT"},
-    {"ZOOMF", "ZF"},         {"ZOOM11", "Z1"},       {"ZOOMM", "Z-"},
-    {"MDREFRESH", "F5"},     {"MDSHOWLNKARROW", "→"}, {"MDASCENS", "Asc"},
-    {"MDGRID", "Gr"},        {"MDCOBACK", "Co"},     {"MYMDBUBLE", "i"},
-    {"X_CALAGE", "Cal"},     {"X_PARAM", "Par"},     {"X_CAC", "CAC"},
-    {"X_CAF", "CAF"},        {"X_CAO", "CAO"},       {"X_TR", "TR"},
-    {"X_BVCOM", "BV"},       {"X_BVSIM", "BVs"},     {"X_ROUT", "Rou"},
+    {"MDDELETE", "Sup"},    {"MDMOVE", "Dép"},       {"MDFUSION", "Fus"},  {"MDBREAK", "Div"},
+    {"MDBREAKPLUS", "Rép"}, {"MDEDIT1", "Ed"},       {"MDEDITALL", "EdG"}, {"MDSAVE", "Sav"},
+    {"ZOOMT", "ZT"},        {"ZOOMF", "ZF"},         {"ZOOM11", "Z1"},     {"ZOOMM", "Z-"},
+    {"MDREFRESH", "F5"},    {"MDSHOWLNKARROW", "→"}, {"MDASCENS", "Asc"},  {"MDGRID", "Gr"},
+    {"MDCOBACK", "Co"},     {"MYMDBUBLE", "i"},      {"X_CALAGE", "Cal"},  {"X_PARAM", "Par"},
+    {"X_CAC", "CAC"},       {"X_CAF", "CAF"},        {"X_CAO", "CAO"},     {"X_TR", "TR"},
+    {"X_BVCOM", "BV"},      {"X_BVSIM", "BVs"},      {"X_ROUT", "Rou"},
 };
 
 std::string_view ShortText(const std::string& key) {
@@ -91,24 +89,32 @@ QIcon MainToolBars::IconOf(const std::string& key, const std::string& symbol_dir
 
 Qt::ToolBarArea MainToolBars::AreaOfPosition(int position) {
   switch (position) {
-    case 1: return Qt::TopToolBarArea;
-    case 2: return Qt::BottomToolBarArea;
-    case 8: return Qt::RightToolBarArea;
-    default: return Qt::LeftToolBarArea;
+    case 1:
+      return Qt::TopToolBarArea;
+    case 2:
+      return Qt::BottomToolBarArea;
+    case 8:
+      return Qt::RightToolBarArea;
+    default:
+      return Qt::LeftToolBarArea;
   }
 }
 
 int MainToolBars::PositionOfArea(Qt::ToolBarArea area) {
   switch (area) {
-    case Qt::TopToolBarArea: return 1;
-    case Qt::BottomToolBarArea: return 2;
-    case Qt::RightToolBarArea: return 8;
-    default: return 4;
+    case Qt::TopToolBarArea:
+      return 1;
+    case Qt::BottomToolBarArea:
+      return 2;
+    case Qt::RightToolBarArea:
+      return 8;
+    default:
+      return 4;
   }
 }
 
 MainToolBars::MainToolBars(QMainWindow* window, const std::string& symbol_dir,
-                     std::function<void(const std::string&)> clicked) {
+                           std::function<void(const std::string&)> clicked) {
   for (const BandInfo& info : kBars) {
     auto* bar = new QToolBar(QString::fromUtf8(info.title.data(), info.title.size()), window);
     bar->setObjectName(QString::fromUtf8(info.name.data(), info.name.size()));

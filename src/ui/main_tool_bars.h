@@ -19,7 +19,7 @@ class MainToolBars {
  public:
   // Adds the bands to the window; a click on a tool calls `clicked` with its key.
   MainToolBars(QMainWindow* window, const std::string& symbol_dir,
-            std::function<void(const std::string&)> clicked);
+               std::function<void(const std::string&)> clicked);
 
   // The band by its name ("DisplayManagerBand", "RESO_CREATE").
   QToolBar* Band(const std::string& name) const;

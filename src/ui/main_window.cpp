@@ -98,11 +98,26 @@ void MainWindow::BindCommands() {
     };
   };
   commands_ = {
-      {"mnuFile_Open", after([=] { NetworkSession s = session(); OpenNetwork(s, false); })},
-      {"mnuFile_Save", after([=] { NetworkSession s = session(); mnuFile_Save(s); })},
-      {"mnuFile_SaveAs", after([=] { NetworkSession s = session(); SaveNetworkAs(s); })},
-      {"mnuFile_Close", after([=] { NetworkSession s = session(); CloseNetwork(s); })},
-      {"mnuFile_Load", after([=] { NetworkSession s = session(); mnuFile_Load(s); })},
+      {"mnuFile_Open", after([=] {
+         NetworkSession s = session();
+         OpenNetwork(s, false);
+       })},
+      {"mnuFile_Save", after([=] {
+         NetworkSession s = session();
+         mnuFile_Save(s);
+       })},
+      {"mnuFile_SaveAs", after([=] {
+         NetworkSession s = session();
+         SaveNetworkAs(s);
+       })},
+      {"mnuFile_Close", after([=] {
+         NetworkSession s = session();
+         CloseNetwork(s);
+       })},
+      {"mnuFile_Load", after([=] {
+         NetworkSession s = session();
+         mnuFile_Load(s);
+       })},
       {"MnuFi_Import_Fond", after([this] { ImportBackground(); })},
       {"MnuFi_Export_Emf", [this] { MnuFi_Export_Emf(application_->state(), ui_); }},
       {"mnuFile_Print", [this] { PrintDrawing(); }},
@@ -143,7 +158,8 @@ void MainWindow::BuildMenus() {
     parents.resize(item.level);
     const bool has_children = i + 1 < items.size() && items[i + 1].level > item.level;
     if (has_children || item.level == 0 || name == "mnuRufList") {
-      QMenu* menu = item.level == 0 ? menuBar()->addMenu(caption) : parents.back()->addMenu(caption);
+      QMenu* menu =
+          item.level == 0 ? menuBar()->addMenu(caption) : parents.back()->addMenu(caption);
       menu->setObjectName(QString::fromStdString(name));
       actions_[name] = menu->menuAction();
       if (name == "mnuRufList") {
@@ -159,9 +175,8 @@ void MainWindow::BuildMenus() {
     connect(action, &QAction::triggered, this, [this, name] { RunMenu(name); });
   }
   if (QMenu* file = Menu("mnuFile")) {
-    connect(file, &QMenu::aboutToShow, this, [this] {
-      ApplyMenus(FileMenuState(surface_, application_->state()));
-    });
+    connect(file, &QMenu::aboutToShow, this,
+            [this] { ApplyMenus(FileMenuState(surface_, application_->state())); });
   }
   if (QMenu* scenario = Menu("mnuScn")) {
     connect(scenario, &QMenu::aboutToShow, this, [this] {
@@ -240,8 +255,8 @@ void MainWindow::RefreshRecentFiles() {
 bool MainWindow::Start(const std::string& app_path, const std::string& command_line) {
   if (!application_->Load(app_path, command_line)) return false;
   const AppState& state = application_->state();
-  tool_bars_ = std::make_unique<MainToolBars>(
-      this, state.SymbolDir, [this](const std::string& key) { ToolClicked(key); });
+  tool_bars_ = std::make_unique<MainToolBars>(this, state.SymbolDir,
+                                              [this](const std::string& key) { ToolClicked(key); });
   addToolBar(Qt::TopToolBarArea, tool_bars_->Band("RESO_CREATE"));
   addToolBar(MainToolBars::AreaOfPosition(state.ToolBandPosition),
              tool_bars_->Band("DisplayManagerBand"));
@@ -332,7 +347,8 @@ void MainWindow::RecapData() {
 
 void MainWindow::closeEvent(QCloseEvent* event) {
   int position = 4;
-  if (tool_bars_) position = MainToolBars::PositionOfArea(toolBarArea(tool_bars_->Band("DisplayManagerBand")));
+  if (tool_bars_)
+    position = MainToolBars::PositionOfArea(toolBarArea(tool_bars_->Band("DisplayManagerBand")));
   application_->Unload(position);
   event->accept();
 }

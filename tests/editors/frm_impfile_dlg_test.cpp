@@ -46,15 +46,16 @@ class BackgroundPlan : public ::testing::Test {
 };
 
 TEST_F(BackgroundPlan, TheListOffersTheOldTypesAndTwoPlacings) {
-  EXPECT_EQ(FrmImpfileDlg::TypeFilters(),
-            (std::vector<std::string>{"*.emf", "*.bmp", "*.jpg", "*.tif", "*.gif", "*.wmf", "*.*"}));
+  EXPECT_EQ(
+      FrmImpfileDlg::TypeFilters(),
+      (std::vector<std::string>{"*.emf", "*.bmp", "*.jpg", "*.tif", "*.gif", "*.wmf", "*.*"}));
   EXPECT_EQ(FrmImpfileDlg::PlacingModes(),
             (std::vector<std::string>{"1. Coin supérieur gauche", "2. Centrage au milieu"}));
 }
 
 TEST_F(BackgroundPlan, AcceptsOnlyThePictureExtensionsWhateverTheirCase) {
-  for (const char* name : {"a.mtf", "a.gif", "a.wmf", "a.tif", "a.jpg", "a.emf", "a.bmp",
-                           "A.JPG", "plan.Bmp"}) {
+  for (const char* name :
+       {"a.mtf", "a.gif", "a.wmf", "a.tif", "a.jpg", "a.emf", "a.bmp", "A.JPG", "plan.Bmp"}) {
     EXPECT_TRUE(FrmImpfileDlg::IsAcceptedExtension(name)) << name;
   }
   for (const char* name : {"a.png", "a.dxf", "a.jpeg", "a.tiff", "plan", "a.txt"}) {

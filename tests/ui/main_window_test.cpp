@@ -7,15 +7,15 @@
 #include <QMenu>
 #include <QMessageBox>
 #include <QProgressBar>
-#include <QTest>
 #include <QStatusBar>
+#include <QTest>
 #include <QTimer>
 #include <QToolBar>
 #include <filesystem>
 
 #include "foundation/ini_profile.h"
-#include "network/view_zoom.h"
 #include "foundation/test_files.h"
+#include "network/view_zoom.h"
 #include "ui/background_dialog.h"
 #include "ui/test_app.h"
 
@@ -115,8 +115,9 @@ TEST(MainWindow, EveryMenuItemExistsAndTheUnbuiltOnesSaySo) {
   AppFolder app;
   MainWindow window;
   ASSERT_TRUE(Open(window, app, ""));
-  for (const char* name : {"mnuFile_Open", "mnuFile_Quit", "mnuScn_ModeleRun", "MnuFi_Import_Mif_Nod",
-                           "mnuExploit_ResCarto", "mnuMyUtil_Down", "mnuRufList"}) {
+  for (const char* name :
+       {"mnuFile_Open", "mnuFile_Quit", "mnuScn_ModeleRun", "MnuFi_Import_Mif_Nod",
+        "mnuExploit_ResCarto", "mnuMyUtil_Down", "mnuRufList"}) {
     EXPECT_NE(window.Action(name), nullptr) << name;
   }
   EXPECT_EQ(window.Action("mnuFile")->text(), "&Fichier");
@@ -133,8 +134,8 @@ TEST(MainWindow, MenusFollowTheNetworkOfTheCommandLine) {
     MainWindow empty;
     ASSERT_TRUE(empty.Start(app.Path(), ""));
     ASSERT_TRUE(empty.Activate());
-    for (const char* name : {"mnuPluie", "mnuOption", "mnuScn", "mnuExploitation",
-                             "mnuFile_Export", "mnuUtil"}) {
+    for (const char* name :
+         {"mnuPluie", "mnuOption", "mnuScn", "mnuExploitation", "mnuFile_Export", "mnuUtil"}) {
       EXPECT_FALSE(Enabled(empty, name)) << name;
     }
     EXPECT_TRUE(Enabled(empty, "mnuFile_Import"));
