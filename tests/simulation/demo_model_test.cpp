@@ -62,11 +62,17 @@ class DemoModelTest : public ::testing::Test {
     surface_.SetCurrentObject(AddHiddenRecord(surface_, state_));
     for (const auto& [name, value] : tags) surface_.SetObjTag(name, value);
   }
-  // The external rain file of kinds 127 and 128, in the temporary folder.
-  std::string ExternalRainFile() {
+  // An external rain of kind 127 or 128 read from pluies_externes.txt, which
+  // the test puts in its temporary folder, made the scenario's rain.
+  void ChooseExternalRain(int i_name, const std::string& id, const std::string& comment) {
     const std::string path = folder_.File("pluies_externes.txt");
     WriteBytes(path, Expected("pluies_externes.txt"));
-    return path;
+    AddRain({{"iName", std::to_string(i_name)},
+             {"iGroup", "-1"},
+             {"Id", id},
+             {"UsId", comment},
+             {"FileSpec", path}});
+    ChooseRain(id, i_name);
   }
 
   void Generate() {
@@ -160,23 +166,13 @@ TEST_F(DemoModelTest, Radar) {
 }
 
 TEST_F(DemoModelTest, ExternalGaugeFile) {
-  AddRain({{"iName", "127"},
-           {"iGroup", "-1"},
-           {"Id", "Orage2"},
-           {"UsId", "Orage du 3 août"},
-           {"FileSpec", ExternalRainFile()}});
-  ChooseRain("Orage2", 127);
+  ChooseExternalRain(127, "Orage2", "Orage du 3 août");
   Generate();
   ExpectModel("127_external_gauges.PLU");
 }
 
 TEST_F(DemoModelTest, ExternalHyetogramFile) {
-  AddRain({{"iName", "128"},
-           {"iGroup", "-1"},
-           {"Id", "Hyeto2"},
-           {"UsId", "Hyétogramme externe"},
-           {"FileSpec", ExternalRainFile()}});
-  ChooseRain("Hyeto2", 128);
+  ChooseExternalRain(128, "Hyeto2", "Hyétogramme externe");
   Generate();
   ExpectModel("128_external_hyetograph.PLU");
 }
@@ -198,8 +194,8 @@ TEST_F(DemoModelTest, DataRecapLineByLine) {
   const std::string path = WriteDataRecap(surface_, state_, ui_);
   ASSERT_EQ(path, folder_.File("Decennale/" + kModel + ".Txt"));
   EXPECT_TRUE(ui_.Empty());
-  const std::string expected_path = std::string(PLUVANE_TESTS) +
-                                    "/simulation/expected/demo/" + kModel + ".Txt";
+  const std::string expected_path =
+      std::string(PLUVANE_TESTS) + "/simulation/expected/demo/" + kModel + ".Txt";
   std::vector<std::string> written, expected;
   ASSERT_TRUE(ReadTextLines(path, written));
   ASSERT_TRUE(ReadTextLines(expected_path, expected));
