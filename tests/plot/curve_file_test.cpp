@@ -112,14 +112,14 @@ TEST(ReadCurve, ReadsEveryNumberFormOfItsColumns) {
   TempFolder folder;
   WriteBytes(folder.File("a.crb"),
              "'F'\r\n"
-             "     1.000    -2.500\r\n"          // the writers' form
-             "  .5        5.\r\n"                // no integer part, no decimals
-             "+3        1.0D-02\r\n"             // a plus sign, the old exponent
-             "1234567.891.5E+03abc\r\n"          // columns that touch, text behind
-             "\t7        -0.000\r\n"             // a tab before, a negative zero
-             "       abc      12.3\r\n"           // no number reads as 0
-             "    42\r\n"                        // a short line
-             "  1234.5678901\r\n");              // a number cut by its column
+             "     1.000    -2.500\r\n"  // the writers' form
+             "  .5        5.\r\n"        // no integer part, no decimals
+             "+3        1.0D-02\r\n"     // a plus sign, the old exponent
+             "1234567.891.5E+03abc\r\n"  // columns that touch, text behind
+             "\t7        -0.000\r\n"     // a tab before, a negative zero
+             "       abc      12.3\r\n"  // no number reads as 0
+             "    42\r\n"                // a short line
+             "  1234.5678901\r\n");      // a number cut by its column
   ScriptedUi ui;
   Curve c = Read(ui, folder.File("a.crb"), "F");
   EXPECT_EQ(c.count, 8);
@@ -131,7 +131,8 @@ TEST(ReadCurve, ReadsEveryNumberFormOfItsColumns) {
 // Columns count characters: an accented letter in a line is one column.
 TEST(ReadCurve, ColumnsCountCharactersNotBytes) {
   TempFolder folder;
-  WriteBytes(folder.File("a.crb"), "'É'\r\n  é 1.000     2.500     9.000\r\n     3.000é    4.000\r\n");
+  WriteBytes(folder.File("a.crb"),
+             "'É'\r\n  é 1.000     2.500     9.000\r\n     3.000é    4.000\r\n");
   ScriptedUi ui;
   Curve c = Read(ui, folder.File("a.crb"), "é");
   EXPECT_EQ(c.count, 2);
@@ -142,7 +143,9 @@ TEST(ReadCurve, ColumnsCountCharactersNotBytes) {
 // A Windows-1252 file is read as well, its columns by characters.
 TEST(ReadCurve, AWindows1252FileIsReadByCharacters) {
   TempFolder folder;
-  WriteBytes(folder.File("a.crb"), "'D\xe9" "bit'\r\n\xe9    1.000     2.000\r\n");
+  WriteBytes(folder.File("a.crb"),
+             "'D\xe9"
+             "bit'\r\n\xe9    1.000     2.000\r\n");
   ScriptedUi ui;
   Curve c = Read(ui, folder.File("a.crb"), "DÉBIT");
   EXPECT_EQ(c.status, kCurveFound);

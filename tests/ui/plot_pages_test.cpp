@@ -119,6 +119,12 @@ const Shape* FrameBox(Surface& surface, double left_cm, double bottom_cm) {
   return found;
 }
 
+bool HasText(Surface& surface, const std::string& text) {
+  for (int n = surface.FirstObject(); n != 0; n = surface.NextObject())
+    if (surface.ObjectShape(n)->text.string == text) return true;
+  return false;
+}
+
 // The numbers of a script statement, by its keyword.
 std::vector<std::string> StatementWords(const std::string& script, const std::string& keyword) {
   std::vector<std::string> lines;
@@ -203,12 +209,8 @@ TEST_F(PlotPages, HydrographOfThreeCurvesWithItsLegend) {
                    static_cast<int>(PixelY(top_cm) - PixelY(19)) - 2);
   EXPECT_GT(CountColour(image, band, kBlueCurve), 30);
   EXPECT_GT(CountColour(image, band, kRedCurve), 30);
-  for (const char* text : {"Cac_1", "Cac_2", "Nod_3", "Hydrogramme", "Temps(mn)", "Débit (m3/s)"}) {
-    bool found = false;
-    for (int n = picture_.surface->FirstObject(); n != 0; n = picture_.surface->NextObject())
-      if (picture_.surface->ObjectShape(n)->text.string == text) found = true;
-    EXPECT_TRUE(found) << text;
-  }
+  for (const char* text : {"Cac_1", "Cac_2", "Nod_3", "Hydrogramme", "Temps(mn)", "Débit (m3/s)"})
+    EXPECT_TRUE(HasText(*picture_.surface, text)) << text;
 }
 
 TEST_F(PlotPages, DateAxisHasItsTicksAndDayMonthLabels) {
@@ -229,12 +231,8 @@ TEST_F(PlotPages, DateAxisHasItsTicksAndDayMonthLabels) {
   const QImage image = Render(script, "plot_dates.png");
   EXPECT_TRUE(ui_.Empty());
   // A label every 5 days, reading day and month.
-  for (const char* label : {"01/01", "06/01", "11/01", "16/01", "21/01", "26/01", "31/01"}) {
-    bool found = false;
-    for (int n = picture_.surface->FirstObject(); n != 0; n = picture_.surface->NextObject())
-      if (picture_.surface->ObjectShape(n)->text.string == label) found = true;
-    EXPECT_TRUE(found) << label;
-  }
+  for (const char* label : {"01/01", "06/01", "11/01", "16/01", "21/01", "26/01", "31/01"})
+    EXPECT_TRUE(HasText(*picture_.surface, label)) << label;
   // A tick a day along the bottom edge, a long one at each label; none
   // between two days.
   const double bottom = PixelY(3);
@@ -260,12 +258,14 @@ TEST_F(PlotPages, DateAxisHasItsTicksAndDayMonthLabels) {
 TEST_F(PlotPages, LongProfileHasABarAtEachNode) {
   // A reach of three collectors: distances of the nodes, inverts, vaults and
   // the ground, as the long profile writes them.
-  WriteBytes(File("Prof.crb"),
-             CurveBlock("ZR_R", {{0, 100.0}, {40, 99.6}, {40, 99.5}, {90, 99.0}, {90, 98.9},
-                                 {150, 98.3}}) +
-                 CurveBlock("ZV_R", {{0, 100.8}, {40, 100.4}, {40, 100.5}, {90, 100.0},
-                                     {90, 100.1}, {150, 99.5}}) +
-                 CurveBlock("ZTN_R", {{0, 102.0}, {40, 101.5}, {90, 101.2}, {150, 100.4}}));
+  WriteBytes(
+      File("Prof.crb"),
+      CurveBlock("ZR_R",
+                 {{0, 100.0}, {40, 99.6}, {40, 99.5}, {90, 99.0}, {90, 98.9}, {150, 98.3}}) +
+          CurveBlock(
+              "ZV_R",
+              {{0, 100.8}, {40, 100.4}, {40, 100.5}, {90, 100.0}, {90, 100.1}, {150, 99.5}}) +
+          CurveBlock("ZTN_R", {{0, 102.0}, {40, 101.5}, {90, 101.2}, {150, 100.4}}));
   const std::string script = File("Prof.Mst");
   WriteBytes(script,
              "PAGE  \"A4\"  \"H\"  \"Profil en long\"\r\n"
