@@ -90,11 +90,23 @@ void GetEline(UserInterface& ui, std::string_view line, int n, std::vector<std::
   }
 }
 
-TextReader::TextReader(const std::string& path) { open_ = ReadTextLines(path, lines_); }
+TextReader::TextReader(const std::string& path) { open_ = ReadTextFile(path, text_); }
+
+bool TextReader::ReadLine(std::string_view& line) {
+  if (AtEnd()) return false;
+  std::size_t end = text_.find('\n', next_);
+  if (end == std::string::npos) end = text_.size();
+  std::size_t stop = end;
+  if (stop > next_ && text_[stop - 1] == '\r') --stop;
+  line = std::string_view(text_).substr(next_, stop - next_);
+  next_ = end + 1;
+  return true;
+}
 
 bool TextReader::ReadLine(std::string& line) {
-  if (AtEnd()) return false;
-  line = lines_[next_++];
+  std::string_view view;
+  if (!ReadLine(view)) return false;
+  line.assign(view);
   return true;
 }
 

@@ -26,17 +26,24 @@ int SplitLine(UserInterface& ui, std::string_view line, std::vector<std::string>
 void GetEline(UserInterface& ui, std::string_view line, int n, std::vector<std::string>& elements);
 
 // A text file opened for reading line by line (decoded as UTF-8 or
-// Windows-1252, LF or CR LF).
+// Windows-1252, LF or CR LF). The whole text is read at once and the lines
+// are handed out from it.
 class TextReader {
  public:
   explicit TextReader(const std::string& path);
   bool IsOpen() const { return open_; }
-  bool AtEnd() const { return next_ >= lines_.size(); }
+  bool AtEnd() const { return next_ >= text_.size(); }
   // The next line; false at the end of the file.
   bool ReadLine(std::string& line);
+  // The same without a copy: the view lasts as long as the reader.
+  bool ReadLine(std::string_view& line);
+  // What is left to read, line ends included.
+  std::string_view Rest() const {
+    return AtEnd() ? std::string_view() : std::string_view(text_).substr(next_);
+  }
 
  private:
-  std::vector<std::string> lines_;
+  std::string text_;
   std::size_t next_ = 0;
   bool open_ = false;
 };

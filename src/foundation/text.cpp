@@ -194,6 +194,10 @@ std::size_t CharFind(std::string_view text, std::string_view what, std::size_t s
 
 bool IsValidUtf8(std::string_view bytes) {
   for (std::size_t i = 0; i < bytes.size();) {
+    if (static_cast<unsigned char>(bytes[i]) < 0x80) {
+      ++i;
+      continue;
+    }
     std::size_t n = SequenceLength(bytes, i);
     if (n == 0) return false;
     i += n;
@@ -244,12 +248,34 @@ std::string Utf8ToCp1252(std::string_view text) {
   return out;
 }
 
-bool ReadTextLines(const std::string& path, std::vector<std::string>& lines) {
+bool ReadTextFile(const std::string& path, std::string& text) {
   std::ifstream in(path, std::ios::binary);
   if (!in) return false;
-  std::ostringstream buffer;
-  buffer << in.rdbuf();
-  std::string text = DecodeText(buffer.str());
+  std::string bytes;
+  in.seekg(0, std::ios::end);
+  const std::streamoff size = in.tellg();
+  in.seekg(0, std::ios::beg);
+  if (size > 0) {
+    bytes.resize(static_cast<std::size_t>(size));
+    in.read(bytes.data(), size);
+    bytes.resize(static_cast<std::size_t>(in.gcount()));
+  } else {
+    // A file whose size is not known beforehand (a pipe, a device).
+    std::ostringstream buffer;
+    buffer << in.rdbuf();
+    bytes = std::move(buffer).str();
+  }
+  if (IsValidUtf8(bytes)) {
+    text = std::move(bytes);
+  } else {
+    text = Cp1252ToUtf8(bytes);
+  }
+  return true;
+}
+
+bool ReadTextLines(const std::string& path, std::vector<std::string>& lines) {
+  std::string text;
+  if (!ReadTextFile(path, text)) return false;
   lines.clear();
   std::size_t start = 0;
   while (start < text.size()) {

@@ -42,6 +42,9 @@ std::string Utf8ToCp1252(std::string_view text);
 // The lines of a text file, decoded; LF and CR LF both end a line, and a last
 // line without an end counts. False when the file cannot be opened.
 bool ReadTextLines(const std::string& path, std::vector<std::string>& lines);
+// The whole text of a file, decoded the same way, its line ends as they stand.
+// False when the file cannot be opened.
+bool ReadTextFile(const std::string& path, std::string& text);
 // Writes lines in Windows-1252, each ended by CR LF, replacing the file.
 bool WriteTextLines(const std::string& path, const std::vector<std::string>& lines);
 

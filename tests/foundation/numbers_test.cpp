@@ -2,6 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+#include <cstdlib>
+#include <random>
+#include <string>
+
 namespace pluvane {
 namespace {
 
@@ -22,6 +27,59 @@ TEST(Val, GivesZeroWithoutANumber) {
   EXPECT_EQ(Val("-"), 0);
   EXPECT_EQ(Val("."), 0);
   EXPECT_EQ(Val("1E999"), 0);
+}
+
+// Every form met in the program's files gives the correctly rounded double,
+// bit for bit.
+TEST(Val, EveryNumberFormIsReadToTheNearestDouble) {
+  EXPECT_EQ(Val("     1.000"), 1.0);
+  EXPECT_EQ(Val("    -2.500"), -2.5);
+  EXPECT_EQ(Val("  1234.567"), 1234.567);
+  EXPECT_EQ(Val("    0.1   "), 0.1);
+  EXPECT_EQ(Val("1234567.89"), 1234567.89);
+  EXPECT_EQ(Val("  .3"), 0.3);
+  EXPECT_EQ(Val("5."), 5.0);
+  EXPECT_EQ(Val("-.75"), -0.75);
+  EXPECT_EQ(Val("+12"), 12.0);
+  EXPECT_EQ(Val("007.250"), 7.25);
+  EXPECT_EQ(Val("1.0D-02"), 0.01);
+  EXPECT_EQ(Val("1.0d+02"), 100.0);
+  EXPECT_EQ(Val("2.5e-3"), 0.0025);
+  EXPECT_EQ(Val("-1.5E+20"), -1.5e20);
+  EXPECT_EQ(Val("9007199254740993"), 9007199254740992.0);  // past 2^53: rounded
+  EXPECT_EQ(Val("0.30000000000000004"), 0.30000000000000004);
+  EXPECT_EQ(Val("123456789012345678901234567890"), 1.2345678901234568e29);
+  EXPECT_EQ(Val("0.000000000000000000000000123"), 1.23e-25);
+  EXPECT_EQ(Val("1E-400"), 0);
+  EXPECT_EQ(Val("4.9E-324"), 4.9e-324);
+  EXPECT_EQ(Val("1.7976931348623157E308"), 1.7976931348623157e308);
+  EXPECT_EQ(Val("12.34.56"), 12.34);
+  EXPECT_EQ(Val("3-4"), 3.0);
+  EXPECT_EQ(Val("1E+"), 1.0);
+  EXPECT_EQ(Val("+-1"), 0);
+  EXPECT_EQ(Val(" \t -8"), -8.0);
+  EXPECT_TRUE(std::signbit(Val("-0.000")));
+  EXPECT_FALSE(std::signbit(Val("0.000")));
+}
+
+// Random numbers in the forms above read as the C library reads them.
+TEST(Val, AgreesWithTheCLibraryOnRandomNumbers) {
+  std::mt19937 random(20240611);
+  const auto digits = [&](int most) {
+    std::string text;
+    const int count = static_cast<int>(random() % (most + 1));
+    for (int i = 0; i < count; ++i) text += static_cast<char>('0' + random() % 10);
+    return text;
+  };
+  for (int trial = 0; trial < 20000; ++trial) {
+    std::string text = random() % 3 == 0 ? "-" : "";
+    text += digits(12);
+    if (random() % 2) text += "." + digits(8);
+    if (random() % 5 == 0) text += (random() % 2 ? "E" : "E-") + std::to_string(random() % 40);
+    const bool has_digits = text.find_first_of("0123456789") < text.find('E');
+    const double expected = has_digits ? std::strtod(text.c_str(), nullptr) : 0;
+    EXPECT_EQ(Val(text), expected) << text;
+  }
 }
 
 TEST(Val, IntegerFormsTruncateAndClamp) {

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "foundation/expect_message.h"
+#include "foundation/fixed_width.h"
 #include "foundation/paths.h"
 #include "foundation/test_files.h"
 
@@ -104,6 +105,76 @@ TEST(ReadCurve, ThreeAndFourColumnsHaveNoOffset) {
   EXPECT_EQ(t, (std::vector<double>{4, 8}));
   EXPECT_EQ(count, 2);
   EXPECT_EQ(status, kCurveFound);
+}
+
+// The number forms a data line may hold, each in its ten columns.
+TEST(ReadCurve, ReadsEveryNumberFormOfItsColumns) {
+  TempFolder folder;
+  WriteBytes(folder.File("a.crb"),
+             "'F'\r\n"
+             "     1.000    -2.500\r\n"  // the writers' form
+             "  .5        5.\r\n"        // no integer part, no decimals
+             "+3        1.0D-02\r\n"     // a plus sign, the old exponent
+             "1234567.891.5E+03abc\r\n"  // columns that touch, text behind
+             "\t7        -0.000\r\n"     // a tab before, a negative zero
+             "       abc      12.3\r\n"  // no number reads as 0
+             "    42\r\n"                // a short line
+             "  1234.5678901\r\n");      // a number cut by its column
+  ScriptedUi ui;
+  Curve c = Read(ui, folder.File("a.crb"), "F");
+  EXPECT_EQ(c.count, 8);
+  EXPECT_EQ(c.x, (std::vector<double>{1, 0.5, 3, 1234567.89, 7, 0, 42, 1234.567}));
+  EXPECT_EQ(c.y, (std::vector<double>{-2.5, 5, 0.01, 1500, -0.0, 12.3, 0, 8901}));
+  EXPECT_TRUE(ui.Empty());
+}
+
+// Columns count characters: an accented letter in a line is one column.
+TEST(ReadCurve, ColumnsCountCharactersNotBytes) {
+  TempFolder folder;
+  WriteBytes(folder.File("a.crb"),
+             "'É'\r\n  é 1.000     2.500     9.000\r\n     3.000é    4.000\r\n");
+  ScriptedUi ui;
+  Curve c = Read(ui, folder.File("a.crb"), "é");
+  EXPECT_EQ(c.count, 2);
+  EXPECT_EQ(c.x, (std::vector<double>{0, 3}));
+  EXPECT_EQ(c.y, (std::vector<double>{11.5, 9}));  // the offset of 9 too
+}
+
+// A Windows-1252 file is read as well, its columns by characters.
+TEST(ReadCurve, AWindows1252FileIsReadByCharacters) {
+  TempFolder folder;
+  WriteBytes(folder.File("a.crb"),
+             "'D\xe9"
+             "bit'\r\n\xe9    1.000     2.000\r\n");
+  ScriptedUi ui;
+  Curve c = Read(ui, folder.File("a.crb"), "DÉBIT");
+  EXPECT_EQ(c.status, kCurveFound);
+  EXPECT_EQ(c.x, (std::vector<double>{0}));
+  EXPECT_EQ(c.y, (std::vector<double>{2}));
+}
+
+// Many curves, the wanted one last: every point of it, in order.
+TEST(ReadCurve, TheLastOfManyLongCurvesIsReadWhole) {
+  TempFolder folder;
+  std::string text;
+  for (int curve = 0; curve < 5; ++curve) {
+    text += "'C" + std::to_string(curve) + "'\r\n";
+    for (int i = 0; i < 20000; ++i)
+      text += FormatFixed(i * 0.5, 10, 3) + FormatFixed(curve * 1000 + i * 0.001, 10, 3) + "\r\n";
+  }
+  WriteBytes(folder.File("a.crb"), text);
+  ScriptedUi ui;
+  Curve c = Read(ui, folder.File("a.crb"), "c4");
+  ASSERT_EQ(c.count, 20000);
+  ASSERT_EQ(c.x.size(), 20000u);
+  EXPECT_EQ(c.x[19999], 9999.5);
+  EXPECT_EQ(c.y[0], 4000);
+  EXPECT_EQ(c.y[12345], 4012.345);
+  double x_min = 0, x_max = 0, y_min = 0, y_max = 0;
+  CurveMinMax(ui, folder.File("a.crb"), x_min, x_max, y_min, y_max);
+  EXPECT_EQ(x_max, 9999.5);
+  EXPECT_EQ(y_max, 4019.999);
+  EXPECT_EQ(y_min, 0);
 }
 
 TEST(CurveFormatCheck, LooksAtTheFirstLineThatIsNotBlank) {
