@@ -39,6 +39,15 @@ bool ViewerDraw(UserInterface& ui, Surface& surface, const ViewerState& state,
   surface.SetRedraw(false);
   const bool drawn =
       DrawScriptOn(ui, false, surface, state.script, work_dir, state.selection_mode == "SEC");
+  // The page leaves its last curve's pen in the defaults; what the user
+  // places afterwards starts black and thin.
+  {
+    CursorKeeper keeper(surface);
+    surface.SetCurrentObject(kDefaults);
+    surface.SetLineColor(0);
+    surface.SetLineWidth(0);
+    surface.SetLineStyle(0);
+  }
   surface.SetRedraw(true);
   surface.Refresh();
   return drawn;

@@ -2,6 +2,7 @@
 
 #include <QHeaderView>
 #include <QTableView>
+#include <algorithm>
 
 #include "ui/vistrel_window.h"
 
@@ -12,6 +13,14 @@ SelectionWindow::SelectionWindow(FrmSelection& form, QWidget* parent) : FormWind
   table->horizontalHeader()->setStretchLastSection(true);
   table->setSelectionBehavior(QAbstractItemView::SelectRows);
   table->setEditTriggers(QAbstractItemView::NoEditTriggers);
+  // Names show on one line, the window widened to hold them.
+  table->setWordWrap(false);
+  const int narrow = table->columnWidth(0);
+  table->resizeColumnToContents(0);
+  table->setColumnWidth(0, std::max(narrow, table->columnWidth(0) + 16));
+  int needed = table->verticalHeader()->sizeHint().width() + 2 * table->frameWidth() + 24;
+  for (int c = 0; c < table->model()->columnCount(); ++c) needed += table->columnWidth(c);
+  resize(std::max(width(), needed), height());
   connect(table, &QTableView::clicked, this, [&form](const QModelIndex& index) {
     // The check box swaps itself; the name's cell swaps it through the form.
     if (index.isValid() && index.column() == 0) form.Spread1_Click(index.row() + 1);

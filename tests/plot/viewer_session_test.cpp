@@ -70,11 +70,15 @@ TEST_F(ViewerSession, TheProgramRefusesAMissingScriptOrArgument) {
 TEST_F(ViewerSession, DrawTellsWhetherTheScriptWasCompiled) {
   WriteBytes(folder.File("c.crb"), CurveText("A", {{0, 1}, {50, 5}}));
   const std::string good = folder.File("good.Mst");
-  WriteBytes(good, PageScript(" Plotxy 1 \"c.crb\" \"A\"\r\n"));
+  WriteBytes(good, PageScript(" Plotxy 1 \"c.crb\" \"A\" \"\" 0 2 255\r\n"));
   Surface surface;
   ASSERT_TRUE(StartViewer(ui, state, good));
   EXPECT_TRUE(ViewerDraw(ui, surface, state, folder.Path()));
   EXPECT_GT(surface.ObjectCount(kAllObjects), 0);
+  // The curve's pen does not stay for the objects placed next.
+  surface.SetCurrentObject(kDefaults);
+  EXPECT_EQ(surface.LineColor(), 0);
+  EXPECT_EQ(surface.LineWidth(), 0);
   const std::string bad = folder.File("bad.Mst");
   WriteBytes(bad, "rien de bon\r\n");
   state.script = bad;

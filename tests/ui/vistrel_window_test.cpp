@@ -213,8 +213,10 @@ TEST_F(VistrelTest, ABadScriptIsRefusedWithItsMessage) {
   ASSERT_TRUE(StartViewer(ui, state, script));
   VistrelWindow window(ui, state, folder.Path());
   EXPECT_FALSE(window.Load());
-  ASSERT_FALSE(ui.Empty());
-  EXPECT_FALSE(ui.Last().text.empty());
+  ExpectLastMessage(ui,
+                    " Le couple PAGE/ENDPAGE non coherent dans " + script +
+                        "\n il y a 1 page(s) pour 0 ENDPAGE",
+                    "", MessageIcon::kNone);
 }
 
 TEST_F(VistrelTest, TheProgramRefusesAMissingScript) {
