@@ -19,8 +19,7 @@ int main(int argc, char** argv) {
   std::vector<std::string> args;
   for (const QString& arg : app.arguments().mid(1)) args.push_back(arg.toStdString());
   pluvane::VistrelProgram program;
-  const int refused =
-      pluvane::StartVistrel(ui, args, QDir::currentPath().toStdString(), program);
+  const int refused = pluvane::StartVistrel(ui, args, QDir::currentPath().toStdString(), program);
   if (refused != 0) return refused;
   ui.SetOwner(program.window.get());
   program.window->show();

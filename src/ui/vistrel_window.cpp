@@ -44,9 +44,8 @@ VistrelWindow::VistrelWindow(UserInterface& ui, ViewerState& state, std::string 
     ShowScaleForm(this, static_cast<FrmEchDef&>(form));
   };
   BindCommands();
-  actions_ = BuildMenus(menuBar(), ViewerMenus(), [this](const std::string& name) {
-    RunMenu(name);
-  });
+  actions_ =
+      BuildMenus(menuBar(), ViewerMenus(), [this](const std::string& name) { RunMenu(name); });
   connect(view_, &SurfaceView::MousePressed, this,
           [this](int button, int, double x, double y) { OnPress(button, x, y); });
   connect(view_, &SurfaceView::MouseReleased, this,
@@ -209,8 +208,8 @@ void ShowScaleForm(QWidget* parent, FrmEchDef& form) {
   window.exec();
 }
 
-bool OpenVistrel(QWidget* parent, UserInterface& ui, ViewerState& state,
-                 const std::string& script, const std::string& work_dir) {
+bool OpenVistrel(QWidget* parent, UserInterface& ui, ViewerState& state, const std::string& script,
+                 const std::string& work_dir) {
   if (!StartViewer(ui, state, script)) return false;
   VistrelWindow window(ui, state, work_dir, parent);
   if (!window.Load()) {

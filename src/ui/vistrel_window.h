@@ -86,7 +86,7 @@ void ShowScaleForm(QWidget* parent, FrmEchDef& form);
 
 // The viewer on `script`, modally: it returns when the window is closed.
 // False when the script is missing or refused (its message was told).
-bool OpenVistrel(QWidget* parent, UserInterface& ui, ViewerState& state,
-                 const std::string& script, const std::string& work_dir);
+bool OpenVistrel(QWidget* parent, UserInterface& ui, ViewerState& state, const std::string& script,
+                 const std::string& work_dir);
 
 }  // namespace pluvane

@@ -134,7 +134,9 @@ TEST(ViewerSaveAs, WritesTheChosenPictureAndAddsSvgToABareName) {
 TEST(ViewerSaveAs, AFailedWriteIsTold) {
   ScriptedUi ui;
   ui.Queue("/tmp/plot.dxf");
-  EXPECT_EQ(ViewerSaveAs(ui, [](const std::string&) { return false; }, "/tmp"), "");
+  EXPECT_EQ(ViewerSaveAs(
+                ui, [](const std::string&) { return false; }, "/tmp"),
+            "");
   ExpectLastMessage(ui,
                     "Erreur de sauvegarde : le tracé n'a pas pu être écrit dans /tmp/plot.dxf\n"
                     "(formats reconnus : svg, pdf, png)",

@@ -73,9 +73,9 @@ TEST_F(CurveFileView, AClosedChooserShowsNothing) {
 TEST_F(CurveFileView, AFileNotInTheCurveFormatIsRefused) {
   WriteBytes(file, "     0.000     1.000\r\n'N1'\r\n");
   EXPECT_FALSE(ViewCurveFile(ui, state, file, work.Path(), "", TickAll(), Keep()));
-  ExpectLastMessage(ui,
-                    "Le format de courbe du fichier n'est pas de type Kalder.\rVoir fichier " + file,
-                    "Visu de courbe Kalder", MessageIcon::kNone);
+  ExpectLastMessage(
+      ui, "Le format de courbe du fichier n'est pas de type Kalder.\rVoir fichier " + file,
+      "Visu de courbe Kalder", MessageIcon::kNone);
   EXPECT_EQ(viewer_opened, 0);
 }
 

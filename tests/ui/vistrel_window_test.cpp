@@ -46,9 +46,8 @@ class VistrelTest : public ::testing::Test {
  protected:
   void SetUp() override {
     TestApp();
-    WriteBytes(folder.File("xy.crb"),
-               Curve("N1", {{0, 1}, {30, 8}, {60, 4}, {100, 2}}) +
-                   Curve("N2", {{0, 2}, {40, 3}, {70, 9}, {100, 6}}));
+    WriteBytes(folder.File("xy.crb"), Curve("N1", {{0, 1}, {30, 8}, {60, 4}, {100, 2}}) +
+                                          Curve("N2", {{0, 2}, {40, 3}, {70, 9}, {100, 6}}));
     script = folder.File("Vistrel.Mst");
     WriteBytes(script, kTwoCurves);
     state.page_title = "Bv_1 hydrogramme d'apport ";
@@ -213,10 +212,10 @@ TEST_F(VistrelTest, ABadScriptIsRefusedWithItsMessage) {
   ASSERT_TRUE(StartViewer(ui, state, script));
   VistrelWindow window(ui, state, folder.Path());
   EXPECT_FALSE(window.Load());
-  ExpectLastMessage(ui,
-                    " Le couple PAGE/ENDPAGE non coherent dans " + script +
-                        "\n il y a 1 page(s) pour 0 ENDPAGE",
-                    "", MessageIcon::kNone);
+  ExpectLastMessage(
+      ui,
+      " Le couple PAGE/ENDPAGE non coherent dans " + script + "\n il y a 1 page(s) pour 0 ENDPAGE",
+      "", MessageIcon::kNone);
 }
 
 TEST_F(VistrelTest, TheProgramRefusesAMissingScript) {
