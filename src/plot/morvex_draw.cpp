@@ -161,6 +161,11 @@ int MorvexDraw(UserInterface& ui, bool no_legend, Surface& surface, const std::s
   return 0;
 }
 
+bool DrawScriptOn(UserInterface& ui, bool no_legend, Surface& surface, const std::string& script,
+                  const std::string& work_dir, bool equal_scales) {
+  return DrawFirstPage(ui, no_legend, surface, script, work_dir, equal_scales);
+}
+
 PlotPicture DrawScriptPage(UserInterface& ui, const std::string& script,
                            const std::string& work_dir) {
   PlotPicture picture;

@@ -22,6 +22,9 @@ namespace pluvane {
 // is told through `ui`; the result is 0.
 int MorvexDraw(UserInterface& ui, bool no_legend, Surface& surface, const std::string& script,
                const std::string& work_dir, bool equal_scales = false);
+// The same, telling whether page 1 could be compiled and drawn.
+bool DrawScriptOn(UserInterface& ui, bool no_legend, Surface& surface, const std::string& script,
+                  const std::string& work_dir, bool equal_scales = false);
 
 // A plot drawn away from any window, for the picture writers.
 struct PlotPicture {

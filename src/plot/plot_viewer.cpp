@@ -32,14 +32,25 @@ void ToSelection(Surface& surface, Change change) {
 
 }  // namespace
 
-void ViewerDraw(UserInterface& ui, Surface& surface, const ViewerState& state,
+bool ViewerDraw(UserInterface& ui, Surface& surface, const ViewerState& state,
                 const std::string& work_dir) {
-  if (state.action == kViewerCancel) return;
+  if (state.action == kViewerCancel) return true;
   surface.ClearDrawing();
   surface.SetRedraw(false);
-  MorvexDraw(ui, false, surface, state.script, work_dir, state.selection_mode == "SEC");
+  const bool drawn =
+      DrawScriptOn(ui, false, surface, state.script, work_dir, state.selection_mode == "SEC");
+  // The page leaves its last curve's pen in the defaults; what the user
+  // places afterwards starts black and thin.
+  {
+    CursorKeeper keeper(surface);
+    surface.SetCurrentObject(kDefaults);
+    surface.SetLineColor(0);
+    surface.SetLineWidth(0);
+    surface.SetLineStyle(0);
+  }
   surface.SetRedraw(true);
   surface.Refresh();
+  return drawn;
 }
 
 void mnuOpt_Attrib_Dess_CoLine(UserInterface& ui, Surface& surface) {

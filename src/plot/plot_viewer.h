@@ -25,8 +25,10 @@ struct ViewerState {
 };
 
 // Action 3 does nothing; else the surface is cleared and the script's first
-// page drawn, with equal X and Y scales in the "SEC" mode.
-void ViewerDraw(UserInterface& ui, Surface& surface, const ViewerState& state,
+// page drawn, with equal X and Y scales in the "SEC" mode. False when the
+// script could not be compiled (its message was told); true otherwise. The
+// defaults' pen is then black and thin, for the objects the user places.
+bool ViewerDraw(UserInterface& ui, Surface& surface, const ViewerState& state,
                 const std::string& work_dir);
 
 // Restyling of the selected objects. Each asks its value (colour or font

@@ -135,7 +135,13 @@ int SurfaceView::HitTest(QPointF client) {
 
 void SurfaceView::SetRubberLine(double x, double y) {
   rubber_start_ = QPointF(x, y);
+  rubber_box_ = false;
   viewport()->update();
+}
+
+void SurfaceView::SetRubberBox(double x, double y) {
+  SetRubberLine(x, y);
+  rubber_box_ = true;
 }
 
 void SurfaceView::ClearRubberLine() {
@@ -249,7 +255,13 @@ void SurfaceView::PaintOverlay(QPainter& painter) {
   if (rubber_start_) {
     const ViewTransform t = Transform();
     painter.setPen(QPen(Qt::black, 0, Qt::DashLine));
-    painter.drawLine(t.ToClient(rubber_start_->x(), rubber_start_->y()), pointer_);
+    const QPointF start = t.ToClient(rubber_start_->x(), rubber_start_->y());
+    if (rubber_box_) {
+      painter.setBrush(Qt::NoBrush);
+      painter.drawRect(QRectF(start, pointer_).normalized());
+    } else {
+      painter.drawLine(start, pointer_);
+    }
   }
 }
 

@@ -65,6 +65,8 @@ class SurfaceView : public QAbstractScrollArea {
 
   // The line drawn from a logical point to the pointer while a link is placed.
   void SetRubberLine(double x, double y);
+  // The same as a rectangle from the logical point to the pointer.
+  void SetRubberBox(double x, double y);
   void ClearRubberLine();
   bool HasRubberLine() const { return rubber_start_.has_value(); }
 
@@ -122,6 +124,7 @@ class SurfaceView : public QAbstractScrollArea {
   QPointF press_;
   QPointF pointer_;
   std::optional<QPointF> rubber_start_;  // logical
+  bool rubber_box_ = false;
 };
 
 }  // namespace pluvane
