@@ -28,7 +28,7 @@ struct FixedTool {
   std::string_view target;
 };
 
-constexpr std::array<FixedTool, 18> kFixedTools = {{
+constexpr std::array<FixedTool, 19> kFixedTools = {{
     {"MDDELETE", ToolAction::kArmMode, kModeDelete},
     {"MDMOVE", ToolAction::kArmMode, kModeMove},
     {"MDFUSION", ToolAction::kArmMode, kModeFusion},
@@ -37,6 +37,7 @@ constexpr std::array<FixedTool, 18> kFixedTools = {{
     {"MDEDIT1", ToolAction::kArmMode, kModeEdit1},
     {"MDEDITALL", ToolAction::kArmMode, kModeEditAll},
     {"MYMDBUBLE", ToolAction::kArmMode, kModeBubble},
+    {"MDROTATE", ToolAction::kArmMode, kModeRotate},
     {"ZOOMT", ToolAction::kViewCommand, kModeZoomAll},
     {"ZOOMF", ToolAction::kViewCommand, kModeZoomWindow},
     {"ZOOM11", ToolAction::kViewCommand, kModeZoomBounds},

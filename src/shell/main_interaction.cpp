@@ -1,5 +1,6 @@
 #include "shell/main_interaction.h"
 
+#include <algorithm>
 #include <cmath>
 #include <vector>
 
@@ -31,6 +32,14 @@ constexpr int kArrowStepShift = 100;
 bool IsBinodalKey(std::string_view key) {
   const auto pair = NextCreationPair(key);
   return pair && pair->i_group == kGroupLink;
+}
+
+// Keys of elements that stand on a node only.
+bool IsUninodalKey(std::string_view key) {
+  const auto pair = NextCreationPair(key);
+  if (!pair || (pair->i_group != kGroupPoint && pair->i_group != kGroupRegulator)) return false;
+  const int i_name = INameOfKey(key);
+  return i_name != kINameBV && i_name != kINamePLU && i_name != kINameCalage;
 }
 
 // The user coordinate as the status bar shows it: two decimals at most.
@@ -90,6 +99,7 @@ InteractionResult MainInteraction::ResetInteraction() {
 
 void MainInteraction::ArmMode(std::string_view mode) {
   state_.CurrentMode = std::string(mode);
+  if (mode == kModeRotate) surface_.SetEditMode(kEditRotation);
   const ModeEntry* entry = ModeEntryOf(mode);
   if (entry == nullptr) return;
   if (entry->cursor > 0) {
@@ -187,7 +197,7 @@ InteractionResult MainInteraction::RunViewCommand(const std::string& command) {
 InteractionResult MainInteraction::Press(int button, int shift, int hit, double x, double y) {
   (void)shift;
   InteractionResult result;
-  placement_.HitObject = hit > 0 ? hit : 0;
+  placement_.HitObject = NodeBeneath(hit > 0 ? hit : 0, x, y);
   placement_.PointerX = RoundLong(x);
   placement_.PointerY = RoundLong(y);
   placement_.CancelRelease = false;
@@ -197,6 +207,21 @@ InteractionResult MainInteraction::Press(int button, int shift, int hit, double 
   }
   PressOnMode(button, placement_.HitObject, result);
   return Finish(result);
+}
+
+int MainInteraction::NodeBeneath(int hit, double x, double y) {
+  // An element standing on a node covers it: an element that only goes on a
+  // node, dropped there, goes to the node beneath, which is what the user sees.
+  if (hit == 0 || state_.CurrentMode != kModeCreate || !IsUninodalKey(placement_.CreationKey) ||
+      IsNode(surface_, hit)) {
+    return hit;
+  }
+  CursorKeeper keep(surface_);
+  const int node = NodeUnder(surface_, hit);
+  if (node <= 0 || node == hit) return hit;
+  const Box box = surface_.ObjectShape(node)->box;
+  const bool inside = x >= box.left && x <= box.right && y >= box.top && y <= box.bottom;
+  return inside ? node : hit;
 }
 
 void MainInteraction::PressOnMode(int button, int hit, InteractionResult& result) {

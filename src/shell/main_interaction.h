@@ -62,6 +62,7 @@ class MainInteraction {
   const std::string& BubbleText() const { return bubble_text_; }
 
   // A click on a tool of the bands: the reset, then the key arms its mode.
+  // The pop-up's text rotation arms "MDROTATE" the same way.
   InteractionResult ToolClick(std::string_view key);
   // Arms a creation key from a form (frmCalage's New): "CREATE OBJ" with the
   // key and the point the click will place; an empty key disarms.
@@ -92,6 +93,7 @@ class MainInteraction {
   InteractionResult RunViewCommand(const std::string& command);
   PlacementContext Context();
 
+  int NodeBeneath(int hit, double x, double y);
   void PressOnMode(int button, int hit, InteractionResult& result);
   void ReleaseOnMode(int button, int shift, int drawn_object, InteractionResult& result);
   void RightRelease(InteractionResult& result);

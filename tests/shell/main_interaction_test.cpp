@@ -114,6 +114,14 @@ TEST_F(MainInteractionTest, BandsAndWindowCommands) {
   EXPECT_EQ(state.CurrentMode, "");
 }
 
+TEST_F(MainInteractionTest, TextRotationUsesItsEditMode) {
+  interaction.ToolClick("MDROTATE");
+  EXPECT_EQ(state.CurrentMode, "MDROTATE");
+  EXPECT_EQ(surface.EditMode(), 13);
+  interaction.Key(27, 0);
+  EXPECT_EQ(surface.EditMode(), 11);
+}
+
 // Placing.
 
 TEST_F(MainInteractionTest, NodesArePlacedWhereClicked) {
@@ -182,6 +190,20 @@ TEST_F(MainInteractionTest, AThirdElementOnANodeIsRefused) {
   ExpectLastMessage(ui, "un noeud ne peut supporter qu'un obj au plus", "Pluvane - reseau.mtf",
                     MessageIcon::kExclamation);
   EXPECT_EQ(Count(), before);
+}
+
+TEST_F(MainInteractionTest, AnElementOnANodeLetsTheNextOneThrough) {
+  const int node = Node(5000, 5000);
+  const int injection = Symbol("X_HY", 5000, 5000, node);
+  interaction.ToolClick("X_MARK");
+  Click(injection, 5000, 5000);
+  EXPECT_TRUE(ui.Empty());
+  EXPECT_EQ(CountByName(surface, kINameMark), 1);
+  // A free element still refuses it.
+  const int catchment = Symbol("X_BV", 1000, 1000);
+  Click(catchment, 1000, 1000);
+  ExpectLastMessage(ui, "un obj ne peut pas être déposé sur un autre", "Pluvane - reseau.mtf",
+                    MessageIcon::kExclamation);
 }
 
 TEST_F(MainInteractionTest, ReservoirNeedsTwoCollectorsDownstream) {
@@ -319,6 +341,26 @@ TEST_F(MainInteractionTest, BubbleShowsTheTagsButTheKind) {
   EXPECT_EQ(over.bubble_text.find("iName"), std::string::npos);
   EXPECT_EQ(over.bubble_text.find("iGroup"), std::string::npos);
   EXPECT_FALSE(interaction.Move(100, 100, 0).bubble_visible);
+}
+
+TEST_F(MainInteractionTest, ReachModeTellsTheCollectorAndEndsOnEnter) {
+  const int link = Link("X_CAC", Node(1000, 1000), Node(3000, 1000));
+  mnuOpt_Bief_New(state, interaction.placement(), ui);
+  ASSERT_EQ(state.CurrentMode, "ADDBIEF");
+  Select(link);
+  Click(link, 2000, 1000);
+  EXPECT_EQ(ui.Statuses().back(), TagOf(link, "libell") + " : bief ?");
+  // Del does nothing in this mode.
+  interaction.Key(46, 0);
+  EXPECT_EQ(state.CurrentMode, "ADDBIEF");
+  EXPECT_EQ(Count(), 3);
+  bool shown = false;
+  interaction.SetShowModal([&](FormController&) { shown = true; });
+  Select(link);
+  const InteractionResult ended = interaction.Key(13, 0);
+  EXPECT_TRUE(shown);
+  EXPECT_EQ(state.CurrentMode, "");
+  EXPECT_TRUE(ended.refresh_menus);
 }
 
 // Keys.
