@@ -13,9 +13,8 @@ namespace pluvane {
 namespace {
 
 constexpr std::array<std::string_view, 17> kEditors = {
-    "",       "frmBV",  "frmRout",  "frmHyBv", "frmHy",   "frmCac", "frmCaf",
-    "frmCao", "frmDqq", "frmDqz",   "frmRs",   "frmRsp",  "frmPluXy", "frmTrans",
-    "frmClav", "",      "frmMark"};
+    "",       "frmBV", "frmRout", "frmHyBv",  "frmHy",    "frmCac",  "frmCaf", "frmCao", "frmDqq",
+    "frmDqz", "frmRs", "frmRsp",  "frmPluXy", "frmTrans", "frmClav", "",       "frmMark"};
 
 }  // namespace
 
@@ -42,8 +41,8 @@ std::string EditSelectedElement(Surface& surface, UserInterface& ui) {
       surface.SetCurrentObject(first);
       surface.SetSelected(true);
     }
-    ui.ShowMessage("Il y a " + std::to_string(count) + " doublon(s) pour " + id,
-                   kEditElementTitle, MessageIcon::kExclamation);
+    ui.ShowMessage("Il y a " + std::to_string(count) + " doublon(s) pour " + id, kEditElementTitle,
+                   MessageIcon::kExclamation);
   }
   surface.SetCurrentObject(object);
   const std::string form = EditorOfIName(i_name);

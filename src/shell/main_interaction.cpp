@@ -66,8 +66,8 @@ InteractionResult MainInteraction::Finish(InteractionResult result) const {
   result.cursor = CursorNumber();
   result.bubble_visible = bubble_visible_;
   result.bubble_text = bubble_text_;
-  if (state_.CurrentMode == kModeCreate && placement_.ClickCount == 1 &&
-      placement_.FirstEnd > 0 && IsBinodalKey(placement_.CreationKey) &&
+  if (state_.CurrentMode == kModeCreate && placement_.ClickCount == 1 && placement_.FirstEnd > 0 &&
+      IsBinodalKey(placement_.CreationKey) &&
       surface_.ObjectShape(placement_.FirstEnd) != nullptr) {
     result.rubber_start = ObjectCentre(surface_, placement_.FirstEnd);
   }
@@ -260,8 +260,8 @@ void MainInteraction::PressOnMode(int button, int hit, InteractionResult& result
 
 InteractionResult MainInteraction::Move(double x, double y, int hit) {
   const Calibration& c = state_.calibration;
-  ui_.ShowPanel("sbrXY", Coordinate(LogicToUserX(c, x, y)) + ", " +
-                             Coordinate(LogicToUserY(c, x, y)));
+  ui_.ShowPanel("sbrXY",
+                Coordinate(LogicToUserX(c, x, y)) + ", " + Coordinate(LogicToUserY(c, x, y)));
   if (state_.CurrentMode == kModeBreak) {
     OnBreakHover(x, y, hit);
   } else if (state_.CurrentMode == kModeBubble) {
@@ -365,8 +365,8 @@ InteractionResult MainInteraction::ZoomRectangle(double left, double top, double
                                                  double bottom) {
   InteractionResult result;
   if (state_.CurrentMode != kModeZoomWindow) return Finish(result);
-  ZoomToRect(surface_, state_, std::min(left, right), std::min(top, bottom),
-             std::max(left, right), std::max(top, bottom));
+  ZoomToRect(surface_, state_, std::min(left, right), std::min(top, bottom), std::max(left, right),
+             std::max(top, bottom));
   Reset();
   result.repaint = true;
   return Finish(result);

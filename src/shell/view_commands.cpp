@@ -95,8 +95,7 @@ void ToggleGrid(Surface& surface, const AppState& state, UserInterface& ui) {
     ui.ShowStatus("Grillage déactivé");
     return;
   }
-  const double step =
-      state.ZoomFactor < 0.001 ? kGridPixels : kGridPixels / state.ZoomFactor;
+  const double step = state.ZoomFactor < 0.001 ? kGridPixels : kGridPixels / state.ZoomFactor;
   surface.SetGridStepX(RoundLong(step));
   surface.SetGridStepY(RoundLong(step));
   surface.SetGridOn(1);

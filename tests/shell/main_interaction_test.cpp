@@ -144,8 +144,7 @@ TEST_F(MainInteractionTest, ANodeOnAnObjectIsRefusedSilently) {
 }
 
 TEST_F(MainInteractionTest, AChainOfThreeCollectors) {
-  const int a = Node(1000, 1000), b = Node(3000, 1000), c = Node(5000, 1000),
-            d = Node(7000, 1000);
+  const int a = Node(1000, 1000), b = Node(3000, 1000), c = Node(5000, 1000), d = Node(7000, 1000);
   interaction.ToolClick("X_CAC");
   InteractionResult result = Click(a, 1000, 1000);
   ASSERT_TRUE(result.rubber_start.has_value());

@@ -11,10 +11,10 @@ TEST(MainKeys, LettersAnswerOnBothCodesWithCtrl) {
   const struct {
     int upper, lower;
     MainKey key;
-  } pairs[] = {{67, 99, MainKey::kCopy},       {86, 118, MainKey::kPaste},
-               {90, 122, MainKey::kUndo},      {89, 121, MainKey::kRedo},
-               {65, 97, MainKey::kSelectAll},  {71, 103, MainKey::kGroup},
-               {85, 117, MainKey::kUngroup},   {68, 100, MainKey::kLocateId},
+  } pairs[] = {{67, 99, MainKey::kCopy},        {86, 118, MainKey::kPaste},
+               {90, 122, MainKey::kUndo},       {89, 121, MainKey::kRedo},
+               {65, 97, MainKey::kSelectAll},   {71, 103, MainKey::kGroup},
+               {85, 117, MainKey::kUngroup},    {68, 100, MainKey::kLocateId},
                {70, 102, MainKey::kLocateLabel}};
   for (const auto& pair : pairs) {
     EXPECT_EQ(MainKeyOf(pair.upper, kCtrl), pair.key) << pair.upper;

@@ -50,8 +50,8 @@ class InteractionBinderTest : public ::testing::Test {
     view_ = std::make_unique<SurfaceView>(surface_);
     view_->resize(800, 600);
     view_->show();
-    binder_ = std::make_unique<InteractionBinder>(
-        *view_, interaction_, [this](int) { return cursor_file_; });
+    binder_ = std::make_unique<InteractionBinder>(*view_, interaction_,
+                                                  [this](int) { return cursor_file_; });
   }
 
   QPoint At(double x, double y) const {
@@ -70,9 +70,7 @@ class InteractionBinderTest : public ::testing::Test {
     QTest::mouseClick(view_->viewport(), Qt::LeftButton, Qt::NoModifier, At(x, y));
   }
   void Press(int key) { QTest::keyClick(view_.get(), static_cast<Qt::Key>(key)); }
-  int NodeAt(double x, double y) {
-    return DrawSymbol(surface_, state_, ui_, x, y, "X_NOD", 0);
-  }
+  int NodeAt(double x, double y) { return DrawSymbol(surface_, state_, ui_, x, y, "X_NOD", 0); }
   int Count() { return surface_.ObjectCount(kPage); }
 
   TempFolder folder_;
