@@ -1,0 +1,21 @@
+// Finding an element on the drawing by its Id or its label, at the user's
+// request (the keys Ctrl+D and Ctrl+F, the Util menu): the elements found are
+// listed, selected, and the view zooms on the first.
+#pragma once
+
+#include <string_view>
+
+#include "foundation/user_interface.h"
+#include "network/surface.h"
+#include "shell/app_state.h"
+
+namespace pluvane {
+
+inline constexpr const char* kLocateTitle = "Localisation d'élément";
+
+// Asks the designation, finds every object whose tag `tag_name` ("Id" or
+// "libell") equals it without regard to case, tells what was found, selects it
+// and zooms around the first. Returns how many were found.
+int LocateElement(Surface& surface, AppState& state, UserInterface& ui, std::string_view tag_name);
+
+}  // namespace pluvane
