@@ -1,11 +1,13 @@
-// Paints a drawing of 100 000 objects (symbols on a grid, each linked to its
-// right neighbour, a few texts) into a 1600 x 1000 image: the whole view,
-// then a zoomed view of about a hundredth of it, each several times.
+// Paints a drawing of 50 000 objects, or of the count given as argument
+// (symbols on a grid, each linked to its right neighbour) into a 1600 x 1000
+// image: the whole view, then a zoomed view of about a hundredth of it, each
+// several times.
 #include <QGuiApplication>
 #include <QImage>
 #include <QPainter>
 #include <chrono>
 #include <cstdio>
+#include <cmath>
 #include <cstdlib>
 
 #include "network/surface.h"
@@ -26,20 +28,21 @@ int main(int argc, char** argv) {
   QGuiApplication app(argc, argv);
   pluvane::Surface surface;
   const std::string symbol = std::string(PLUVANE_BENCH_DATA) + "/Symboles/NOD.svg";
-  constexpr int kSide = 224;  // 224 x 224 symbols and as many links, ~100 000 objects
+  const int count = argc > 1 ? std::max(2, std::atoi(argv[1])) : 50000;
+  // A square of symbols, each but the first of a row linked to its left one.
+  const int kSide = static_cast<int>(std::ceil(std::sqrt(count / 2.0)));
   auto start = Clock::now();
   surface.SetRedraw(false);
   surface.BeginStep("bench");
-  std::vector<int> previous(kSide, 0);
-  int objects = 0;
+    int objects = 0;
   for (int row = 0; row < kSide; ++row) {
     int left_neighbour = 0;
-    for (int col = 0; col < kSide && objects < 100000; ++col) {
+    for (int col = 0; col < kSide && objects < count; ++col) {
       const int x = 400 * col, y = 400 * row;
       const int n = surface.AddObject(12, x, y, x + 100, y + 100);
       surface.SetObjectPicture(symbol);
       ++objects;
-      if (left_neighbour && objects < 100000) {
+      if (left_neighbour && objects < count) {
         surface.AddLink(left_neighbour, n);
         surface.SetLineColor(0xFF0000);
         surface.SetLineWidth(-20);

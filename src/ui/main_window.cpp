@@ -49,6 +49,7 @@ MainWindow::MainWindow() : ui_(this) {
   ui_.panel_sink = [this](const std::string& panel, const std::string& text) {
     if (panel == "caption") {
       setWindowTitle(QString::fromStdString(text));
+      if (interaction_) interaction_->SetCaption(text);
     } else {
       panels_->SetPanel(panel, text);
     }
@@ -79,6 +80,7 @@ MainWindow::MainWindow() : ui_(this) {
   };
   printer_.setPageOrientation(QPageLayout::Landscape);
   BindCommands();
+  ConnectInteraction();
   BuildMenus();
   resize(1200, 800);
 }

@@ -3,7 +3,8 @@
 // the drawing in its SurfaceView, builds its menus and tool bands from the
 // program's tables, keeps the menus' enabled state, and runs the commands of
 // the menus by name. Tool clicks all pass through ToolClicked; those that arm
-// an interaction mode are handed on through ToolRequested.
+// an interaction mode are handed on through ToolRequested to the interaction
+// modes, bound to the view.
 #pragma once
 
 #include <QMainWindow>
@@ -14,14 +15,18 @@
 #include <memory>
 #include <string>
 
+#include "editors/frm_calage.h"
 #include "foundation/form_controller.h"
 #include "network/surface.h"
 #include "shell/application.h"
+#include "plot/plot_viewer.h"
 #include "shell/console_model.h"
+#include "shell/main_interaction.h"
 #include "shell/menu_state.h"
 #include "ui/about_window.h"
 #include "ui/console_window.h"
 #include "ui/drawing_picture.h"
+#include "ui/interaction_binder.h"
 #include "ui/main_tool_bars.h"
 #include "ui/qt_user_interface.h"
 #include "ui/status_panels.h"
@@ -56,6 +61,9 @@ class MainWindow : public QMainWindow {
   // The menu of a menu item that opens one (nullptr when none).
   QMenu* Menu(const std::string& name) const;
   QtUserInterface& user_interface() { return ui_; }
+  // The interaction modes of the drawing, and their binding to the view.
+  MainInteraction& interaction() { return *interaction_; }
+  InteractionBinder& binder() { return *binder_; }
 
   // A click on a tool of the bands. MDSAVE saves here; every other key is
   // handed on through ToolRequested to the interaction modes.
@@ -92,6 +100,14 @@ class MainWindow : public QMainWindow {
   void RunScenarioCommand(bool with_sidrel);
   void RecapData();
   PictureFolders Folders() const;
+  // The interaction modes: built with the window, their requests answered
+  // by the window (main_window_modes.cpp).
+  void ConnectInteraction();
+  void OpenNamedForm(const std::string& form, int object);
+  void OpenCalage();
+  void RunWindowCommand(const std::string& key);
+  void ShowPopup(const std::string& popup);
+  void OpenVistrel();
 
   Surface surface_;
   QtUserInterface ui_;
@@ -107,6 +123,10 @@ class MainWindow : public QMainWindow {
   std::unique_ptr<ConsoleWindow> log_window_;
   QPrinter printer_;
   bool menus_pending_ = false;
+  std::unique_ptr<MainInteraction> interaction_;
+  InteractionBinder* binder_ = nullptr;
+  std::unique_ptr<FrmCalage> calage_;
+  ViewerState viewer_state_;
 };
 
 }  // namespace pluvane
