@@ -23,8 +23,8 @@ void ScriptedUi::Clear() {
   panels_.clear();
 }
 
-void ScriptedUi::Record(const std::string& kind, const std::string& text,
-                        const std::string& title, MessageIcon icon) {
+void ScriptedUi::Record(const std::string& kind, const std::string& text, const std::string& title,
+                        MessageIcon icon) {
   messages_.push_back({kind, text, title, icon});
   if (echo) echo(title + ": " + text);
 }
@@ -36,8 +36,7 @@ std::optional<std::string> ScriptedUi::Next() {
   return a;
 }
 
-void ScriptedUi::ShowMessage(const std::string& text, const std::string& title,
-                             MessageIcon icon) {
+void ScriptedUi::ShowMessage(const std::string& text, const std::string& title, MessageIcon icon) {
   Record("message", text, title, icon);
 }
 
@@ -56,8 +55,7 @@ Answer ScriptedUi::AskYesNoCancel(const std::string& text, const std::string& ti
   return *a == "no" ? Answer::kNo : Answer::kCancel;
 }
 
-std::optional<std::string> ScriptedUi::AskText(const std::string& prompt,
-                                               const std::string& title,
+std::optional<std::string> ScriptedUi::AskText(const std::string& prompt, const std::string& title,
                                                const std::string& default_text) {
   Record("text", prompt, title, MessageIcon::kNone);
   auto a = Next();
@@ -119,6 +117,23 @@ std::string ScriptedUi::Panel(const std::string& panel) const {
 bool ScriptedUi::SaveDrawingPicture(const std::string& path) {
   saved_pictures_.push_back(path);
   return picture_succeeds;
+}
+
+void ScriptedUi::PutClipboardData(const std::string& type, const std::string& data) {
+  clipboard = {{type, data}};
+}
+
+std::string ScriptedUi::ClipboardData(const std::string& type) {
+  for (const auto& [held_type, data] : clipboard) {
+    if (held_type == type) return data;
+  }
+  return "";
+}
+
+bool ScriptedUi::CopyDrawingPicture() {
+  if (!clipboard_picture_succeeds) return false;
+  clipboard = {{kPictureType, "picture"}};
+  return true;
 }
 
 std::string ScriptedUi::PrintLines(const std::vector<std::string>& lines, double) {

@@ -31,8 +31,7 @@ class UserInterface {
   virtual ~UserInterface() = default;
 
   // A modal message with only an OK button.
-  virtual void ShowMessage(const std::string& text, const std::string& title,
-                           MessageIcon icon) = 0;
+  virtual void ShowMessage(const std::string& text, const std::string& title, MessageIcon icon) = 0;
   // A yes/no box; `default_yes` false makes No the default button.
   virtual bool AskYesNo(const std::string& text, const std::string& title,
                         MessageIcon icon = MessageIcon::kQuestion, bool default_yes = true) = 0;
@@ -49,8 +48,7 @@ class UserInterface {
   virtual std::string AskSaveFile(const std::string& title, const std::string& filter,
                                   const std::string& default_ext,
                                   const std::string& initial_name) = 0;
-  virtual std::string BrowseFolder(const std::string& initial_folder,
-                                   const std::string& title) = 0;
+  virtual std::string BrowseFolder(const std::string& initial_folder, const std::string& title) = 0;
   // Colours are 24-bit with blue in the high byte (red + 256 green + 65536 blue).
   virtual std::optional<std::int32_t> ChooseColour(std::int32_t initial) = 0;
   virtual std::optional<FontChoice> ChooseFont(const FontChoice& initial) = 0;
@@ -74,6 +72,16 @@ class UserInterface {
   // the print dialog. Returns an empty text on success, else the description of
   // what went wrong (the dialog cancelled included).
   virtual std::string PrintLines(const std::vector<std::string>& lines, double point_size) = 0;
+
+  // The system clipboard. PutClipboardData replaces its content by data of one
+  // type (a MIME type); ClipboardData gives the data of a type, empty when the
+  // clipboard holds none; ClipboardEmpty is true when it holds nothing at all.
+  // CopyDrawingPicture puts a picture of the whole drawing on it, false when
+  // none could be made. Without a clipboard nothing is kept.
+  virtual void PutClipboardData(const std::string& /*type*/, const std::string& /*data*/) {}
+  virtual std::string ClipboardData(const std::string& /*type*/) { return ""; }
+  virtual bool ClipboardEmpty() { return true; }
+  virtual bool CopyDrawingPicture() { return false; }
 
   // Lets pending events run during a long treatment (repaint, cancel button).
   virtual void PumpEvents() {}

@@ -35,10 +35,16 @@ MainWindow::MainWindow() : ui_(this) {
   ui_.panel_sink = [this](const std::string& panel, const std::string& text) {
     if (panel == "caption") setWindowTitle(QString::fromStdString(text));
   };
-  ui_.picture_writer = [this](const std::string& path) {
+  // Pictures find their files beside the network, then among the symbols.
+  auto folders = [this] {
     const AppState& state = application_->state();
-    return SaveDrawingPicture(surface_, path, kDefaultPictureWidth,
-                              PictureFolders{DirOf(state.NetworkFile), state.SymbolDir});
+    return PictureFolders{DirOf(state.NetworkFile), state.SymbolDir};
+  };
+  ui_.picture_writer = [this, folders](const std::string& path) {
+    return SaveDrawingPicture(surface_, path, kDefaultPictureWidth, folders());
+  };
+  ui_.drawing_renderer = [this, folders] {
+    return RenderDrawing(surface_, kDefaultPictureWidth, folders());
   };
   surface_.SetChangeListener([this] { RefreshSummary(); });
   BindCommands();

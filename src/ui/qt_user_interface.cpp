@@ -1,13 +1,16 @@
 #include "ui/qt_user_interface.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QColorDialog>
 #include <QDesktopServices>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QFontDialog>
+#include <QGuiApplication>
 #include <QInputDialog>
 #include <QMessageBox>
+#include <QMimeData>
 #include <QPainter>
 #include <QPrintDialog>
 #include <QPrinter>
@@ -22,11 +25,16 @@ QString Q(const std::string& s) { return QString::fromStdString(s); }
 
 QMessageBox::Icon QtIcon(MessageIcon icon) {
   switch (icon) {
-    case MessageIcon::kCritical: return QMessageBox::Critical;
-    case MessageIcon::kQuestion: return QMessageBox::Question;
-    case MessageIcon::kExclamation: return QMessageBox::Warning;
-    case MessageIcon::kInformation: return QMessageBox::Information;
-    case MessageIcon::kNone: break;
+    case MessageIcon::kCritical:
+      return QMessageBox::Critical;
+    case MessageIcon::kQuestion:
+      return QMessageBox::Question;
+    case MessageIcon::kExclamation:
+      return QMessageBox::Warning;
+    case MessageIcon::kInformation:
+      return QMessageBox::Information;
+    case MessageIcon::kNone:
+      break;
   }
   return QMessageBox::NoIcon;
 }
@@ -57,8 +65,8 @@ void QtUserInterface::ShowMessage(const std::string& text, const std::string& ti
   box.exec();
 }
 
-bool QtUserInterface::AskYesNo(const std::string& text, const std::string& title,
-                               MessageIcon icon, bool default_yes) {
+bool QtUserInterface::AskYesNo(const std::string& text, const std::string& title, MessageIcon icon,
+                               bool default_yes) {
   QMessageBox box(QtIcon(icon), Q(title), Q(text), QMessageBox::NoButton, owner_);
   QPushButton* yes = box.addButton("&Oui", QMessageBox::YesRole);
   QPushButton* no = box.addButton("&Non", QMessageBox::NoRole);
@@ -86,8 +94,8 @@ std::optional<std::string> QtUserInterface::AskText(const std::string& prompt,
                                                     const std::string& title,
                                                     const std::string& default_text) {
   bool ok = false;
-  QString text = QInputDialog::getText(owner_, Q(title), Q(prompt), QLineEdit::Normal,
-                                       Q(default_text), &ok);
+  QString text =
+      QInputDialog::getText(owner_, Q(title), Q(prompt), QLineEdit::Normal, Q(default_text), &ok);
   if (!ok) return std::nullopt;
   return text.toStdString();
 }
@@ -154,13 +162,37 @@ bool QtUserInterface::SaveDrawingPicture(const std::string& path) {
   return picture_writer && picture_writer(path);
 }
 
+void QtUserInterface::PutClipboardData(const std::string& type, const std::string& data) {
+  auto* mime = new QMimeData;
+  mime->setData(Q(type), QByteArray(data.data(), static_cast<qsizetype>(data.size())));
+  QGuiApplication::clipboard()->setMimeData(mime);
+}
+
+std::string QtUserInterface::ClipboardData(const std::string& type) {
+  const QMimeData* mime = QGuiApplication::clipboard()->mimeData();
+  if (mime == nullptr) return "";
+  return mime->data(Q(type)).toStdString();
+}
+
+bool QtUserInterface::ClipboardEmpty() {
+  const QMimeData* mime = QGuiApplication::clipboard()->mimeData();
+  return mime == nullptr || mime->formats().isEmpty();
+}
+
+bool QtUserInterface::CopyDrawingPicture() {
+  if (!drawing_renderer) return false;
+  const QImage image = drawing_renderer();
+  if (image.isNull()) return false;
+  QGuiApplication::clipboard()->setImage(image);
+  return true;
+}
+
 bool QtUserInterface::EditFile(const std::string& path) {
   if (!QFileInfo::exists(Q(path))) return false;
   return QDesktopServices::openUrl(QUrl::fromLocalFile(Q(path)));
 }
 
-std::string QtUserInterface::PrintLines(const std::vector<std::string>& lines,
-                                        double point_size) {
+std::string QtUserInterface::PrintLines(const std::vector<std::string>& lines, double point_size) {
   QPrinter printer;
   QPrintDialog dialog(&printer, owner_);
   if (dialog.exec() != QDialog::Accepted) return "Impression annulée";
