@@ -23,8 +23,8 @@ void ScriptedUi::Clear() {
   panels_.clear();
 }
 
-void ScriptedUi::Record(const std::string& kind, const std::string& text, const std::string& title,
-                        MessageIcon icon) {
+void ScriptedUi::Record(const std::string& kind, const std::string& text,
+                        const std::string& title, MessageIcon icon) {
   messages_.push_back({kind, text, title, icon});
   if (echo) echo(title + ": " + text);
 }
@@ -36,7 +36,8 @@ std::optional<std::string> ScriptedUi::Next() {
   return a;
 }
 
-void ScriptedUi::ShowMessage(const std::string& text, const std::string& title, MessageIcon icon) {
+void ScriptedUi::ShowMessage(const std::string& text, const std::string& title,
+                             MessageIcon icon) {
   Record("message", text, title, icon);
 }
 
@@ -55,7 +56,8 @@ Answer ScriptedUi::AskYesNoCancel(const std::string& text, const std::string& ti
   return *a == "no" ? Answer::kNo : Answer::kCancel;
 }
 
-std::optional<std::string> ScriptedUi::AskText(const std::string& prompt, const std::string& title,
+std::optional<std::string> ScriptedUi::AskText(const std::string& prompt,
+                                               const std::string& title,
                                                const std::string& default_text) {
   Record("text", prompt, title, MessageIcon::kNone);
   auto a = Next();

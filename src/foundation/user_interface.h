@@ -31,7 +31,8 @@ class UserInterface {
   virtual ~UserInterface() = default;
 
   // A modal message with only an OK button.
-  virtual void ShowMessage(const std::string& text, const std::string& title, MessageIcon icon) = 0;
+  virtual void ShowMessage(const std::string& text, const std::string& title,
+                           MessageIcon icon) = 0;
   // A yes/no box; `default_yes` false makes No the default button.
   virtual bool AskYesNo(const std::string& text, const std::string& title,
                         MessageIcon icon = MessageIcon::kQuestion, bool default_yes = true) = 0;
@@ -48,7 +49,8 @@ class UserInterface {
   virtual std::string AskSaveFile(const std::string& title, const std::string& filter,
                                   const std::string& default_ext,
                                   const std::string& initial_name) = 0;
-  virtual std::string BrowseFolder(const std::string& initial_folder, const std::string& title) = 0;
+  virtual std::string BrowseFolder(const std::string& initial_folder,
+                                   const std::string& title) = 0;
   // Colours are 24-bit with blue in the high byte (red + 256 green + 65536 blue).
   virtual std::optional<std::int32_t> ChooseColour(std::int32_t initial) = 0;
   virtual std::optional<FontChoice> ChooseFont(const FontChoice& initial) = 0;

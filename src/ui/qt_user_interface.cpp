@@ -25,16 +25,11 @@ QString Q(const std::string& s) { return QString::fromStdString(s); }
 
 QMessageBox::Icon QtIcon(MessageIcon icon) {
   switch (icon) {
-    case MessageIcon::kCritical:
-      return QMessageBox::Critical;
-    case MessageIcon::kQuestion:
-      return QMessageBox::Question;
-    case MessageIcon::kExclamation:
-      return QMessageBox::Warning;
-    case MessageIcon::kInformation:
-      return QMessageBox::Information;
-    case MessageIcon::kNone:
-      break;
+    case MessageIcon::kCritical: return QMessageBox::Critical;
+    case MessageIcon::kQuestion: return QMessageBox::Question;
+    case MessageIcon::kExclamation: return QMessageBox::Warning;
+    case MessageIcon::kInformation: return QMessageBox::Information;
+    case MessageIcon::kNone: break;
   }
   return QMessageBox::NoIcon;
 }
@@ -65,8 +60,8 @@ void QtUserInterface::ShowMessage(const std::string& text, const std::string& ti
   box.exec();
 }
 
-bool QtUserInterface::AskYesNo(const std::string& text, const std::string& title, MessageIcon icon,
-                               bool default_yes) {
+bool QtUserInterface::AskYesNo(const std::string& text, const std::string& title,
+                               MessageIcon icon, bool default_yes) {
   QMessageBox box(QtIcon(icon), Q(title), Q(text), QMessageBox::NoButton, owner_);
   QPushButton* yes = box.addButton("&Oui", QMessageBox::YesRole);
   QPushButton* no = box.addButton("&Non", QMessageBox::NoRole);
@@ -94,8 +89,8 @@ std::optional<std::string> QtUserInterface::AskText(const std::string& prompt,
                                                     const std::string& title,
                                                     const std::string& default_text) {
   bool ok = false;
-  QString text =
-      QInputDialog::getText(owner_, Q(title), Q(prompt), QLineEdit::Normal, Q(default_text), &ok);
+  QString text = QInputDialog::getText(owner_, Q(title), Q(prompt), QLineEdit::Normal,
+                                       Q(default_text), &ok);
   if (!ok) return std::nullopt;
   return text.toStdString();
 }
@@ -192,7 +187,8 @@ bool QtUserInterface::EditFile(const std::string& path) {
   return QDesktopServices::openUrl(QUrl::fromLocalFile(Q(path)));
 }
 
-std::string QtUserInterface::PrintLines(const std::vector<std::string>& lines, double point_size) {
+std::string QtUserInterface::PrintLines(const std::vector<std::string>& lines,
+                                        double point_size) {
   QPrinter printer;
   QPrintDialog dialog(&printer, owner_);
   if (dialog.exec() != QDialog::Accepted) return "Impression annulée";

@@ -32,9 +32,11 @@ class QtUserInterface : public UserInterface {
   std::optional<std::string> AskText(const std::string& prompt, const std::string& title,
                                      const std::string& default_text) override;
   std::string AskOpenFile(const std::string& title, const std::string& filter,
-                          const std::string& default_ext, const std::string& initial_name) override;
+                          const std::string& default_ext,
+                          const std::string& initial_name) override;
   std::string AskSaveFile(const std::string& title, const std::string& filter,
-                          const std::string& default_ext, const std::string& initial_name) override;
+                          const std::string& default_ext,
+                          const std::string& initial_name) override;
   std::string BrowseFolder(const std::string& initial_folder, const std::string& title) override;
   std::optional<std::int32_t> ChooseColour(std::int32_t initial) override;
   std::optional<FontChoice> ChooseFont(const FontChoice& initial) override;
