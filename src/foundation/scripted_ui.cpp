@@ -121,6 +121,23 @@ bool ScriptedUi::SaveDrawingPicture(const std::string& path) {
   return picture_succeeds;
 }
 
+void ScriptedUi::PutClipboardData(const std::string& type, const std::string& data) {
+  clipboard = {{type, data}};
+}
+
+std::string ScriptedUi::ClipboardData(const std::string& type) {
+  for (const auto& [held_type, data] : clipboard) {
+    if (held_type == type) return data;
+  }
+  return "";
+}
+
+bool ScriptedUi::CopyDrawingPicture() {
+  if (!clipboard_picture_succeeds) return false;
+  clipboard = {{kPictureType, "picture"}};
+  return true;
+}
+
 std::string ScriptedUi::PrintLines(const std::vector<std::string>& lines, double) {
   if (print_error.empty()) printed.push_back(lines);
   return print_error;

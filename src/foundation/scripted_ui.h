@@ -6,6 +6,7 @@
 #include <deque>
 #include <functional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "foundation/user_interface.h"
@@ -47,6 +48,12 @@ class ScriptedUi : public UserInterface {
   std::function<void(const std::string&)> echo;
   // What SaveDrawingPicture answers.
   bool picture_succeeds = true;
+  // What CopyDrawingPicture answers; a picture copied sits on the clipboard
+  // under the type kPictureType.
+  bool clipboard_picture_succeeds = true;
+  static constexpr const char* kPictureType = "image/png";
+  // The in-memory clipboard: (type, data) pairs, tests may fill it directly.
+  std::vector<std::pair<std::string, std::string>> clipboard;
   // What EditFile answers.
   bool edit_file_succeeds = true;
   // What PrintLines answers (empty: printed), and what it was given.
@@ -75,6 +82,10 @@ class ScriptedUi : public UserInterface {
   bool SaveDrawingPicture(const std::string& path) override;
   bool EditFile(const std::string& path) override;
   std::string PrintLines(const std::vector<std::string>& lines, double point_size) override;
+  void PutClipboardData(const std::string& type, const std::string& data) override;
+  std::string ClipboardData(const std::string& type) override;
+  bool ClipboardEmpty() override { return clipboard.empty(); }
+  bool CopyDrawingPicture() override;
   void PumpEvents() override { ++pumps_; }
 
  private:

@@ -75,6 +75,16 @@ class UserInterface {
   // what went wrong (the dialog cancelled included).
   virtual std::string PrintLines(const std::vector<std::string>& lines, double point_size) = 0;
 
+  // The system clipboard. PutClipboardData replaces its content by data of one
+  // type (a MIME type); ClipboardData gives the data of a type, empty when the
+  // clipboard holds none; ClipboardEmpty is true when it holds nothing at all.
+  // CopyDrawingPicture puts a picture of the whole drawing on it, false when
+  // none could be made. Without a clipboard nothing is kept.
+  virtual void PutClipboardData(const std::string& /*type*/, const std::string& /*data*/) {}
+  virtual std::string ClipboardData(const std::string& /*type*/) { return ""; }
+  virtual bool ClipboardEmpty() { return true; }
+  virtual bool CopyDrawingPicture() { return false; }
+
   // Lets pending events run during a long treatment (repaint, cancel button).
   virtual void PumpEvents() {}
   virtual void Beep() {}

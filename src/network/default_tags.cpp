@@ -31,7 +31,7 @@ class TagWriter {
     s_.SetEditMode(11);
     Head(type);
     Body(type);
-    return MakeIdUnique(i_name);
+    return MakeIdUnique(s_, state_, i_name, n_);
   }
 
  private:
@@ -232,20 +232,6 @@ class TagWriter {
     }
   }
 
-  // An Id that a loaded file already uses takes the next number of its kind.
-  std::string MakeIdUnique(int i_name) {
-    std::string id = s_.ObjTag("Id");
-    while (CountByTag(s_, "Id", id) >= 2) {
-      ++n_;
-      if (i_name >= 1 && i_name < kINameReach) state_.ElementCounters[i_name] = n_;
-      const std::size_t underscore = id.find('_');
-      id = underscore == std::string::npos ? "Obj_" + std::to_string(n_)
-                                           : id.substr(0, underscore + 1) + std::to_string(n_);
-      Text("Id", id);
-    }
-    return id;
-  }
-
   Surface& s_;
   AppState& state_;
   const CreationPlace& place_;
@@ -254,6 +240,19 @@ class TagWriter {
 };
 
 }  // namespace
+
+std::string MakeIdUnique(Surface& surface, AppState& state, int i_name, std::int32_t& counter) {
+  std::string id = surface.ObjTag("Id");
+  while (CountByTag(surface, "Id", id) >= 2) {
+    ++counter;
+    if (i_name >= 1 && i_name < kINameReach) state.ElementCounters[i_name] = counter;
+    const std::size_t underscore = id.find('_');
+    id = underscore == std::string::npos ? "Obj_" + std::to_string(counter)
+                                         : id.substr(0, underscore + 1) + std::to_string(counter);
+    surface.SetObjTag("Id", id);
+  }
+  return id;
+}
 
 std::string CreateDefaultTags(Surface& surface, AppState& state, std::string_view key,
                               bool no_count, const CreationPlace& place) {

@@ -5,6 +5,7 @@
 // type number, which differs in a few listed ways.
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -28,6 +29,13 @@ struct CreationPlace {
 // the Id written, empty when nothing was written.
 std::string CreateDefaultTags(Surface& surface, AppState& state, std::string_view key,
                               bool no_count, const CreationPlace& place = {});
+
+// Makes the Id of the current object unique over the drawing: while another
+// object has it, the counter moves on and the Id becomes its part up to the
+// underscore followed by the counter ("Obj_" and the counter when it has no
+// underscore). The type's counter in `state.ElementCounters` follows. Returns
+// the Id kept.
+std::string MakeIdUnique(Surface& surface, AppState& state, int i_name, std::int32_t& counter);
 
 // The import twin, by type number: catchments of both kinds take the "Bv_"
 // prefix first, then "Bvs_"; dry-weather flows of BVS and HYBV are 0.1;

@@ -13,8 +13,6 @@ namespace pluvane {
 
 namespace {
 
-constexpr std::array<int, 3> kMarkerPositions{0, 1, 4};
-
 struct LinkCopy {
   int line_style = 0;
   std::int32_t line_color = 0;
@@ -29,12 +27,7 @@ LinkCopy Save(const Surface& surface) {
   copy.line_style = surface.LineStyle();
   copy.line_color = surface.LineColor();
   copy.line_width = surface.LineWidth();
-  for (std::size_t i = 0; i < kMarkerPositions.size(); ++i) {
-    const int p = kMarkerPositions[i];
-    copy.markers[i] =
-        Marker{surface.LinkEndMarker(p), surface.LinkMarkerWidth(p), surface.LinkMarkerHeight(p),
-               surface.LinkMarkerColor(p), surface.LinkMarkerFill(p)};
-  }
+  copy.markers = ReadLinkMarkers(surface);
   copy.points = surface.ObjectPoints();
   for (int i = 0; i < surface.ObjTagCount(); ++i) {
     copy.tags.emplace_back(surface.ObjTagName(i), surface.ObjTagValue(i));
@@ -58,16 +51,8 @@ void Restore(Surface& surface, const LinkCopy& copy) {
     surface.SetObjTagName(static_cast<int>(i), name);
     surface.SetObjTagValue(static_cast<int>(i), value);
   }
-  for (std::size_t i = 0; i < kMarkerPositions.size(); ++i) {
-    // Markers stay by position, so an arrow at the downstream end shows the new way.
-    const int p = kMarkerPositions[i];
-    const Marker& m = copy.markers[i];
-    surface.SetLinkEndMarker(p, m.shape);
-    surface.SetLinkMarkerWidth(p, m.width);
-    surface.SetLinkMarkerHeight(p, m.height);
-    surface.SetLinkMarkerColor(p, m.color);
-    surface.SetLinkMarkerFill(p, m.fill);
-  }
+  // Markers stay by position, so an arrow at the downstream end shows the new way.
+  WriteLinkMarkers(surface, copy.markers);
   if (copy.points.size() > 2) {
     surface.SetObjectPoints(std::vector<Point>(copy.points.rbegin(), copy.points.rend()));
   }

@@ -136,6 +136,18 @@ bool RemoveFromReach(Surface& surface, const std::string& reach_id,
   return false;
 }
 
+bool AppendToReach(Surface& surface, const std::string& reach_id, const ReachCollector& collector) {
+  CursorKeeper keeper(surface);
+  const int reach = FindReach(surface, reach_id);
+  if (reach < 1) return false;
+  surface.SetCurrentObject(reach);
+  const int rank = ValInt(surface.ObjTag("NbColl")) + 1;
+  surface.SetObjTag("NbColl", rank);
+  surface.SetObjTag(Rank("IdColl", rank), collector.id);
+  surface.SetObjTag(Rank("InameColl", rank), collector.i_name);
+  return true;
+}
+
 void DeleteReach(Surface& surface, int reach) {
   CursorKeeper keeper(surface);
   for (const ReachCollector& collector : ReachCollectors(surface, reach)) {

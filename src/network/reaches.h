@@ -64,6 +64,11 @@ int AddReachRecord(Surface& surface, AppState& state, const std::vector<int>& co
 bool RemoveFromReach(Surface& surface, const std::string& reach_id,
                      const std::string& collector_id);
 
+// Adds a collector after the last counted rank of a reach, whatever its place
+// in the chain (a blanked rank left outside the count is written over). False
+// when the reach is not found. The cursor is kept.
+bool AppendToReach(Surface& surface, const std::string& reach_id, const ReachCollector& collector);
+
 // Deletes a reach record after giving back iBief 0 to its collectors.
 void DeleteReach(Surface& surface, int reach);
 

@@ -165,4 +165,34 @@ double NodeHalfSize(Surface& surface, double symbol_size) {
   return half >= 1 ? half : symbol_size;
 }
 
+std::string TagOfObject(Surface& surface, int number, std::string_view name) {
+  CursorKeeper keeper(surface);
+  surface.SetCurrentObject(number);
+  if (number < kFirstObjectNumber || surface.CurrentObject() != number) return "";
+  return surface.ObjTag(name);
+}
+
+std::array<Marker, 3> ReadLinkMarkers(const Surface& surface) {
+  std::array<Marker, 3> markers;
+  for (std::size_t i = 0; i < kLinkMarkerPositions.size(); ++i) {
+    const int p = kLinkMarkerPositions[i];
+    markers[i] =
+        Marker{surface.LinkEndMarker(p), surface.LinkMarkerWidth(p), surface.LinkMarkerHeight(p),
+               surface.LinkMarkerColor(p), surface.LinkMarkerFill(p)};
+  }
+  return markers;
+}
+
+void WriteLinkMarkers(Surface& surface, const std::array<Marker, 3>& markers) {
+  for (std::size_t i = 0; i < kLinkMarkerPositions.size(); ++i) {
+    const int p = kLinkMarkerPositions[i];
+    const Marker& m = markers[i];
+    surface.SetLinkEndMarker(p, m.shape);
+    surface.SetLinkMarkerWidth(p, m.width);
+    surface.SetLinkMarkerHeight(p, m.height);
+    surface.SetLinkMarkerColor(p, m.color);
+    surface.SetLinkMarkerFill(p, m.fill);
+  }
+}
+
 }  // namespace pluvane

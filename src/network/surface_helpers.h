@@ -42,6 +42,14 @@ int MaxIdNumber(Surface& surface, int i_name);
 std::array<int, 100> MaxIdNumbers(Surface& surface);
 // The number after the first underscore of an Id; false when there is none.
 bool IdNumberOf(std::string_view id, int& number);
+// A tag of an object, "" when the object or the tag is missing. The cursor
+// does not move.
+std::string TagOfObject(Surface& surface, int number, std::string_view name);
+// The positions of a link's markers: its two ends, then its middle.
+inline constexpr std::array<int, 3> kLinkMarkerPositions{0, 1, 4};
+// The markers of the current link at those positions, and writing them back.
+std::array<Marker, 3> ReadLinkMarkers(const Surface& surface);
+void WriteLinkMarkers(Surface& surface, const std::array<Marker, 3>& markers);
 // The centre of an object, ((left + right) / 2, (top + bottom) / 2).
 std::pair<double, double> ObjectCentre(const Surface& surface, int number);
 // Half the width of the first node (iName 99) if that is at least 1; else

@@ -42,16 +42,14 @@ std::vector<int> LinksAtEnd(Surface& surface, int node, int end, Accept accept) 
   return links;
 }
 
-// Position of an end of a link: its Xlog, Ylog rounded, or its centre when it
-// has no Xlog.
+}  // namespace
+
 std::pair<double, double> LogicalPosition(Surface& surface, int number) {
   surface.SetCurrentObject(number);
   const std::string x = surface.ObjTag("Xlog");
   if (Trim(x).empty()) return ObjectCentre(surface, number);
   return {RoundLong(Val(x)), RoundLong(Val(surface.ObjTag("Ylog")))};
 }
-
-}  // namespace
 
 std::vector<int> ObjectsTouching(Surface& surface, int object) {
   CursorKeeper keeper(surface);

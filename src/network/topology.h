@@ -3,6 +3,7 @@
 // a node are geometric: whatever touches the node's rectangle stands on it.
 #pragma once
 
+#include <utility>
 #include <vector>
 
 #include "network/surface.h"
@@ -38,6 +39,10 @@ std::vector<int> DownstreamCollectors(Surface& surface, int node);
 // The routes, collectors and connections touching the node whose downstream
 // end (end 1) is the node. The selection is cleared.
 std::vector<int> UpstreamLinks(Surface& surface, int node);
+
+// Where an end of a link stands: its Xlog, Ylog rounded, or its centre when
+// it has no Xlog. The object is left current.
+std::pair<double, double> LogicalPosition(Surface& surface, int number);
 
 // Length of a link from the map positions of its two ends (their Xlog, Ylog
 // rounded, through the calibration; an end without Xlog is taken at its

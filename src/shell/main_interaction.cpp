@@ -9,8 +9,11 @@
 #include "network/deletion.h"
 #include "network/element_editing.h"
 #include "network/georeferencing.h"
+#include "network/link_breaking.h"
+#include "network/link_fusion.h"
 #include "network/locate_element.h"
 #include "network/move_rules.h"
+#include "network/network_clipboard.h"
 #include "network/surface_guards.h"
 #include "network/surface_helpers.h"
 #include "network/topology.h"
@@ -483,29 +486,40 @@ InteractionResult MainInteraction::Key(int code, int shift) {
 // --- Link editing ---
 
 void MainInteraction::OnBreakRelease(InteractionResult& result) {
-  // link editing is called here
+  PlacementContext context = Context();
+  ReleaseInBreakMode(context, placement_.HitObject, placement_.PointerX, placement_.PointerY);
+  ui_.PumpEvents();
+  bubble_visible_ = false;
+  bubble_text_.clear();
+  surface_.DeselectAll();
   result.repaint = true;
+  result.refresh_menus = true;
 }
 
 void MainInteraction::OnFusionRelease(InteractionResult& result) {
-  // link editing is called here
+  PlacementContext context = Context();
+  ReleaseInFusionMode(context, placement_.HitObject);
   result.repaint = true;
+  result.refresh_menus = true;
 }
 
+// Over a collector the bubble tells where along it the node would go.
 void MainInteraction::OnBreakHover(double x, double y, int hit) {
-  // link editing is called here
-  (void)x;
-  (void)y;
-  (void)hit;
+  const std::string text = hit > 0 ? BreakBubbleText(surface_, hit, x, y) : "";
+  bubble_visible_ = !text.empty();
+  bubble_text_ = text;
 }
 
 void MainInteraction::OnCopy(InteractionResult& result) {
-  // link editing is called here
+  PlacementContext context = Context();
+  CopySelectionToClipboard(context);
   (void)result;
 }
 
 void MainInteraction::OnPaste(InteractionResult& result) {
-  // link editing is called here
+  PlacementContext context = Context();
+  if (PasteFromClipboard(context) != kPasteDeclined) surface_.SetEditMode(kEditSelection);
+  result.repaint = true;
   result.refresh_menus = true;
 }
 

@@ -57,6 +57,9 @@ MainWindow::MainWindow() : ui_(this) {
   ui_.picture_writer = [this](const std::string& path) {
     return SaveDrawingPicture(surface_, path, kDefaultPictureWidth, Folders());
   };
+  ui_.drawing_renderer = [this] {
+    return RenderDrawing(surface_, kDefaultPictureWidth, Folders());
+  };
   connect(view_, &SurfaceView::ClientResized, this, [this](int width, int height) {
     application_->state().ClientWidth = width;
     application_->state().ClientHeight = height;

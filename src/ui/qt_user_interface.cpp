@@ -1,13 +1,16 @@
 #include "ui/qt_user_interface.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QColorDialog>
 #include <QDesktopServices>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QFontDialog>
+#include <QGuiApplication>
 #include <QInputDialog>
 #include <QMessageBox>
+#include <QMimeData>
 #include <QPainter>
 #include <QPrintDialog>
 #include <QPrinter>
@@ -152,6 +155,31 @@ void QtUserInterface::ShowPanel(const std::string& panel, const std::string& tex
 
 bool QtUserInterface::SaveDrawingPicture(const std::string& path) {
   return picture_writer && picture_writer(path);
+}
+
+void QtUserInterface::PutClipboardData(const std::string& type, const std::string& data) {
+  auto* mime = new QMimeData;
+  mime->setData(Q(type), QByteArray(data.data(), static_cast<qsizetype>(data.size())));
+  QGuiApplication::clipboard()->setMimeData(mime);
+}
+
+std::string QtUserInterface::ClipboardData(const std::string& type) {
+  const QMimeData* mime = QGuiApplication::clipboard()->mimeData();
+  if (mime == nullptr) return "";
+  return mime->data(Q(type)).toStdString();
+}
+
+bool QtUserInterface::ClipboardEmpty() {
+  const QMimeData* mime = QGuiApplication::clipboard()->mimeData();
+  return mime == nullptr || mime->formats().isEmpty();
+}
+
+bool QtUserInterface::CopyDrawingPicture() {
+  if (!drawing_renderer) return false;
+  const QImage image = drawing_renderer();
+  if (image.isNull()) return false;
+  QGuiApplication::clipboard()->setImage(image);
+  return true;
 }
 
 bool QtUserInterface::EditFile(const std::string& path) {

@@ -2,6 +2,7 @@
 // font dialogs, the main window's status line and progress bar.
 #pragma once
 
+#include <QImage>
 #include <QPointer>
 #include <QWidget>
 #include <functional>
@@ -20,6 +21,8 @@ class QtUserInterface : public UserInterface {
   std::function<void(int)> progress_sink;
   std::function<void(const std::string&, const std::string&)> panel_sink;
   std::function<bool(const std::string&)> picture_writer;
+  // The picture of the whole drawing that CopyDrawingPicture puts on the clipboard.
+  std::function<QImage()> drawing_renderer;
 
   void ShowMessage(const std::string& text, const std::string& title, MessageIcon icon) override;
   bool AskYesNo(const std::string& text, const std::string& title, MessageIcon icon,
@@ -43,6 +46,10 @@ class QtUserInterface : public UserInterface {
   bool SaveDrawingPicture(const std::string& path) override;
   bool EditFile(const std::string& path) override;
   std::string PrintLines(const std::vector<std::string>& lines, double point_size) override;
+  void PutClipboardData(const std::string& type, const std::string& data) override;
+  std::string ClipboardData(const std::string& type) override;
+  bool ClipboardEmpty() override;
+  bool CopyDrawingPicture() override;
   void PumpEvents() override;
   void Beep() override;
 
