@@ -400,15 +400,15 @@ TEST_F(MainWindowModes, PictureOfALinkBeingPlaced) {
   window_->resize(1280, 800);
   ASSERT_TRUE(Open(*window_, app_, app_.Demo(), true));
   QApplication::processEvents();
-  // Two new nodes in the free upper left of the plan, a collector from the
-  // first toward the pointer.
-  const auto a = Logic(0.08, 0.1);
-  PlaceNode(0.08, 0.1);
-  PlaceNode(0.2, 0.16);
+  Key(Qt::Key_F4);  // the whole network in view
+  // Two new nodes in a free part of the plan, a collector between them, and
+  // the next one going from the second toward the pointer.
+  PlaceNode(0.1, 0.72);
+  PlaceNode(0.24, 0.84);
   Tool("X_CAC");
-  ClickAt(a);
-  ClickAt(Logic(0.2, 0.16));
-  MoveTo(Client(Logic(0.3, 0.3).first, Logic(0.3, 0.3).second));
+  ClickAt(Logic(0.1, 0.72));
+  ClickAt(Logic(0.24, 0.84));
+  MoveTo(Client(Logic(0.34, 0.7).first, Logic(0.34, 0.7).second));
   ASSERT_TRUE(view()->HasRubberLine());
   // The pointer's map coordinates stand in the status bar.
   EXPECT_TRUE(window_->panels().XY()->text().contains(", "));
