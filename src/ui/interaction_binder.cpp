@@ -114,6 +114,7 @@ void InteractionBinder::Apply(const InteractionResult& result) {
   if (!result.open_form.empty()) {
     emit OpenFormRequested(QString::fromStdString(result.open_form), result.form_object);
   }
+  emit Applied();
 }
 
 }  // namespace pluvane

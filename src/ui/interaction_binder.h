@@ -42,6 +42,8 @@ class InteractionBinder : public QObject {
   void OpenBandRequested(const QString& band);
   void PopupRequested(const QString& popup);
   void WindowCommandRequested(const QString& key);
+  // After each answer of the machine was carried out: the mode may have changed.
+  void Applied();
 
  private:
   void OnPressed(int button, int shift, double x, double y);

@@ -140,11 +140,13 @@ MainToolBars::MainToolBars(QMainWindow* window, const std::string& symbol_dir,
     action->setObjectName(QString::fromStdString(key));
     action->setToolTip(tip);
     if (!tools_.count(key)) tools_[key] = action;
+    all_tools_.emplace_back(UCase(key), action);
     auto drop = drop_downs_.find(key);
     if (drop != drop_downs_.end()) {
       // The tool opens its band; its tools do the placing.
       action->setMenu(drop->second);
     } else {
+      action->setCheckable(true);
       QObject::connect(action, &QAction::triggered, window, [clicked, key] { clicked(key); });
     }
     if (QMenu* menu = menu_of_band(item.band)) {
@@ -157,6 +159,13 @@ MainToolBars::MainToolBars(QMainWindow* window, const std::string& symbol_dir,
         }
       }
     }
+  }
+}
+
+void MainToolBars::SetPressed(const std::string& key) {
+  const std::string armed = UCase(key);
+  for (const auto& [tool, action] : all_tools_) {
+    if (action->isCheckable()) action->setChecked(!armed.empty() && tool == armed);
   }
 }
 

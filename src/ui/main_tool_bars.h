@@ -12,6 +12,8 @@
 #include <functional>
 #include <map>
 #include <string>
+#include <utility>
+#include <vector>
 
 namespace pluvane {
 
@@ -27,6 +29,9 @@ class MainToolBars {
   QAction* Tool(const std::string& key) const;
   // The drop-down menu that a tool opens (X_BVCOM, X_BVSIM), nullptr if none.
   QMenu* DropDown(const std::string& key) const;
+  // Shows the tool of the armed key pressed and every other one raised; an
+  // empty key raises them all. Keys are compared in capitals.
+  void SetPressed(const std::string& key);
 
   // The docking area of the tool box as the configuration numbers it (1 top,
   // 2 bottom, 4 left, 8 right), and back.
@@ -39,6 +44,8 @@ class MainToolBars {
  private:
   std::map<std::string, QToolBar*> bands_;
   std::map<std::string, QAction*> tools_;
+  // Every tool with its key in capitals, a key standing in two bands twice.
+  std::vector<std::pair<std::string, QAction*>> all_tools_;
   std::map<std::string, QMenu*> drop_downs_;
 };
 

@@ -214,9 +214,11 @@ void MainWindow::RunMenu(const std::string& name) {
 void MainWindow::ToolClicked(const std::string& key) {
   if (key == "MDSAVE") {
     RunMenu("mnuFile_Save");
+    ShowArmedTool();
     return;
   }
   emit ToolRequested(QString::fromStdString(key));
+  ShowArmedTool();
 }
 
 void MainWindow::ApplyMenus(const MenuStates& states) {

@@ -108,6 +108,8 @@ class MainWindow : public QMainWindow {
   void RunWindowCommand(const std::string& key);
   void ShowPopup(const std::string& popup);
   void OpenVistrel();
+  // The tool of the armed mode (or creation key) stands pressed in its band.
+  void ShowArmedTool();
 
   Surface surface_;
   QtUserInterface ui_;

@@ -8,6 +8,7 @@
 
 #include "editors/frm_info_calage.h"
 #include "results/view_curve_file.h"
+#include "shell/interaction_modes.h"
 #include "shell/main_menus.h"
 #include "simulation/model_names.h"
 #include "ui/form_window.h"
@@ -33,7 +34,14 @@ void MainWindow::ConnectInteraction() {
           [this](const QString& popup) { ShowPopup(popup.toStdString()); });
   connect(binder_, &InteractionBinder::WindowCommandRequested, this,
           [this](const QString& key) { RunWindowCommand(key.toStdString()); });
+  connect(binder_, &InteractionBinder::Applied, this, &MainWindow::ShowArmedTool);
   commands_["mnuUtil_Vistrel"] = [this] { OpenVistrel(); };
+}
+
+void MainWindow::ShowArmedTool() {
+  if (!tool_bars_ || !interaction_) return;
+  const std::string& mode = interaction_->CurrentMode();
+  tool_bars_->SetPressed(mode == kModeCreate ? interaction_->placement().CreationKey : mode);
 }
 
 void MainWindow::OpenNamedForm(const std::string& form, int object) {

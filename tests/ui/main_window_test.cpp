@@ -18,80 +18,17 @@
 #include "network/view_zoom.h"
 #include "ui/background_dialog.h"
 #include "ui/test_app.h"
+#include "ui/main_window_fixture.h"
 
 namespace pluvane {
 namespace {
 
 namespace fs = std::filesystem;
 
-// A copy of the programs' folder (configuration, symbols, cursors) that the
-// test may change, with Demo.mtf in a folder of its own.
-class AppFolder {
- public:
-  AppFolder() {
-    const fs::path bin(PLUVANE_BIN);
-    fs::copy_file(bin / "pluvane.ini", fs::path(folder_.Path()) / "pluvane.ini");
-    for (const char* sub : {"Symboles", "Curseurs"}) {
-      fs::copy(bin / sub, fs::path(folder_.Path()) / sub, fs::copy_options::recursive);
-    }
-    fs::create_directories(fs::path(folder_.Path()) / "reseau");
-    fs::copy_file(bin / "Exemples" / "Demo.mtf", fs::path(Demo()));
-  }
-  std::string Path() const { return folder_.Path(); }
-  std::string Ini() const { return folder_.File("pluvane.ini"); }
-  std::string Demo() const { return (fs::path(folder_.Path()) / "reseau" / "Demo.mtf").string(); }
-  std::string File(const std::string& name) const { return folder_.File(name); }
-
- private:
-  TempFolder folder_;
-};
-
-struct SeenMessage {
-  QString text;
-  QString title;
-  QMessageBox::Icon icon = QMessageBox::NoIcon;
-};
-
-// Answers the next modal message box as soon as it shows (with the button of
-// that caption, or plain acceptance), and keeps what it said.
-void AnswerNextMessage(SeenMessage& seen, const QString& button = {}) {
-  QTimer::singleShot(0, [&seen, button] {
-    auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-    if (!box) return AnswerNextMessage(seen, button);
-    seen = {box->text(), box->windowTitle(), box->icon()};
-    for (QAbstractButton* b : box->buttons()) {
-      if (b->text() == button) return b->click();
-    }
-    box->accept();
-  });
-}
-
-// The first load and the first activation of the window on the copy, with
-// `command_line` as the program was given it.
-bool Open(MainWindow& window, const AppFolder& app, const std::string& command_line,
-          bool show = false) {
-  TestApp();
-  if (!window.Start(app.Path(), command_line)) return false;
-  if (show) window.show();
-  return window.Activate();
-}
-
 bool Enabled(MainWindow& window, const char* name) {
   QAction* action = window.Action(name);
   EXPECT_NE(action, nullptr) << name;
   return action && action->isEnabled();
-}
-
-// Quits through the menu, without saving a network that is open.
-void Quit(MainWindow& window) {
-  SeenMessage seen;
-  const bool asks = window.surface().ObjectCount(kPage) >= 2;
-  if (asks) AnswerNextMessage(seen, "&Non");
-  EXPECT_TRUE(window.application().QuitCommand());
-  if (asks) {
-    EXPECT_TRUE(seen.text.startsWith("Voulez-vous sauvegarder le réseau en cours ?"));
-  }
-  window.close();
 }
 
 TEST(MainWindow, TheDrawingIsTheCentralWidget) {

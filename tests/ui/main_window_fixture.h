@@ -1,0 +1,120 @@
+// What the tests of the main window share: a copy of the programs' folder the
+// test may change, the first load and activation of a window on it, the
+// answer to its modal message boxes, and the quit at the end.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QMessageBox>
+#include <QTimer>
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include "foundation/test_files.h"
+#include "ui/main_window.h"
+#include "ui/test_app.h"
+
+namespace pluvane {
+
+// A copy of the programs' folder (configuration, symbols, cursors) that the
+// test may change, with Demo.mtf in a folder of its own.
+class AppFolder {
+ public:
+  AppFolder() {
+    namespace fs = std::filesystem;
+    const fs::path bin(PLUVANE_BIN);
+    fs::copy_file(bin / "pluvane.ini", fs::path(folder_.Path()) / "pluvane.ini");
+    for (const char* sub : {"Symboles", "Curseurs"}) {
+      fs::copy(bin / sub, fs::path(folder_.Path()) / sub, fs::copy_options::recursive);
+    }
+    fs::create_directories(fs::path(folder_.Path()) / "reseau");
+    fs::copy_file(bin / "Exemples" / "Demo.mtf", fs::path(Demo()));
+  }
+  std::string Path() const { return folder_.Path(); }
+  std::string Ini() const { return folder_.File("pluvane.ini"); }
+  std::string Demo() const {
+    return (std::filesystem::path(folder_.Path()) / "reseau" / "Demo.mtf").string();
+  }
+  std::string File(const std::string& name) const { return folder_.File(name); }
+
+ private:
+  TempFolder folder_;
+};
+
+struct SeenMessage {
+  QString text;
+  QString title;
+  QMessageBox::Icon icon = QMessageBox::NoIcon;
+};
+
+// Answers the next modal message box as soon as it shows (with the button of
+// that caption, or plain acceptance), and keeps what it said.
+inline void AnswerNextMessage(SeenMessage& seen, const QString& button = {}) {
+  QTimer::singleShot(0, [&seen, button] {
+    auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    if (!box) return AnswerNextMessage(seen, button);
+    seen = {box->text(), box->windowTitle(), box->icon()};
+    for (QAbstractButton* b : box->buttons()) {
+      if (b->text() == button) return b->click();
+    }
+    box->accept();
+  });
+}
+
+// While it lives, answers every modal message box that shows: with the next
+// button caption of `answers` if any is left, else by plain acceptance; and
+// keeps what each said, in order.
+class MessageAnswerer {
+ public:
+  explicit MessageAnswerer(std::vector<QString> answers = {}) : answers_(std::move(answers)) {
+    timer_.setInterval(5);
+    QObject::connect(&timer_, &QTimer::timeout, [this] { Answer(); });
+    timer_.start();
+  }
+  const std::vector<SeenMessage>& seen() const { return seen_; }
+
+ private:
+  void Answer() {
+    auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    if (!box || !box->isVisible()) return;
+    seen_.push_back({box->text(), box->windowTitle(), box->icon()});
+    if (next_ < answers_.size()) {
+      const QString button = answers_[next_++];
+      for (QAbstractButton* b : box->buttons()) {
+        if (b->text() == button) return b->click();
+      }
+    }
+    box->accept();
+  }
+
+  QTimer timer_;
+  std::vector<QString> answers_;
+  std::size_t next_ = 0;
+  std::vector<SeenMessage> seen_;
+};
+
+// The first load and the first activation of the window on the copy, with
+// `command_line` as the program was given it.
+inline bool Open(MainWindow& window, const AppFolder& app, const std::string& command_line,
+                 bool show = false) {
+  TestApp();
+  if (!window.Start(app.Path(), command_line)) return false;
+  if (show) window.show();
+  return window.Activate();
+}
+
+// Quits through the menu, without saving a network that is open.
+inline void Quit(MainWindow& window) {
+  SeenMessage seen;
+  const bool asks = window.surface().ObjectCount(kPage) >= 2;
+  if (asks) AnswerNextMessage(seen, "&Non");
+  EXPECT_TRUE(window.application().QuitCommand());
+  if (asks) {
+    EXPECT_TRUE(seen.text.startsWith("Voulez-vous sauvegarder le réseau en cours ?"));
+  }
+  window.close();
+}
+
+}  // namespace pluvane
