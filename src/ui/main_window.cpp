@@ -27,6 +27,7 @@
 #include "ui/drawing_picture.h"
 #include "ui/drawing_print.h"
 #include "ui/form_window.h"
+#include "ui/menu_builder.h"
 
 namespace pluvane {
 
@@ -153,32 +154,9 @@ void MainWindow::BindCommands() {
 }
 
 void MainWindow::BuildMenus() {
-  // Each item opens a sub-menu when the next item stands one level deeper.
-  const std::vector<MenuItem>& items = MainMenus();
-  std::vector<QMenu*> parents;
-  for (std::size_t i = 0; i < items.size(); ++i) {
-    const MenuItem& item = items[i];
-    const QString caption = QString::fromUtf8(item.caption.data(), item.caption.size());
-    const std::string name(item.name);
-    parents.resize(item.level);
-    const bool has_children = i + 1 < items.size() && items[i + 1].level > item.level;
-    if (has_children || item.level == 0 || name == "mnuRufList") {
-      QMenu* menu =
-          item.level == 0 ? menuBar()->addMenu(caption) : parents.back()->addMenu(caption);
-      menu->setObjectName(QString::fromStdString(name));
-      actions_[name] = menu->menuAction();
-      if (name == "mnuRufList") {
-        recent_menu_ = menu;
-        continue;
-      }
-      parents.push_back(menu);
-      continue;
-    }
-    QAction* action = parents.back()->addAction(caption);
-    action->setObjectName(QString::fromStdString(name));
-    actions_[name] = action;
-    connect(action, &QAction::triggered, this, [this, name] { RunMenu(name); });
-  }
+  actions_ = pluvane::BuildMenus(menuBar(), MainMenus(),
+                                 [this](const std::string& name) { RunMenu(name); }, {"mnuRufList"});
+  recent_menu_ = Menu("mnuRufList");
   if (QMenu* file = Menu("mnuFile")) {
     connect(file, &QMenu::aboutToShow, this,
             [this] { ApplyMenus(FileMenuState(surface_, application_->state())); });

@@ -1,11 +1,13 @@
 #include "ui/menu_builder.h"
 
 #include <QMenu>
+#include <algorithm>
 
 namespace pluvane {
 
 std::map<std::string, QAction*> BuildMenus(QMenuBar* bar, const std::vector<MenuItem>& items,
-                                           const std::function<void(const std::string&)>& run) {
+                                           const std::function<void(const std::string&)>& run,
+                                           const std::vector<std::string>& empty_menus) {
   std::map<std::string, QAction*> actions;
   std::vector<QMenu*> parents;
   for (std::size_t i = 0; i < items.size(); ++i) {
@@ -14,7 +16,9 @@ std::map<std::string, QAction*> BuildMenus(QMenuBar* bar, const std::vector<Menu
     const std::string name(item.name);
     parents.resize(std::min<std::size_t>(parents.size(), item.level));
     const bool has_children = i + 1 < items.size() && items[i + 1].level > item.level;
-    if (has_children || item.level == 0 || parents.empty()) {
+    const bool empty_menu =
+        std::find(empty_menus.begin(), empty_menus.end(), name) != empty_menus.end();
+    if (has_children || empty_menu || item.level == 0 || parents.empty()) {
       QMenu* menu = parents.empty() ? bar->addMenu(caption) : parents.back()->addMenu(caption);
       menu->setObjectName(QString::fromStdString(name));
       actions[name] = menu->menuAction();

@@ -15,8 +15,11 @@
 namespace pluvane {
 
 // Adds the table's menus to `bar`; a triggered action calls `run` with its
-// item's name. Returns every action (sub-menus included) by name.
+// item's name. The items named in `empty_menus` are sub-menus even without
+// items of their own (filled later). Returns every action (sub-menus
+// included) by name.
 std::map<std::string, QAction*> BuildMenus(QMenuBar* bar, const std::vector<MenuItem>& items,
-                                           const std::function<void(const std::string&)>& run);
+                                           const std::function<void(const std::string&)>& run,
+                                           const std::vector<std::string>& empty_menus = {});
 
 }  // namespace pluvane
