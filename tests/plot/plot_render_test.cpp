@@ -175,7 +175,7 @@ TEST_F(Render, DateLabelsStandUprightAndReadDayMonth) {
   WriteCurves("c.crb", CurveText("A", {{0, 0}, {10, 10}}));
   Draw(DateScript("11/01/2000"));
   ASSERT_TRUE(ui.Empty()) << ui.Last().text;
-  for (const std::string& text : {"01/01", "06/01", "11/01"}) {
+  for (const std::string text : {"01/01", "06/01", "11/01"}) {
     const Shape* label = TextShape(surface, text);
     ASSERT_NE(label, nullptr) << text;
     EXPECT_EQ(label->text.angle, 90) << text;
@@ -232,7 +232,7 @@ TEST_F(Render, AnotherOutlineKindDrawsNoOutlineAndAllTheRest) {
   EXPECT_EQ(boxes[0]->box.top, DevY(20));
   EXPECT_EQ(Curves().size(), 1u);
   EXPECT_EQ(Strokes(surface, true).size(), 11u);
-  for (const std::string& text : {"Titre", "Temps", "Cote", "0.00", "100.00", "10.00"}) {
+  for (const std::string text : {"Titre", "Temps", "Cote", "0.00", "100.00", "10.00"}) {
     EXPECT_NE(TextShape(surface, text), nullptr) << text;
   }
 }
@@ -555,7 +555,7 @@ TEST(EndToEnd, CompiledScriptDrawnFromItsControlFile) {
   EXPECT_EQ(picture.width, 29700);
   EXPECT_EQ(picture.height, 21000);
   Surface& surface = *picture.surface;
-  for (const std::string& text : {"Hydrogramme", "N1", "Temps(mn)", "Débit (m3/s)", "0", "120",
+  for (const std::string text : {"Hydrogramme", "N1", "Temps(mn)", "Débit (m3/s)", "0", "120",
                                   "0.0", "2.0", "Nortavel, fichier crb.Deb"}) {
     EXPECT_NE(TextShape(surface, text), nullptr) << text;
   }
