@@ -107,32 +107,30 @@ int Generate(const std::vector<std::string>& args, const std::string& app_path, 
 }
 
 // Opens the network as the program does; the scenario is NAME or else the
-// network's current one. False when it cannot open (its message shown), with
-// `usage` 2 when the words were wrong.
-bool OpenForScenario(const std::vector<std::string>& args, const std::string& app_path,
-                     Application& application, std::string& scenario, bool& velmar_only,
-                     int& usage) {
+// network's current one. Returns 0 when open, else the exit code: 2 when the
+// words were wrong, 1 when it cannot open (its message shown).
+int OpenForScenario(const std::vector<std::string>& args, const std::string& app_path,
+                    Application& application, std::string& scenario, bool& velmar_only) {
   std::string network;
   bool scenario_given = false;
-  usage = 0;
   for (std::size_t i = 0; i < args.size(); ++i) {
     if (args[i] == "--scenario") {
-      if (!TakeOption(args, i, scenario)) return usage = 2, false;
+      if (!TakeOption(args, i, scenario)) return 2;
       scenario_given = true;
     } else if (args[i] == "--velmar-only") {
       velmar_only = true;
     } else if (network.empty() && args[i].rfind("-", 0) != 0) {
       network = args[i];
     } else {
-      return usage = 2, false;
+      return 2;
     }
   }
-  if (network.empty()) return usage = 2, false;
-  if (!application.Load(app_path, "")) return false;
+  if (network.empty()) return 2;
+  if (!application.Load(app_path, "")) return 1;
   NetworkSession session = application.session();
-  if (!OpenNetwork(session, true, network)) return false;
+  if (!OpenNetwork(session, true, network)) return 1;
   if (!scenario_given) scenario = application.state().ScenarioName;
-  return true;
+  return 0;
 }
 
 // Generates the model and runs the engine; prints the log and cleans as the
@@ -143,9 +141,8 @@ int Run(const std::vector<std::string>& args, const std::string& app_path, std::
   Application application(surface, ui);
   std::string scenario;
   bool velmar_only = false;
-  int usage = 0;
-  if (!OpenForScenario(args, app_path, application, scenario, velmar_only, usage)) {
-    return usage ? usage : 1;
+  if (const int code = OpenForScenario(args, app_path, application, scenario, velmar_only)) {
+    return code;
   }
   ModelContext context{surface, application.state(), ui};
   const ScenarioRun run = RunScenario(context, scenario, !velmar_only);
@@ -165,9 +162,8 @@ int Recap(const std::vector<std::string>& args, const std::string& app_path, std
   Application application(surface, ui);
   std::string scenario;
   bool velmar_only = false;
-  int usage = 0;
-  if (!OpenForScenario(args, app_path, application, scenario, velmar_only, usage)) {
-    return usage ? usage : 1;
+  if (const int code = OpenForScenario(args, app_path, application, scenario, velmar_only)) {
+    return code;
   }
   if (velmar_only) return 2;
   AppState& state = application.state();
