@@ -1,10 +1,13 @@
 # The two commands of a newcomer:
 #   make run    install what is missing, build, start Pluvane on the example network
 #   make test   install what is missing, build (normal and sanitizer builds), run every test
+#   make install  the programs and their data under PREFIX (DESTDIR is honoured)
+#   make package  a .deb of the same tree, in build/
 JOBS ?= $(shell nproc)
 EXAMPLE = Exemples/Demo.mtf
+PREFIX ?= /usr/local
 
-.PHONY: run test deps build build-asan bench fuzz clean
+.PHONY: run test deps build build-asan install package bench fuzz clean
 
 run: build
 	cd build/bin && ./pluvane $(EXAMPLE)
@@ -26,6 +29,12 @@ build-asan: deps
 	@[ -f build-asan/build.ninja ] || cmake -S . -B build-asan -G Ninja -DCMAKE_BUILD_TYPE=Debug \
 	  -DPLUVANE_SANITIZE=ON -DPLUVANE_BUILD_UI=OFF -DPLUVANE_BENCH=OFF
 	cmake --build build-asan -j $(JOBS)
+
+install: build
+	DESTDIR="$(DESTDIR)" cmake --install build --prefix "$(PREFIX)"
+
+package: build
+	cd build && cpack -G DEB
 
 bench: build
 	for b in build/bin/bench_*; do $$b; done

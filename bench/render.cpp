@@ -88,6 +88,6 @@ int main(int argc, char** argv) {
   }
   std::printf("%-28s %d frames, %.1f ms a frame\n", "pan of the zoomed view", kSteps,
               Milliseconds(start) / kSteps);
-  image.save("bench_render.png");
+  image.save(PLUVANE_BENCH_OUT "/bench_render.png");
   return 0;
 }

@@ -1,10 +1,13 @@
 #!/usr/bin/env bash
-# Installs the Debian packages that the build needs, if any is missing.
+# Installs the Debian packages that the build and the tests need, if any is
+# missing (Xvfb and x11-utils let the tests start the desktop program in a
+# real X display).
 set -euo pipefail
 packages=(cmake ninja-build g++ clang make pkg-config
           qt6-base-dev libqt6svg6-dev libgl-dev
           nlohmann-json3-dev libgtest-dev libgmock-dev
-          fonts-dejavu-core)
+          fonts-dejavu-core
+          xvfb x11-utils)
 missing=()
 for p in "${packages[@]}"; do
   dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q 'install ok installed' || missing+=("$p")

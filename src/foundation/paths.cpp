@@ -197,4 +197,11 @@ void ChangeDir(const std::string& path) {
   throw FileError(errno);
 }
 
+std::string AbsolutePath(const std::string& path, const std::string& base) {
+  if (path.empty()) return path;
+  const std::filesystem::path given(path);
+  if (given.is_absolute()) return path;
+  return (std::filesystem::path(base) / given).lexically_normal().string();
+}
+
 }  // namespace pluvane

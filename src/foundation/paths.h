@@ -58,5 +58,10 @@ void AppendFile(const std::string& source, const std::string& destination);
 int vbFileKill(UserInterface& ui, const std::string& folder, std::string_view pattern);
 // Makes `path` the current folder of the process; throws AppError on failure.
 void ChangeDir(const std::string& path);
+// `path` made whole against `base` (an absolute path stays as it is), with
+// its "." and ".." parts resolved. An empty path stays empty. The programs
+// read the paths of their command line through it before anything changes the
+// current folder.
+std::string AbsolutePath(const std::string& path, const std::string& base);
 
 }  // namespace pluvane

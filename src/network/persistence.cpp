@@ -24,8 +24,6 @@ namespace {
 const char kProductTitle[] = "Pluvane";
 const char kNetworkFilter[] = "Fichier Mtf|*.mtf";
 
-std::string IniFile(const AppState& state) { return JoinPath(state.AppPath, "pluvane.ini"); }
-
 void ShowCaption(NetworkSession& s) {
   s.ui.ShowPanel("caption", s.state.NetworkFile.empty() ? kProductTitle : s.state.NetworkFile);
 }
@@ -36,7 +34,7 @@ std::string OpenDialogStart(const NetworkSession& s) {
   if (!s.recent.Captions().empty() && FileExist(s.recent.Captions().front())) {
     return s.recent.Captions().front();
   }
-  const std::string examples = JoinPath(s.state.AppPath, "Exemples");
+  const std::string examples = JoinPath(DataFolder(s.state), "Exemples");
   if (FolderExist(examples)) return JoinPath(examples, "*.mtf");
   return s.state.AppPath;
 }
@@ -51,16 +49,20 @@ bool Save(NetworkSession& s, const std::string& path) {
   return false;
 }
 
-// Applies the saved view, or the whole network when nothing stands in it.
+// Applies the saved view, or the whole network when nothing stands in it; a
+// network without a saved view is never cut at the edge of the present one.
 void RestoreView(NetworkSession& s, bool saved, double left, double top) {
   Surface& surface = s.surface;
-  if (saved) {
-    surface.SetAutoScale(0);
-    surface.SetViewLeft(left);
-    surface.SetViewTop(top);
-    surface.SetViewWidth(s.state.LogicWidth * s.state.ZoomFactor);
-    surface.SetViewHeight(s.state.LogicHeight * s.state.ZoomFactor);
+  if (!saved) {
+    // The present zoom stays as long as it shows the whole network.
+    ShowWholeNetwork(surface, s.state);
+    return;
   }
+  surface.SetAutoScale(0);
+  surface.SetViewLeft(left);
+  surface.SetViewTop(top);
+  surface.SetViewWidth(s.state.LogicWidth * s.state.ZoomFactor);
+  surface.SetViewHeight(s.state.LogicHeight * s.state.ZoomFactor);
   const int found = surface.SelectInRect(
       ToLong(surface.ViewLeft()), ToLong(surface.ViewTop()),
       ToLong(surface.ViewLeft() + surface.ViewWidth()),
@@ -218,7 +220,7 @@ bool SaveNetworkAs(NetworkSession& s) {
   }
   s.state.NetworkFile = file;
   ShowCaption(s);
-  const std::string ini = IniFile(s.state);
+  const std::string ini = IniFilePath(s.state);
   IniWrite("Autres", "Zoom Ini", Trim(FormatFixed(s.state.ZoomFactor, 15, 8)), ini);
   IniWrite("Autres", "Zoom Dx", NumToText(std::round(s.surface.ViewLeft())), ini);
   IniWrite("Autres", "Zoom Dy", NumToText(std::round(s.surface.ViewTop())), ini);

@@ -33,12 +33,10 @@ bool ZoomToRect(Surface& surface, AppState& state, double left, double top, doub
   return true;
 }
 
-bool ZoomToBounds(Surface& surface, AppState& state) {
-  const bool redraw = surface.Redraw();
-  surface.SetRedraw(false);
+bool NetworkBounds(Surface& surface, std::int32_t& left, std::int32_t& top, std::int32_t& right,
+                   std::int32_t& bottom) {
   const int saved = surface.CurrentObject();
   bool any = false;
-  std::int32_t l = 0, t = 0, r = 0, b = 0;
   surface.SetCurrentObject(kPage);
   for (int n = surface.FirstObject(); n > 10; n = surface.NextObject()) {
     const double i_name = Val(surface.ObjTag("iName"));
@@ -46,15 +44,23 @@ bool ZoomToBounds(Surface& surface, AppState& state) {
     std::int32_t ol, ot, orr, ob;
     surface.GetObjectBounds(ol, ot, orr, ob);
     if (!any) {
-      l = ol, t = ot, r = orr, b = ob;
+      left = ol, top = ot, right = orr, bottom = ob;
       any = true;
     } else {
-      l = std::min(l, ol), t = std::min(t, ot), r = std::max(r, orr), b = std::max(b, ob);
+      left = std::min(left, ol), top = std::min(top, ot);
+      right = std::max(right, orr), bottom = std::max(bottom, ob);
     }
   }
   surface.SetCurrentObject(saved);
+  return any;
+}
+
+bool ZoomToBounds(Surface& surface, AppState& state) {
+  const bool redraw = surface.Redraw();
+  surface.SetRedraw(false);
+  std::int32_t l = 0, t = 0, r = 0, b = 0;
   bool zoomed = false;
-  if (any) {
+  if (NetworkBounds(surface, l, t, r, b)) {
     double margin = 0;
     if (surface.ScrollBars() != 0) {
       const double per_pixel = surface.ViewHeight() / std::max<std::int32_t>(state.ClientHeight, 1);
@@ -69,6 +75,28 @@ bool ZoomToBounds(Surface& surface, AppState& state) {
   }
   surface.SetRedraw(redraw);
   return zoomed;
+}
+
+bool ShowWholeNetwork(Surface& surface, AppState& state) {
+  std::int32_t l = 0, t = 0, r = 0, b = 0;
+  if (!NetworkBounds(surface, l, t, r, b)) return false;
+  const double vl = surface.ViewLeft(), vt = surface.ViewTop();
+  if (l >= vl && t >= vt && r <= vl + surface.ViewWidth() && b <= vt + surface.ViewHeight()) {
+    return false;
+  }
+  // A margin of 5 % on each side, and a single point still gets a view around it.
+  const double half = std::max(state.SymbolSize, 1.0);
+  const double margin_x = std::max((r - l) * 0.05, half);
+  const double margin_y = std::max((b - t) * 0.05, half);
+  const double left = l - margin_x, top = t - margin_y;
+  const double width = r - l + 2 * margin_x, height = b - t + 2 * margin_y;
+  if (!ZoomToRect(surface, state, left, top, left + width, top + height)) return false;
+  // The rectangle fits one way; the view is as long as the client asks the other
+  // way, and the network stands in its middle.
+  surface.SetViewLeft(left - (surface.ViewWidth() - width) / 2);
+  surface.SetViewTop(top - (surface.ViewHeight() - height) / 2);
+  surface.Refresh();
+  return true;
 }
 
 void ZoomToAll(Surface& surface, AppState& state) {

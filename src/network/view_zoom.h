@@ -19,6 +19,16 @@ bool ZoomToRect(Surface& surface, AppState& state, double left, double top, doub
 // three client heights when the scroll bars show. False when there is none.
 bool ZoomToBounds(Surface& surface, AppState& state);
 
+// The bounds of every element of the network (iName from 1 to 99); false when
+// there is none.
+bool NetworkBounds(Surface& surface, std::int32_t& left, std::int32_t& top, std::int32_t& right,
+                   std::int32_t& bottom);
+
+// The first view of a network that brings no view of its own: when an element
+// lies outside the present view, the whole network, centred in the client
+// area with a margin; otherwise the present view stays. True when it moved.
+bool ShowWholeNetwork(Surface& surface, AppState& state);
+
 // The view over the whole logical space.
 void ZoomToAll(Surface& surface, AppState& state);
 

@@ -45,9 +45,7 @@ std::string VistrelScriptOf(UserInterface& ui, const std::vector<std::string>& a
                    kTitle, MessageIcon::kExclamation);
     return "";
   }
-  const std::filesystem::path given(args[0]);
-  const std::string path =
-      given.is_absolute() ? args[0] : (std::filesystem::path(current_dir) / given).string();
+  const std::string path = AbsolutePath(args[0], current_dir);
   if (FileExist(path)) return path;
   const std::string found = FindFileNoCase(DirOf(path), FileNameOf(path));
   if (!found.empty()) return found;

@@ -8,6 +8,8 @@
 #include <cstdint>
 #include <string>
 
+#include "foundation/paths.h"
+
 namespace pluvane {
 
 // The seven parameters of the affine map between logical and user coordinates,
@@ -29,6 +31,11 @@ struct Calibration {
 
 struct AppState {
   std::string AppPath;      // folder of the programs, without a trailing separator
+  // Folder of the shipped data (Symboles, Curseurs, Exemples) and the
+  // configuration file in use, both found at start (shell/installation.h);
+  // empty until then, when the programs' folder stands for both.
+  std::string DataDir;
+  std::string IniFile;
   std::string WorkDir;      // follows the folder of the network file
   std::string SymbolDir;
   std::string CommandLine;  // trimmed
@@ -81,5 +88,16 @@ struct AppState {
   std::string iModePluie;
   std::string ScnPluieState;
 };
+
+// The configuration file in use; before the start found it, the one beside
+// the programs.
+inline std::string IniFilePath(const AppState& state) {
+  return state.IniFile.empty() ? JoinPath(state.AppPath, "pluvane.ini") : state.IniFile;
+}
+
+// The folder of the shipped data; before the start found it, the programs'.
+inline std::string DataFolder(const AppState& state) {
+  return state.DataDir.empty() ? state.AppPath : state.DataDir;
+}
 
 }  // namespace pluvane

@@ -14,6 +14,7 @@
 #include "network/persistence.h"
 #include "network/view_zoom.h"
 #include "shell/configuration.h"
+#include "shell/installation.h"
 
 namespace pluvane {
 
@@ -23,12 +24,18 @@ const char kTitle[] = "Pluvane";
 
 }  // namespace
 
-Application::Application(Surface& surface, UserInterface& ui) : surface_(surface), ui_(ui) {}
+Application::Application(Surface& surface, UserInterface& ui, Use use)
+    : surface_(surface), ui_(ui), use_(use) {}
 
 bool Application::Load(const std::string& app_path, const std::string& command_line) {
   state_.CommandLine = Trim(command_line);
+  std::error_code error;
+  start_dir_ = std::filesystem::current_path(error).string();
   state_.AppPath = app_path;
   state_.WorkDir = app_path;
+  const Installation installation = LocateInstallation(app_path, use_ == Use::kDesktop);
+  state_.DataDir = installation.data_dir;
+  state_.IniFile = installation.ini_file;
   const std::string ini = IniFilePath(state_);
   if (!FileExist(ini)) {
     ui_.ShowMessage("Ce fichier de paramétrage est requis !\r\n\r\n" + ini, kTitle,
@@ -43,7 +50,8 @@ bool Application::Load(const std::string& app_path, const std::string& command_l
   std::setlocale(LC_NUMERIC, "C");
 
   if (!LoadConfiguration(state_, ui_, resources_)) return false;
-  recent_.SetIniFile(ini);
+  // A list bound to no file lives in memory only.
+  if (use_ == Use::kDesktop) recent_.SetIniFile(ini);
 
   surface_.SetCurrentObject(kPage);
   surface_.SetLogicLeft(0);
@@ -107,8 +115,9 @@ Application::Activation Application::FirstActivation() {
 int Application::CommandLineStart() {
   std::vector<std::string> tokens;
   if (SplitLine(ui_, state_.CommandLine, tokens, " ") < 1) return -1;
-  std::string file = tokens[0];
-  if (!FolderExist(DirOf(file))) file = JoinPath(std::filesystem::current_path().string(), file);
+  // The folder changes below: a relative path is made whole first, against
+  // the folder the program was started from.
+  const std::string file = AbsolutePath(tokens[0], start_dir_);
   try {
     ChangeDir(DirOf(file));
   } catch (const AppError&) {

@@ -19,8 +19,11 @@ namespace pluvane {
 class Application {
  public:
   enum class Activation { kReady, kEndProcess, kCloseWindow };
+  // The desktop program keeps its settings and recent files in the
+  // configuration; the command line reads it and leaves it as it is.
+  enum class Use { kDesktop, kCommandLine };
 
-  Application(Surface& surface, UserInterface& ui);
+  Application(Surface& surface, UserInterface& ui, Use use = Use::kDesktop);
 
   AppState& state() { return state_; }
   ResourceLibrary& resources() { return resources_; }
@@ -36,7 +39,8 @@ class Application {
 
   // Opens the network named on the command line: token 1 the file, token 2 a
   // display flag ("0" minimises), token 3 a number. Returns that number (0 when
-  // absent), or -1 when the file is not a network.
+  // absent), or -1 when the file is not a network. A relative file is taken
+  // from the folder the program was started from.
   int CommandLineStart();
   bool StartMinimised() const { return minimised_; }
 
@@ -63,6 +67,10 @@ class Application {
   AppState state_;
   ResourceLibrary resources_;
   RecentFiles recent_;
+  Use use_;
+  // The current folder when the program started, against which the paths of
+  // its command line are read.
+  std::string start_dir_;
   bool activated_ = false;
   bool minimised_ = false;
   bool closed_by_menu_ = false;

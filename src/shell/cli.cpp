@@ -9,6 +9,8 @@
 #include "network/surface.h"
 #include "plot/plot_command.h"
 #include "shell/application.h"
+#include "shell/cli_network.h"
+#include "shell/cli_options.h"
 #include "simulation/data_recap.h"
 #include "simulation/engine_commands.h"
 #include "simulation/engine_run.h"
@@ -26,72 +28,41 @@ struct Command {
   CliCommandRun run;
 };
 
-// The value after an option, or empty with `ok` false when it is missing.
-bool TakeOption(const std::vector<std::string>& args, std::size_t& i, std::string& value) {
-  if (i + 1 >= args.size()) return false;
-  value = args[++i];
-  return true;
-}
-
 int Plot(const std::vector<std::string>& args, const std::string&, std::ostream& out,
          ScriptedUi& ui) {
-  std::string script, ctl;
-  for (std::size_t i = 0; i < args.size(); ++i) {
-    if (args[i] == "--ctl") {
-      if (!TakeOption(args, i, ctl)) return 2;
-    } else if (script.empty() && args[i].rfind("-", 0) != 0) {
-      script = args[i];
-    } else {
-      return 2;
-    }
-  }
-  if (script.empty()) return 2;
-  if (!CompileScriptPage(ui, script, ctl)) return 1;
+  CliOptions words;
+  if (!words.Parse(args, {{{"--ctl"}, true, true}}, 1, 1)) return 2;
+  const std::string ctl = words.Value("--ctl");
+  if (!CompileScriptPage(ui, words.Positional()[0], ctl)) return 1;
   if (!ctl.empty()) out << ctl << "\n";
   return 0;
 }
 
-// Opens the network as the program does, with the configuration beside the
-// programs, and prints what it holds. A look at a network does not enter it
-// in the desktop program's list of recent files.
+// Prints what a network holds.
 int Info(const std::vector<std::string>& args, const std::string& app_path, std::ostream& out,
          ScriptedUi& ui) {
-  if (args.size() != 1 || args[0].rfind("-", 0) == 0) return 2;
-  Surface surface;
-  Application application(surface, ui);
-  if (!application.Load(app_path, "")) return 1;
-  RecentFiles unlisted;
-  NetworkSession session{surface, application.state(), ui, unlisted};
-  if (!OpenNetwork(session, true, args[0])) return 1;
-  out << NetworkInfoText(surface, application.state());
+  CliOptions words;
+  if (!words.Parse(args, {}, 1, 1)) return 2;
+  CliNetwork network(ui);
+  if (!network.Open(app_path, words.Positional()[0])) return 1;
+  out << NetworkInfoText(network.surface, network.state());
   return 0;
 }
 
-// Opens the network as the program does and generates the model of a
-// scenario (the network's current one by default). Nothing is saved.
+const CliOption kScenarioOption{{"--scenario"}, true, false};
+
+// Generates the model of a scenario (the network's current one by default).
+// Nothing is saved.
 int Generate(const std::vector<std::string>& args, const std::string& app_path, std::ostream& out,
              ScriptedUi& ui) {
-  std::string network, scenario;
-  bool scenario_given = false;
-  for (std::size_t i = 0; i < args.size(); ++i) {
-    if (args[i] == "--scenario") {
-      if (!TakeOption(args, i, scenario)) return 2;
-      scenario_given = true;
-    } else if (network.empty() && args[i].rfind("-", 0) != 0) {
-      network = args[i];
-    } else {
-      return 2;
-    }
-  }
-  if (network.empty()) return 2;
-  Surface surface;
-  Application application(surface, ui);
-  if (!application.Load(app_path, "")) return 1;
-  NetworkSession session = application.session();
-  if (!OpenNetwork(session, true, network)) return 1;
-  AppState& state = application.state();
-  if (!scenario_given) scenario = state.ScenarioName;
-  ModelContext context{surface, state, ui};
+  CliOptions words;
+  if (!words.Parse(args, {kScenarioOption}, 1, 1)) return 2;
+  CliNetwork network(ui);
+  if (!network.Open(app_path, words.Positional()[0])) return 1;
+  AppState& state = network.state();
+  const std::string scenario =
+      words.Has("--scenario") ? words.Value("--scenario") : state.ScenarioName;
+  ModelContext context{network.surface, state, ui};
   const int steps = RunModelGeneration(context, scenario);
   if (steps != kModelStepCount) {
     // The driver stops silently on a run-time error; say where it stopped.
@@ -106,71 +77,40 @@ int Generate(const std::vector<std::string>& args, const std::string& app_path, 
   return 0;
 }
 
-// Opens the network as the program does; the scenario is NAME or else the
-// network's current one. Returns 0 when open, else the exit code: 2 when the
-// words were wrong, 1 when it cannot open (its message shown).
-int OpenForScenario(const std::vector<std::string>& args, const std::string& app_path,
-                    Application& application, std::string& scenario, bool& velmar_only) {
-  std::string network;
-  bool scenario_given = false;
-  for (std::size_t i = 0; i < args.size(); ++i) {
-    if (args[i] == "--scenario") {
-      if (!TakeOption(args, i, scenario)) return 2;
-      scenario_given = true;
-    } else if (args[i] == "--velmar-only") {
-      velmar_only = true;
-    } else if (network.empty() && args[i].rfind("-", 0) != 0) {
-      network = args[i];
-    } else {
-      return 2;
-    }
-  }
-  if (network.empty()) return 2;
-  if (!application.Load(app_path, "")) return 1;
-  NetworkSession session = application.session();
-  if (!OpenNetwork(session, true, network)) return 1;
-  if (!scenario_given) scenario = application.state().ScenarioName;
-  return 0;
-}
-
 // Generates the model and runs the engine; prints the log and cleans as the
 // program does after a run.
 int Run(const std::vector<std::string>& args, const std::string& app_path, std::ostream& out,
         ScriptedUi& ui) {
-  Surface surface;
-  Application application(surface, ui);
-  std::string scenario;
-  bool velmar_only = false;
-  if (const int code = OpenForScenario(args, app_path, application, scenario, velmar_only)) {
-    return code;
-  }
-  ModelContext context{surface, application.state(), ui};
-  const ScenarioRun run = RunScenario(context, scenario, !velmar_only);
+  CliOptions words;
+  if (!words.Parse(args, {kScenarioOption, {{"--velmar-only"}, false, false}}, 1, 1)) return 2;
+  CliNetwork network(ui);
+  if (!network.Open(app_path, words.Positional()[0])) return 1;
+  AppState& state = network.state();
+  const std::string scenario =
+      words.Has("--scenario") ? words.Value("--scenario") : state.ScenarioName;
+  ModelContext context{network.surface, state, ui};
+  const ScenarioRun run = RunScenario(context, scenario, !words.Has("--velmar-only"));
   if (run.steps < 0) return 1;
   std::vector<std::string> lines;
   ReadTextLines(run.msg_path, lines);
   for (const std::string& line : lines) out << line << "\n";
   const bool ok = run.steps == kModelStepCount && LogReportsSuccess(run.msg_path);
-  CleanModelFiles(application.state(), run.msg_path, run.steps);
+  CleanModelFiles(state, run.msg_path, run.steps);
   return ok ? 0 : 1;
 }
 
 // Writes the data recap report of the scenario beside its model and prints its path.
 int Recap(const std::vector<std::string>& args, const std::string& app_path, std::ostream& out,
           ScriptedUi& ui) {
-  Surface surface;
-  Application application(surface, ui);
-  std::string scenario;
-  bool velmar_only = false;
-  if (const int code = OpenForScenario(args, app_path, application, scenario, velmar_only)) {
-    return code;
-  }
-  if (velmar_only) return 2;
-  AppState& state = application.state();
-  state.ScenarioName = scenario;
+  CliOptions words;
+  if (!words.Parse(args, {kScenarioOption}, 1, 1)) return 2;
+  CliNetwork network(ui);
+  if (!network.Open(app_path, words.Positional()[0])) return 1;
+  AppState& state = network.state();
+  if (words.Has("--scenario")) state.ScenarioName = words.Value("--scenario");
   SetModelNames(state);
   MakeModelFolder(state);
-  const std::string path = WriteDataRecap(surface, state, ui);
+  const std::string path = WriteDataRecap(network.surface, state, ui);
   if (path.empty()) {
     ui.ShowMessage("Scénario ou réseau inconnu : aucun récapitulatif écrit.", "pluvane-cli",
                    MessageIcon::kExclamation);

@@ -1,6 +1,6 @@
 // pluvane-cli: the program's treatments without a window. Each command starts
-// as the program does where it needs to (pluvane.ini beside the programs),
-// prints every message to the error stream as "title: text", answers every
+// as the program does where it needs to (with its configuration, which the
+// command line reads and never writes), prints every message to the error stream as "title: text", answers every
 // question with its default, and returns 0 on success, 1 when the treatment
 // refused, 2 on bad usage.
 #pragma once

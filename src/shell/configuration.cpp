@@ -15,10 +15,6 @@ bool HasSeparator(const std::string& path) {
 
 }  // namespace
 
-std::string IniFilePath(const AppState& state) {
-  return JoinPath(state.AppPath, std::string(kProgramName) + ".ini");
-}
-
 std::string ReadProfileValue(const std::string& section, const std::string& key,
                              int buffer_size, const std::string& file) {
   return IniRead(section, key, buffer_size, file);
@@ -53,11 +49,11 @@ bool LoadConfiguration(AppState& state, UserInterface& ui, ResourceLibrary& reso
   const std::string p = kSectionParameters;
 
   std::string library = Trim(ReadProfileValue(p, "Fichier Ressource", 80, ini));
-  if (!HasSeparator(library)) library = JoinPath(state.AppPath, library);
+  if (!HasSeparator(library)) library = JoinPath(DataFolder(state), library);
   resources.Load(ui, library);
 
   state.SymbolDir =
-      FolderUnderApp(state.AppPath, ReadProfileValue(p, "Répertoire des symboles", 80, ini),
+      FolderUnderApp(DataFolder(state), ReadProfileValue(p, "Répertoire des symboles", 80, ini),
                      "Symboles");
   if (!FolderExist(state.SymbolDir)) {
     ui.ShowMessage("Le nom du répertoire des symboles est mal défini dans le fichier \r\n" +

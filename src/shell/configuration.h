@@ -1,6 +1,7 @@
-// The program's settings: one `pluvane.ini` beside the programs, read and
-// written key by key and never cached, and the reading of the start-up
-// settings into the application state.
+// The program's settings: one `pluvane.ini` (beside the programs, or the
+// user's copy of an installed program), read and written key by key and never
+// cached, and the reading of the start-up settings into the application
+// state. The file's path is `IniFilePath` of the state.
 #pragma once
 
 #include <string>
@@ -20,8 +21,6 @@ inline constexpr const char* kSectionOthers = "Autres";
 inline constexpr const char* kSectionRecentFiles = "Fichiers recents";
 inline constexpr const char* kSectionScale = "Co Echelle";
 
-// The configuration file: the application folder, the separator, "pluvane.ini".
-std::string IniFilePath(const AppState& state);
 
 // A profile read with an empty default (a missing key reads as empty), and the
 // profile write of a value turned into text.

@@ -79,7 +79,7 @@ std::string EngineCommand(const AppState& state, const std::string& name) {
   if (program.empty()) program = FindFileNoCase(state.AppPath, name + ".exe");
   if (program.empty()) return {};
   const std::string launcher =
-      Trim(IniRead("Autres", "Lanceur", 255, JoinPath(state.AppPath, "pluvane.ini")));
+      Trim(IniRead("Autres", "Lanceur", 255, IniFilePath(state)));
   if (EqualsNoCase(CharRight(program, 4), ".exe") && !launcher.empty()) {
     return launcher + " " + Quoted(program);
   }
@@ -155,7 +155,7 @@ void ShowModelLog(const AppState& state, Console& console, const std::string& ms
 void CleanModelFiles(const AppState& state, const std::string& msg_path, int step_count) {
   if (!FileExist(msg_path) || step_count < 1) return;
   const std::string place_nette =
-      UCase(Trim(IniRead("Autres", "Place Nette", 255, JoinPath(state.AppPath, "pluvane.ini"))));
+      UCase(Trim(IniRead("Autres", "Place Nette", 255, IniFilePath(state))));
   if (place_nette != "OUI" && place_nette != "TRUE" && place_nette != "1" && place_nette != "-1") {
     return;
   }

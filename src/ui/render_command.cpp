@@ -13,6 +13,8 @@
 #include "plot/morvex_draw.h"
 #include "plot/plot_command.h"
 #include "shell/cli.h"
+#include "shell/cli_network.h"
+#include "shell/cli_options.h"
 #include "ui/drawing_picture.h"
 #include "ui/picture_format.h"
 
@@ -41,29 +43,28 @@ void EnsureGuiApplication() {
   (void)app;
 }
 
+const CliOption kOutputOption{{"-o", "--output"}, true, true};
+const CliOption kWidthOption{{"--width"}, true, false};
+
+// The picture width of `--width`, the default when absent; 0 when the value
+// is no whole number of pixels.
+int PictureWidth(const CliOptions& words) {
+  if (!words.Has("--width")) return kDefaultPictureWidth;
+  const std::string value = words.Value("--width");
+  const int width = static_cast<int>(ValLong(value));
+  return width >= 1 && NumToText(width) == value ? width : 0;
+}
+
 }  // namespace
 
 int RenderCommand(const std::vector<std::string>& args, const std::string& app_path,
                   std::ostream& out, ScriptedUi& ui) {
-  std::string network, output;
-  int width = kDefaultPictureWidth;
-  for (std::size_t i = 0; i < args.size(); ++i) {
-    const std::string& arg = args[i];
-    if (arg == "-o" || arg == "--output") {
-      if (i + 1 >= args.size()) return 2;
-      output = args[++i];
-    } else if (arg == "--width") {
-      if (i + 1 >= args.size()) return 2;
-      const std::string& value = args[++i];
-      width = static_cast<int>(ValLong(value));
-      if (width < 1 || NumToText(width) != value) return 2;
-    } else if (network.empty() && arg.rfind("-", 0) != 0) {
-      network = arg;
-    } else {
-      return 2;
-    }
-  }
-  if (network.empty() || output.empty()) return 2;
+  CliOptions words;
+  if (!words.Parse(args, {kOutputOption, kWidthOption}, 1, 1)) return 2;
+  const std::string& network = words.Positional()[0];
+  const std::string output = words.Value("-o");
+  const int width = PictureWidth(words);
+  if (output.empty() || width == 0) return 2;
   if (!IsNetworkPath(network)) {
     ui.ShowMessage(network + " n'est pas de type Pluvane !!!", kTitle, MessageIcon::kExclamation);
     return 1;
@@ -74,14 +75,17 @@ int RenderCommand(const std::vector<std::string>& args, const std::string& app_p
         MessageIcon::kCritical);
     return 1;
   }
-  Surface surface;
+  // The symbols are looked for in the folder that the configuration names.
+  CliNetwork program(ui);
+  if (!program.Start(app_path)) return 1;
+  Surface& surface = program.surface;
   if (!surface.LoadFile(network, 0)) {
     ui.ShowMessage("Le fichier " + network + " ne peut pas être lu comme un réseau Pluvane.",
                    kTitle, MessageIcon::kExclamation);
     return 1;
   }
   EnsureGuiApplication();
-  const PictureFolders folders{DirOf(network), JoinPath(app_path, "Symboles")};
+  const PictureFolders folders{DirOf(network), program.state().SymbolDir};
   if (!SaveDrawingPicture(surface, output, width, folders)) {
     ui.ShowMessage("Erreur de sauvegarde : écriture impossible de " + output, kTitle,
                    MessageIcon::kCritical);
@@ -93,25 +97,13 @@ int RenderCommand(const std::vector<std::string>& args, const std::string& app_p
 
 int PlotCommand(const std::vector<std::string>& args, const std::string&, std::ostream& out,
                 ScriptedUi& ui) {
-  std::string script, ctl, output;
-  int width = kDefaultPictureWidth;
-  for (std::size_t i = 0; i < args.size(); ++i) {
-    const std::string& arg = args[i];
-    if ((arg == "--ctl" || arg == "-o" || arg == "--width") && i + 1 >= args.size()) return 2;
-    if (arg == "--ctl") {
-      ctl = args[++i];
-    } else if (arg == "-o" || arg == "--output") {
-      output = args[++i];
-    } else if (arg == "--width") {
-      width = static_cast<int>(ValLong(args[++i]));
-      if (width < 1) return 2;
-    } else if (script.empty() && arg.rfind("-", 0) != 0) {
-      script = arg;
-    } else {
-      return 2;
-    }
-  }
-  if (script.empty()) return 2;
+  CliOptions words;
+  if (!words.Parse(args, {{{"--ctl"}, true, true}, kOutputOption, kWidthOption}, 1, 1)) return 2;
+  const std::string& script = words.Positional()[0];
+  const std::string ctl = words.Value("--ctl");
+  const std::string output = words.Value("-o");
+  const int width = PictureWidth(words);
+  if (width == 0) return 2;
   if (!output.empty() && PictureFormatOf(output) == PictureFormat::kUnknown) {
     ui.ShowMessage(
         "Erreur de sauvegarde : format d'image non reconnu (" + LastExtension(output) + ")", kTitle,

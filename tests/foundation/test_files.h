@@ -18,6 +18,9 @@ class TempFolder {
     const auto* info = ::testing::UnitTest::GetInstance()->current_test_info();
     std::string leaf = std::string("pluvane_") + (info ? info->test_suite_name() : "t") + "_" +
                        (info ? info->name() : "x") + "_" + std::to_string(::getpid());
+    // Several folders of one test stand apart.
+    static int count = 0;
+    if (++count > 1) leaf += "_" + std::to_string(count);
     path_ = std::filesystem::temp_directory_path() / leaf;
     std::filesystem::remove_all(path_);
     std::filesystem::create_directories(path_);

@@ -1,4 +1,5 @@
 #include "network/persistence.h"
+#include "network/view_zoom.h"
 
 #include <gtest/gtest.h>
 
@@ -113,6 +114,29 @@ TEST_F(PersistenceTest, ANetworkWithoutZoomFactorsKeepsThePresentZoom) {
   EXPECT_EQ(state_.ZoomFactor, 0.3);
   EXPECT_EQ(surface_.ViewLeft(), 25000);
   EXPECT_EQ(surface_.ViewWidth(), 30000);
+}
+
+TEST_F(PersistenceTest, ANetworkWithoutZoomFactorsIsNeverCutAtTheEdgeOfTheView) {
+  AddElement(99, "Nod_1", 10000, 20000);
+  AddElement(99, "Nod_2", 90000, 30000);
+  const std::string path = folder_.File("sans_zoom.mtf");
+  ASSERT_TRUE(surface_.SaveFile(path, kNativeFormat));
+  surface_.ClearDrawing();
+  // The first view of the program: a quarter of the drawing, which holds Nod_1 alone.
+  state_.ClientWidth = 1000;
+  state_.ClientHeight = 500;
+  ZoomToRect(surface_, state_, 0, 0, 50000, 25000);
+  NetworkSession s = Session();
+  ASSERT_TRUE(OpenNetwork(s, true, path));
+  // Both nodes in the view, the network in its middle, a margin of 5 % around it.
+  const double left = surface_.ViewLeft(), top = surface_.ViewTop();
+  const double width = surface_.ViewWidth(), height = surface_.ViewHeight();
+  EXPECT_NEAR(left + width / 2, (10000 + 90100) / 2.0, 1);
+  EXPECT_NEAR(top + height / 2, (20000 + 30100) / 2.0, 1);
+  EXPECT_NEAR(width, 80100 * 1.1, 1);
+  EXPECT_NEAR(height, width / 2, 1);
+  EXPECT_LT(left, 10000);
+  EXPECT_GT(left + width, 90100);
 }
 
 TEST_F(PersistenceTest, TheSavedViewComesBack) {

@@ -141,6 +141,30 @@ TEST_F(ApplicationTest, ARelativeFileIsTakenInTheCurrentFolder) {
   EXPECT_EQ(app_.CommandLineStart(), 12);
 }
 
+TEST_F(ApplicationTest, ARelativePathWithItsFolderIsTakenFromTheStartFolder) {
+  // As `make run` starts the program: from its folder, with Exemples/Demo.mtf.
+  MakeNetwork("quartier.mtf");
+  fs::current_path(folder_.Path());
+  ASSERT_TRUE(app_.Load(folder_.Path(), "reseaux/quartier.mtf"));
+  EXPECT_EQ(app_.FirstActivation(), Application::Activation::kReady);
+  EXPECT_TRUE(ui_.Messages().empty()) << ui_.Messages().front().text;
+  EXPECT_EQ(app_.state().NetworkFile, folder_.File("reseaux/quartier.mtf"));
+  EXPECT_GT(FindObject(surface_, "Id", "Nod_3"), 10);
+  EXPECT_EQ(fs::current_path(), fs::path(folder_.File("reseaux")));
+  // The folder has changed since; the same command line still names the same file.
+  EXPECT_EQ(app_.CommandLineStart(), 0);
+  EXPECT_EQ(app_.state().NetworkFile, folder_.File("reseaux/quartier.mtf"));
+}
+
+TEST_F(ApplicationTest, DotsOfARelativePathAreResolved) {
+  MakeNetwork("quartier.mtf");
+  fs::create_directories(folder_.File("ailleurs"));
+  fs::current_path(folder_.File("ailleurs"));
+  ASSERT_TRUE(app_.Load(folder_.Path(), "./../reseaux/quartier.mtf"));
+  EXPECT_EQ(app_.FirstActivation(), Application::Activation::kReady);
+  EXPECT_EQ(app_.state().NetworkFile, folder_.File("reseaux/quartier.mtf"));
+}
+
 TEST_F(ApplicationTest, AnotherExtensionEndsInFichierMtfInconnuAndTheWindowCloses) {
   const std::string path = folder_.File("plan.png");
   WriteBytes(path, "png");
