@@ -13,6 +13,7 @@
 #include "network/link_fusion.h"
 #include "network/locate_element.h"
 #include "network/move_rules.h"
+#include "network/network_summary.h"
 #include "network/network_clipboard.h"
 #include "network/surface_guards.h"
 #include "network/surface_helpers.h"
@@ -383,6 +384,15 @@ void MainInteraction::MoveSelection(int dx, int dy) {
   UndoStep step(surface_, "Déplacer");
   surface_.SetCurrentObject(kSelection);
   surface_.MoveObject(dx, dy);
+  // The moved elements note their new place as after a move with the mouse,
+  // and on a calibrated network their map place and lengths too; the
+  // selection stays for the next key.
+  const std::vector<int> selected = SelectedObjects(surface_);
+  FinishMove(surface_, state_, IsCalibrated(surface_));
+  for (int number : selected) {
+    surface_.SetCurrentObject(number);
+    surface_.SetSelected(true);
+  }
 }
 
 void MainInteraction::DeleteSelected(InteractionResult& result) {

@@ -14,11 +14,13 @@
 #include "editors/frm_impfile_dlg.h"
 #include "foundation/paths.h"
 #include "network/link_direction.h"
+#include "network/merge_network.h"
 #include "network/persistence.h"
 #include "network/snap.h"
 #include "shell/drawing_export.h"
 #include "shell/frm_preference.h"
 #include "shell/main_menus.h"
+#include "shell/view_commands.h"
 #include "simulation/data_recap.h"
 #include "simulation/engine_commands.h"
 #include "simulation/frm_scn_sim_param.h"
@@ -123,6 +125,14 @@ void MainWindow::BindCommands() {
       {"mnuFile_Load", after([=] {
          NetworkSession s = session();
          mnuFile_Load(s);
+       })},
+      {"MnuFi_Import_Mtf", after([=] {
+         NetworkSession s = session();
+         MergeNetwork(s, [this] {
+           if (interaction_->LinkArrows()) {
+             ShowLinkArrows(surface_, application_->state(), ui_, true);
+           }
+         });
        })},
       {"MnuFi_Import_Fond", after([this] { ImportBackground(); })},
       {"MnuFi_Export_Emf", [this] { MnuFi_Export_Emf(application_->state(), ui_); }},

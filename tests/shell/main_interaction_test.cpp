@@ -2,7 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+
 #include "foundation/expect_message.h"
+#include "foundation/numbers.h"
+#include "network/calibration_points.h"
 #include "foundation/test_files.h"
 #include "network/catalogue.h"
 #include "network/placement_fixture.h"
@@ -400,6 +404,48 @@ TEST_F(MainInteractionTest, ArrowsMoveTheSelection) {
   interaction.Key(39, 1);
   interaction.Key(40, 0);
   EXPECT_EQ(ObjectCentre(surface, a), std::make_pair(1090.0, 910.0));
+}
+
+TEST_F(MainInteractionTest, ArrowsRewriteThePlaceOfWhatTheyMoveAndKeepTheSelection) {
+  const int a = Node(1000, 1000);
+  surface.SetCurrentObject(a);
+  const std::string xus = surface.ObjTag("Xus"), yus = surface.ObjTag("Yus");
+  Select(a);
+  interaction.Key(37, 0);
+  surface.SetCurrentObject(a);
+  EXPECT_EQ(surface.ObjTag("Xlog"), "990");
+  EXPECT_EQ(surface.ObjTag("Ylog"), "1000");
+  // No calibration points stand: the map place is left as it was.
+  EXPECT_EQ(surface.ObjTag("Xus"), xus);
+  EXPECT_EQ(surface.ObjTag("Yus"), yus);
+  EXPECT_TRUE(surface.IsSelected(a));
+  interaction.Key(37, 0);
+  surface.SetCurrentObject(a);
+  EXPECT_EQ(surface.ObjTag("Xlog"), "980");
+}
+
+TEST_F(MainInteractionTest, OnACalibratedNetworkArrowsRewriteTheMapPlaceAndTheLengths) {
+  AddCalibrationPoints(surface, state);
+  HideCalibrationPoints(surface, state);
+  const int a = Node(1000, 1000);
+  const int b = Node(3000, 1000);
+  const int link = Link("X_CAC", a, b);
+  Select(a);
+  interaction.Key(40, 1);
+  surface.SetCurrentObject(a);
+  EXPECT_EQ(surface.ObjTag("Xlog"), "1000");
+  EXPECT_EQ(surface.ObjTag("Ylog"), "1100");
+  // The map of the drawing's corners: X = Xlog, Y = height - Ylog.
+  EXPECT_EQ(surface.ObjTag("Xus"), "1000");
+  EXPECT_EQ(surface.ObjTag("Yus"), "8900");
+  surface.SetCurrentObject(link);
+  EXPECT_NEAR(Val(surface.ObjTag("L")), std::hypot(2000.0, 100.0), 0.01);
+  // One step takes the move and its tags back.
+  interaction.Key(90, kCtrl);
+  surface.SetCurrentObject(a);
+  EXPECT_EQ(ObjectCentre(surface, a), std::make_pair(1000.0, 1000.0));
+  EXPECT_EQ(surface.ObjTag("Ylog"), "1000");
+  EXPECT_EQ(surface.ObjTag("Yus"), "9000");
 }
 
 TEST_F(MainInteractionTest, UndoAndRedo) {
