@@ -1,6 +1,7 @@
 // The logic of a data-entry form, apart from any window: its caption, the
 // grids it owns, the commands of its buttons. A generic window shows any
-// controller; tests fill the grids, run a command and read what was said.
+// controller; tests fill the grids, run a command or send a cell event, and
+// read what was said.
 #pragma once
 
 #include <string>
@@ -25,6 +26,13 @@ class FormController {
   virtual std::vector<FormCommand> Commands() const = 0;
   // Runs the command of that name; unknown names do nothing.
   virtual void Run(const std::string& command) = 0;
+
+  // Events of the cells, as the window reports them (columns and rows from 1).
+  // A form answers those it cares about; the others do nothing.
+  // A click on a button cell.
+  virtual void ButtonCell(Grid& /*grid*/, int /*col*/, int /*row*/) {}
+  // A double click on a cell.
+  virtual void DoubleClickCell(Grid& /*grid*/, int /*col*/, int /*row*/) {}
 
   // True once a command has unloaded the form.
   bool Closed() const { return closed_; }

@@ -95,6 +95,10 @@ void FrmScnSimParam::RenameRow(int row, const std::string& old_id) {
   }
 }
 
+void FrmScnSimParam::ButtonCell(Grid& grid, int col, int row) {
+  if (&grid == &grid_ && col == kColEdit) EditRow(row);
+}
+
 void FrmScnSimParam::EditRow(int row) {
   if (row < 1 || row > grid_.MaxRows()) return;
   const std::string id = Trim(grid_.Text(kColId, row));

@@ -27,6 +27,8 @@ class FrmScnSimParam : public FormController {
   std::vector<Grid*> Grids() override { return {&grid_}; }
   std::vector<FormCommand> Commands() const override;
   void Run(const std::string& command) override;
+  // The "&Editer..." button of a row opens that scenario's edition.
+  void ButtonCell(Grid& grid, int col, int row) override;
 
   Grid& grid() { return grid_; }
   // The Ids of the records the last save deleted.

@@ -5,11 +5,51 @@
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QScreen>
 #include <QVBoxLayout>
 
 #include "foundation/grid_clipboard.h"
 
 namespace pluvane {
+
+namespace {
+
+// A head wider than this many pixels is wrapped on two lines.
+constexpr int kWideHead = 150;
+
+// Each column as wide as the grid asks, and at least as wide as its contents
+// and its head (a long head wraps on two lines). The row heads take the width
+// of their own texts; a grid whose row-head column has no width shows none.
+void SizeColumns(QTableView* table, const Grid& grid) {
+  const QFontMetrics metrics = table->fontMetrics();
+  const int char_width = metrics.horizontalAdvance('0');
+  QHeaderView* heads = table->horizontalHeader();
+  bool wrapped = false;
+  for (int col = 1; col <= grid.MaxCols(); ++col) {
+    int width = static_cast<int>(grid.ColWidth(col) * char_width) + 8;
+    if (grid.ColWidth(col) <= 0) {
+      table->setColumnHidden(col - 1, true);
+      continue;
+    }
+    width = std::max(width, static_cast<QAbstractItemView*>(table)->sizeHintForColumn(col - 1));
+    const int head = metrics.horizontalAdvance(QString::fromStdString(grid.Text(col, 0))) + 16;
+    if (head > width && head > kWideHead) {
+      width = std::max(width, head / 2 + 24);
+      wrapped = true;
+    } else {
+      width = std::max(width, head);
+    }
+    table->setColumnWidth(col - 1, width);
+  }
+  if (wrapped) {
+    // The header passes its alignment on as text flags: word wrap included.
+    heads->setDefaultAlignment(Qt::Alignment::fromInt(Qt::AlignCenter | Qt::TextWordWrap));
+    heads->setMinimumHeight(2 * metrics.lineSpacing() + 10);
+  }
+  if (grid.ColWidth(0) <= 0) table->verticalHeader()->hide();
+}
+
+}  // namespace
 
 FormWindow::FormWindow(FormController& controller, QWidget* parent)
     : QDialog(parent), controller_(controller) {
@@ -24,11 +64,7 @@ FormWindow::FormWindow(FormController& controller, QWidget* parent)
                                               : QAbstractItemView::ExtendedSelection);
     table->setSelectionBehavior(grid->RowSelect() ? QAbstractItemView::SelectRows
                                                   : QAbstractItemView::SelectItems);
-    const int char_width = table->fontMetrics().horizontalAdvance('0');
-    for (int col = 1; col <= grid->MaxCols(); ++col) {
-      table->setColumnWidth(col - 1, static_cast<int>(grid->ColWidth(col) * char_width) + 8);
-    }
-    table->verticalHeader()->setMinimumWidth(static_cast<int>(grid->ColWidth(0) * char_width));
+    SizeColumns(table, *grid);
     // The grid's cursor and the table's current cell follow each other.
     connect(model, &GridTableModel::activeCellChanged, table, [table, model](int col, int row) {
       table->setCurrentIndex(model->index(row - 1, col - 1));
@@ -48,6 +84,14 @@ FormWindow::FormWindow(FormController& controller, QWidget* parent)
                                     range.bottom() + 1});
               }
             });
+    // Cell events go to the form.
+    const int index = static_cast<int>(tables_.size());
+    connect(table, &QTableView::clicked, this, [this, index](const QModelIndex& cell) {
+      ClickCell(index, GridTableModel::ColOf(cell), GridTableModel::RowOf(cell));
+    });
+    connect(table, &QTableView::doubleClicked, this, [this, index](const QModelIndex& cell) {
+      DoubleClickCell(index, GridTableModel::ColOf(cell), GridTableModel::RowOf(cell));
+    });
     layout->addWidget(table);
     tables_.push_back(table);
     models_.push_back(model);
@@ -81,6 +125,22 @@ void FormWindow::RunCommand(const std::string& command) {
     table->setFocus();
   }
   controller_.Run(command);
+  AfterEvent();
+}
+
+void FormWindow::ClickCell(int index, int col, int row) {
+  Grid& grid = models_.at(index)->grid();
+  if (grid.Type(col, row).kind != CellType::kButton || grid.Locked(col, row)) return;
+  controller_.ButtonCell(grid, col, row);
+  AfterEvent();
+}
+
+void FormWindow::DoubleClickCell(int index, int col, int row) {
+  controller_.DoubleClickCell(models_.at(index)->grid(), col, row);
+  AfterEvent();
+}
+
+void FormWindow::AfterEvent() {
   if (controller_.Closed()) {
     accept();
     return;
@@ -102,14 +162,20 @@ void FormWindow::FitToGrids() {
     width = std::max(width, w);
     // A table shows all its rows up to 15, then scrolls.
     const int rows = std::min(table->model()->rowCount(), 15);
-    const int h = table->horizontalHeader()->sizeHint().height() +
+    const QHeaderView* heads = table->horizontalHeader();
+    const int h = std::max(heads->sizeHint().height(), heads->minimumHeight()) +
                   std::max(rows, 1) * table->verticalHeader()->defaultSectionSize() +
                   2 * table->frameWidth();
     table->setMinimumHeight(h);
     if (table->model()->rowCount() <= 15) table->setMaximumHeight(h);
     height += h;
   }
-  resize(std::max(width + 24, 320), sizeHint().height());
+  // Within the screen; the window may be resized by hand past that.
+  QSize size(std::max(width + 24, 320), sizeHint().height());
+  if (const QScreen* screen = this->screen()) {
+    size = size.boundedTo(screen->availableGeometry().size() * 0.9);
+  }
+  resize(size);
 }
 
 void FormWindow::keyPressEvent(QKeyEvent* event) {

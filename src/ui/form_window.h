@@ -1,6 +1,7 @@
 // The one window that shows any form's logic: its caption, a table for each
 // of its grids, a button for each of its commands. A click runs the command;
-// when the command has unloaded the form, the window closes.
+// clicks on button cells and double clicks go to the form as cell events;
+// when the form has unloaded itself, the window closes.
 #pragma once
 
 #include <QDialog>
@@ -23,11 +24,16 @@ class FormWindow : public QDialog {
   QPushButton* Button(const std::string& command) const;
   // Runs a command as its button does.
   void RunCommand(const std::string& command);
+  // Gives a cell event of table `index` to the form, then follows what the
+  // form did (closed, buttons enabled).
+  void ClickCell(int index, int col, int row);
+  void DoubleClickCell(int index, int col, int row);
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
+  void AfterEvent();
   void RefreshButtons();
   void FitToGrids();
 

@@ -1,7 +1,10 @@
 #include "ui/grid_table_model.h"
 
+#include <QApplication>
 #include <QBrush>
 #include <QComboBox>
+#include <QPainter>
+#include <QStyleOptionButton>
 
 #include "foundation/numbers.h"
 
@@ -147,6 +150,44 @@ void GridTableModel::OnChange(const GridChange& change) {
       emit headerDataChanged(Qt::Horizontal, 0, std::max(0, grid_.MaxCols() - 1));
       break;
   }
+}
+
+namespace {
+
+bool IsButton(const Grid& grid, const QModelIndex& index) {
+  return grid.Type(GridTableModel::ColOf(index), GridTableModel::RowOf(index)).kind ==
+         CellType::kButton;
+}
+
+QStyleOptionButton ButtonOption(const Grid& grid, const QStyleOptionViewItem& option,
+                                const QModelIndex& index) {
+  const int col = GridTableModel::ColOf(index), row = GridTableModel::RowOf(index);
+  QStyleOptionButton button;
+  button.initFrom(option.widget);
+  button.rect = option.rect.adjusted(1, 1, -1, -1);
+  button.text = Q(grid.Text(col, row));
+  button.state = QStyle::State_Raised;
+  if (!grid.Locked(col, row)) button.state |= QStyle::State_Enabled;
+  return button;
+}
+
+}  // namespace
+
+void GridItemDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
+                             const QModelIndex& index) const {
+  if (!IsButton(model_->grid(), index)) return QStyledItemDelegate::paint(painter, option, index);
+  const QStyleOptionButton button = ButtonOption(model_->grid(), option, index);
+  QStyle* style = option.widget ? option.widget->style() : QApplication::style();
+  style->drawControl(QStyle::CE_PushButton, &button, painter, option.widget);
+}
+
+QSize GridItemDelegate::sizeHint(const QStyleOptionViewItem& option,
+                                 const QModelIndex& index) const {
+  if (!IsButton(model_->grid(), index)) return QStyledItemDelegate::sizeHint(option, index);
+  const QStyleOptionButton button = ButtonOption(model_->grid(), option, index);
+  QStyle* style = option.widget ? option.widget->style() : QApplication::style();
+  const QSize text = option.fontMetrics.size(Qt::TextShowMnemonic, button.text);
+  return style->sizeFromContents(QStyle::CT_PushButton, &button, text, option.widget);
 }
 
 QWidget* GridItemDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem& option,

@@ -41,13 +41,17 @@ class GridTableModel : public QAbstractTableModel {
   int listener_ = 0;
 };
 
-// Edits list cells in a combo box of their entries.
+// Edits list cells in a combo box of their entries, and draws button cells
+// as push buttons (an ampersand of their text marks the mnemonic).
 class GridItemDelegate : public QStyledItemDelegate {
   Q_OBJECT
 
  public:
   explicit GridItemDelegate(GridTableModel* model, QObject* parent = nullptr)
       : QStyledItemDelegate(parent), model_(model) {}
+  void paint(QPainter* painter, const QStyleOptionViewItem& option,
+             const QModelIndex& index) const override;
+  QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
   QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option,
                         const QModelIndex& index) const override;
   void setEditorData(QWidget* editor, const QModelIndex& index) const override;

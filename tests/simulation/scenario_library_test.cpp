@@ -188,6 +188,17 @@ TEST_F(ScenarioLibraryTest, EditOpensTheScenarioWithItsDefaults) {
   EXPECT_EQ(Tag(n, "CalcMode"), "");
 }
 
+TEST_F(ScenarioLibraryTest, TheButtonCellOfARowOpensThatScenario) {
+  AddScenario("Scn-1", "CAQ_1", 104);
+  AddScenario("Scn-2", "CAQ_1", 104);
+  FrmScnSimParam form = Form();
+  // A click elsewhere than on the button column opens nothing.
+  form.ButtonCell(form.grid(), FrmScnSimParam::kColUsId, 2);
+  EXPECT_TRUE(opened_.empty());
+  form.ButtonCell(form.grid(), FrmScnSimParam::kColEdit, 2);
+  EXPECT_EQ(opened_, std::vector<std::string>{"Paramétrage du scénario Scn-2"});
+}
+
 TEST_F(ScenarioLibraryTest, MarkingTheLastRowKeepsTheCursorAndAnOutsideRowDoesNothing) {
   AddScenario("Scn-1", "CAQ_1", 104);
   FrmScnSimParam form = Form();
