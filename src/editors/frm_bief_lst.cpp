@@ -49,14 +49,10 @@ FrmBiefLst::FrmBiefLst(Surface& surface, AppState& state, UserInterface& ui,
 
 FrmBiefLst::~FrmBiefLst() { Unload(); }
 
-std::vector<FormCommand> FrmBiefLst::Commands() const {
-  return {{"mnDel", "&Supprimer"}, {"mnSave", "&Enregistrer"}, {"cmdOk", "&Ok"}};
-}
-
-void FrmBiefLst::Run(const std::string& command) {
-  if (command == "mnDel") mnDel();
-  if (command == "mnSave") mnSave();
-  if (command == "cmdOk") cmdOk();
+std::vector<FormCommand> FrmBiefLst::Commands() {
+  return {{"mnDel", "&Supprimer", [this] { mnDel(); }},
+          {"mnSave", "&Enregistrer", [this] { mnSave(); }},
+          {"cmdOk", "&Ok", [this] { cmdOk(); }}};
 }
 
 void FrmBiefLst::SelectRow(int row) {

@@ -38,8 +38,7 @@ class FrmBiefLst : public FormController {
 
   std::string Caption() const override { return "Liste des biefs"; }
   std::vector<Grid*> Grids() override { return {&reaches_, &collectors_}; }
-  std::vector<FormCommand> Commands() const override;
-  void Run(const std::string& command) override;
+  std::vector<FormCommand> Commands() override;
 
   Grid& reaches() { return reaches_; }
   Grid& collectors() { return collectors_; }

@@ -22,14 +22,10 @@ FrmBiefUserCreate::FrmBiefUserCreate(Surface& surface, AppState& state, UserInte
   state_.PendingReach = 0;
 }
 
-std::vector<FormCommand> FrmBiefUserCreate::Commands() const {
-  return {{"cmdAdd", "&Ajouter"}, {"cmdOk", "&Ok"}, {"cmdAnnul", "&Annuler"}};
-}
-
-void FrmBiefUserCreate::Run(const std::string& command) {
-  if (command == "cmdAdd") cmdAdd();
-  if (command == "cmdOk") cmdOk();
-  if (command == "cmdAnnul") cmdAnnul();
+std::vector<FormCommand> FrmBiefUserCreate::Commands() {
+  return {{"cmdAdd", "&Ajouter", [this] { cmdAdd(); }},
+          {"cmdOk", "&Ok", [this] { cmdOk(); }},
+          {"cmdAnnul", "&Annuler", [this] { cmdAnnul(); }}};
 }
 
 void FrmBiefUserCreate::cmdAdd() { SSAddRow(grid_); }

@@ -20,8 +20,7 @@ class FrmBiefUserCreate : public FormController {
 
   std::string Caption() const override { return "Création d'un nouveau Bief"; }
   std::vector<Grid*> Grids() override { return {&grid_}; }
-  std::vector<FormCommand> Commands() const override;
-  void Run(const std::string& command) override;
+  std::vector<FormCommand> Commands() override;
 
   Grid& grid() { return grid_; }
   // How many rows list the numbers in use.

@@ -57,18 +57,11 @@ FrmCalage::FrmCalage(Surface& surface, AppState& state, UserInterface& ui, Calag
 
 FrmCalage::~FrmCalage() { Unload(); }
 
-std::vector<FormCommand> FrmCalage::Commands() const {
-  return {{"cmdNew", "&Nouveau", new_enabled_},
-          {"cmdDel", "&Supprimer", del_enabled_},
-          {"cmdOk", "&Ok"},
-          {"cmdCancel", "&Fermer"}};
-}
-
-void FrmCalage::Run(const std::string& command) {
-  if (command == "cmdNew" && new_enabled_) cmdNew();
-  if (command == "cmdDel" && del_enabled_) cmdDel();
-  if (command == "cmdOk") cmdOk();
-  if (command == "cmdCancel") cmdCancel();
+std::vector<FormCommand> FrmCalage::Commands() {
+  return {{"cmdNew", "&Nouveau", [this] { cmdNew(); }, new_enabled_},
+          {"cmdDel", "&Supprimer", [this] { cmdDel(); }, del_enabled_},
+          {"cmdOk", "&Ok", [this] { cmdOk(); }},
+          {"cmdCancel", "&Fermer", [this] { cmdCancel(); }}};
 }
 
 void FrmCalage::cmdNew() {

@@ -38,8 +38,7 @@ class FrmCalage : public FormController {
 
   std::string Caption() const override { return "Définition des points de calage"; }
   std::vector<Grid*> Grids() override { return {&grid_}; }
-  std::vector<FormCommand> Commands() const override;
-  void Run(const std::string& command) override;
+  std::vector<FormCommand> Commands() override;
 
   Grid& grid() { return grid_; }
   bool NewEnabled() const { return new_enabled_; }

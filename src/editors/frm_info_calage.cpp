@@ -19,13 +19,9 @@ FrmInfoCalage::FrmInfoCalage(Surface& surface, UserInterface& ui, int record)
   grid_.SetActiveCell(1, 1);
 }
 
-std::vector<FormCommand> FrmInfoCalage::Commands() const {
-  return {{"cmdOk", "&Ok"}, {"cmdCancel", "&Annuler"}};
-}
-
-void FrmInfoCalage::Run(const std::string& command) {
-  if (command == "cmdOk") cmdOk();
-  if (command == "cmdCancel") cmdCancel();
+std::vector<FormCommand> FrmInfoCalage::Commands() {
+  return {{"cmdOk", "&Ok", [this] { cmdOk(); }},
+          {"cmdCancel", "&Annuler", [this] { cmdCancel(); }}};
 }
 
 void FrmInfoCalage::cmdOk() {

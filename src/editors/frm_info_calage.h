@@ -19,8 +19,7 @@ class FrmInfoCalage : public FormController {
 
   std::string Caption() const override { return "Coordonnées du point de calage"; }
   std::vector<Grid*> Grids() override { return {&grid_}; }
-  std::vector<FormCommand> Commands() const override;
-  void Run(const std::string& command) override;
+  std::vector<FormCommand> Commands() override;
 
   Grid& grid() { return grid_; }
   const std::string& PointId() const { return point_id_; }

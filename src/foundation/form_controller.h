@@ -4,6 +4,7 @@
 // read what was said.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -11,9 +12,12 @@
 
 namespace pluvane {
 
+// One command of a form: its name, the caption of its button, what it does,
+// and whether it may run now.
 struct FormCommand {
   std::string name;     // "cmdOk", "cmdAnnul", "mnSave"...
   std::string caption;  // "&Ok", "Annuler"...
+  std::function<void()> action;
   bool enabled = true;
 };
 
@@ -23,14 +27,23 @@ class FormController {
 
   virtual std::string Caption() const = 0;
   virtual std::vector<Grid*> Grids() = 0;
-  virtual std::vector<FormCommand> Commands() const = 0;
-  // Runs the command of that name; unknown names do nothing.
-  virtual void Run(const std::string& command) = 0;
+  // The form's commands, each once, in the order of their buttons.
+  virtual std::vector<FormCommand> Commands() = 0;
+  // Runs the command of that name when it is enabled; unknown names do nothing.
+  void Run(const std::string& name) {
+    for (const FormCommand& command : Commands()) {
+      if (command.name != name) continue;
+      if (command.enabled && command.action) command.action();
+      return;
+    }
+  }
 
   // Events of the cells, as the window reports them (columns and rows from 1).
   // A form answers those it cares about; the others do nothing.
   // A click on a button cell.
   virtual void ButtonCell(Grid& /*grid*/, int /*col*/, int /*row*/) {}
+  // A click on any other cell.
+  virtual void ClickCell(Grid& /*grid*/, int /*col*/, int /*row*/) {}
   // A double click on a cell.
   virtual void DoubleClickCell(Grid& /*grid*/, int /*col*/, int /*row*/) {}
 

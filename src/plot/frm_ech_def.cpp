@@ -46,14 +46,10 @@ FrmEchDef::FrmEchDef(UserInterface& ui, ViewerState& state)
   Load(state_.script);
 }
 
-std::vector<FormCommand> FrmEchDef::Commands() const {
-  return {{"Command1", "&Appliquer"}, {"Command2", "&Initial"}, {"Command3", "A&nnuler"}};
-}
-
-void FrmEchDef::Run(const std::string& command) {
-  if (command == "Command1") Command1();
-  if (command == "Command2") Command2();
-  if (command == "Command3") Command3();
+std::vector<FormCommand> FrmEchDef::Commands() {
+  return {{"Command1", "&Appliquer", [this] { Command1(); }},
+          {"Command2", "&Initial", [this] { Command2(); }},
+          {"Command3", "A&nnuler", [this] { Command3(); }}};
 }
 
 bool FrmEchDef::Load(const std::string& script) {

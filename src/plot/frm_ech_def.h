@@ -21,8 +21,7 @@ class FrmEchDef : public FormController {
 
   std::string Caption() const override { return "Définition des Echelles"; }
   std::vector<Grid*> Grids() override { return {&Spread1}; }
-  std::vector<FormCommand> Commands() const override;
-  void Run(const std::string& command) override;
+  std::vector<FormCommand> Commands() override;
 
   // Checks the min/max pair of the cell's column when leaving it; false,
   // with its message, when the pair is reversed (the cursor stays).

@@ -91,18 +91,11 @@ void FrmSelection::Fill(const std::vector<std::string>& names) {
   Spread1.SetRedraw(true);
 }
 
-std::vector<FormCommand> FrmSelection::Commands() const {
-  return {{"mnDessiner", draw_caption_},
-          {"mnSelection", "Tout &sélectionner"},
-          {"mnDeselect", "Tout &désélectionner"},
-          {"mnClose", "&Fermer"}};
-}
-
-void FrmSelection::Run(const std::string& command) {
-  if (command == "mnDessiner") mnDessiner();
-  if (command == "mnSelection") mnSelection();
-  if (command == "mnDeselect") mnDeselect();
-  if (command == "mnClose") mnClose();
+std::vector<FormCommand> FrmSelection::Commands() {
+  return {{"mnDessiner", draw_caption_, [this] { mnDessiner(); }},
+          {"mnSelection", "Tout &sélectionner", [this] { mnSelection(); }},
+          {"mnDeselect", "Tout &désélectionner", [this] { mnDeselect(); }},
+          {"mnClose", "&Fermer", [this] { mnClose(); }}};
 }
 
 void FrmSelection::Spread1_Click(int row) {

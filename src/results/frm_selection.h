@@ -22,8 +22,7 @@ class FrmSelection : public FormController {
 
   std::string Caption() const override { return caption_; }
   std::vector<Grid*> Grids() override { return {&Spread1}; }
-  std::vector<FormCommand> Commands() const override;
-  void Run(const std::string& command) override;
+  std::vector<FormCommand> Commands() override;
 
   // A click on a row swaps "1" and "0" in its check column.
   void Spread1_Click(int row);

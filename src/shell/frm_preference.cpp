@@ -34,13 +34,9 @@ FrmPreference::FrmPreference(AppState& state, UserInterface& ui, std::function<v
                                                                                          : "0");
 }
 
-std::vector<FormCommand> FrmPreference::Commands() const {
-  return {{"cmdOk", "&Ok"}, {"cmdCancel", "&Annuler"}};
-}
-
-void FrmPreference::Run(const std::string& command) {
-  if (command == "cmdOk") cmdOk();
-  if (command == "cmdCancel") cmdCancel();
+std::vector<FormCommand> FrmPreference::Commands() {
+  return {{"cmdOk", "&Ok", [this] { cmdOk(); }},
+          {"cmdCancel", "&Annuler", [this] { cmdCancel(); }}};
 }
 
 void FrmPreference::cmdOk() {

@@ -23,8 +23,7 @@ class FrmPreference : public FormController {
 
   std::string Caption() const override { return "Préférences"; }
   std::vector<Grid*> Grids() override { return {&grid_}; }
-  std::vector<FormCommand> Commands() const override;
-  void Run(const std::string& command) override;
+  std::vector<FormCommand> Commands() override;
 
   Grid& grid() { return grid_; }
   void cmdOk();

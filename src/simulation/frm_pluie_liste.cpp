@@ -36,14 +36,10 @@ FrmPluieListe::FrmPluieListe(Surface& surface, AppState& state, UserInterface& u
   Preselect();
 }
 
-std::vector<FormCommand> FrmPluieListe::Commands() const {
-  return {{"mnuSelect", "&Sélectionner"}, {"mnuImport", "&Importer"}, {"mnuClose", "&Fermer"}};
-}
-
-void FrmPluieListe::Run(const std::string& command) {
-  if (command == "mnuSelect") mnuSelect();
-  if (command == "mnuImport") mnuImport();
-  if (command == "mnuClose") mnuClose();
+std::vector<FormCommand> FrmPluieListe::Commands() {
+  return {{"mnuSelect", "&Sélectionner", [this] { mnuSelect(); }},
+          {"mnuImport", "&Importer", [this] { mnuImport(); }},
+          {"mnuClose", "&Fermer", [this] { mnuClose(); }}};
 }
 
 void FrmPluieListe::mnuSelect() {

@@ -33,8 +33,7 @@ class FrmPluieListe : public FormController {
 
   std::string Caption() const override { return "Liste des pluies"; }
   std::vector<Grid*> Grids() override { return {&grid_}; }
-  std::vector<FormCommand> Commands() const override;
-  void Run(const std::string& command) override;
+  std::vector<FormCommand> Commands() override;
 
   Grid& grid() { return grid_; }
 

@@ -84,13 +84,9 @@ FrmScnPluie::FrmScnPluie(Surface& surface, AppState& state, UserInterface& /*ui*
   }
 }
 
-std::vector<FormCommand> FrmScnPluie::Commands() const {
-  return {{"cmdOk", "&Ok"}, {"cmdAnnul", "&Annuler"}};
-}
-
-void FrmScnPluie::Run(const std::string& command) {
-  if (command == "cmdOk") cmdOk();
-  if (command == "cmdAnnul") cmdAnnul();
+std::vector<FormCommand> FrmScnPluie::Commands() {
+  return {{"cmdOk", "&Ok", [this] { cmdOk(); }},
+          {"cmdAnnul", "&Annuler", [this] { cmdAnnul(); }}};
 }
 
 void FrmScnPluie::cmdOk() {

@@ -32,8 +32,7 @@ class FrmScnPluie : public FormController {
 
   std::string Caption() const override { return "Scénario de pluie"; }
   std::vector<Grid*> Grids() override { return {&grid_}; }
-  std::vector<FormCommand> Commands() const override;
-  void Run(const std::string& command) override;
+  std::vector<FormCommand> Commands() override;
 
   Grid& grid() { return grid_; }
 

@@ -32,21 +32,12 @@ FrmScnSimParam::FrmScnSimParam(Surface& surface, AppState& state, UserInterface&
   }
 }
 
-std::vector<FormCommand> FrmScnSimParam::Commands() const {
-  return {{"mnAdd", "&Ajouter"},
-          {"mnIns", "&Insérer"},
-          {"mnDel", "&Supprimer"},
-          {"mnSave", "&Enregistrer"},
-          {"mnClose", "&Fermer"}};
-}
-
-void FrmScnSimParam::Run(const std::string& command) {
-  if (command == "mnAdd") mnAdd();
-  if (command == "mnIns") mnIns();
-  if (command == "mnDel") mnDel();
-  if (command == "mnSave") mnSave();
-  if (command == "mnClose") mnClose();
-  if (command == "EditRow") EditRow(grid_.ActiveRow());
+std::vector<FormCommand> FrmScnSimParam::Commands() {
+  return {{"mnAdd", "&Ajouter", [this] { mnAdd(); }},
+          {"mnIns", "&Insérer", [this] { mnIns(); }},
+          {"mnDel", "&Supprimer", [this] { mnDel(); }},
+          {"mnSave", "&Enregistrer", [this] { mnSave(); }},
+          {"mnClose", "&Fermer", [this] { mnClose(); }}};
 }
 
 void FrmScnSimParam::mnAdd() {

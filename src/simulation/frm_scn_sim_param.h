@@ -25,8 +25,7 @@ class FrmScnSimParam : public FormController {
 
   std::string Caption() const override { return "Scénarii de simulation"; }
   std::vector<Grid*> Grids() override { return {&grid_}; }
-  std::vector<FormCommand> Commands() const override;
-  void Run(const std::string& command) override;
+  std::vector<FormCommand> Commands() override;
   // The "&Editer..." button of a row opens that scenario's edition.
   void ButtonCell(Grid& grid, int col, int row) override;
 

@@ -50,14 +50,13 @@ FrmScnSimParamPlus::FrmScnSimParamPlus(Surface& surface, AppState& state, UserIn
   spread0_.SetText(kColMode, 1, state_.iModePluie);
 }
 
-std::vector<FormCommand> FrmScnSimParamPlus::Commands() const {
-  return {{"mnSave", "&Enregistrer"}, {"mnClose", "&Fermer"}};
+std::vector<FormCommand> FrmScnSimParamPlus::Commands() {
+  return {{"mnSave", "&Enregistrer", [this] { mnSave(); }},
+          {"mnClose", "&Fermer", [this] { mnClose(); }}};
 }
 
-void FrmScnSimParamPlus::Run(const std::string& command) {
-  if (command == "ClickRain") ClickRain();
-  if (command == "mnSave") mnSave();
-  if (command == "mnClose") mnClose();
+void FrmScnSimParamPlus::ClickCell(Grid& grid, int col, int row) {
+  if (&grid == &spread0_ && col == kColId && row == 1) ClickRain();
 }
 
 void FrmScnSimParamPlus::ClickRain() {

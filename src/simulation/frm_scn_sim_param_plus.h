@@ -33,8 +33,9 @@ class FrmScnSimParamPlus : public FormController {
 
   std::string Caption() const override { return "Paramétrage du scénario " + id_; }
   std::vector<Grid*> Grids() override { return {&spread1_, &spread0_}; }
-  std::vector<FormCommand> Commands() const override;
-  void Run(const std::string& command) override;
+  std::vector<FormCommand> Commands() override;
+  // A click on the first cell of the rain opens the rain list.
+  void ClickCell(Grid& grid, int col, int row) override;
 
   Grid& spread1() { return spread1_; }
   Grid& spread0() { return spread0_; }

@@ -30,13 +30,9 @@ FrmScnSimParamSelect::FrmScnSimParamSelect(Surface& surface, AppState& state, Us
   if (preselected >= 0) grid_.SetListIndex(1, 1, preselected);
 }
 
-std::vector<FormCommand> FrmScnSimParamSelect::Commands() const {
-  return {{"cmdOk", "&Ok"}, {"cmdAnnul", "&Annuler"}};
-}
-
-void FrmScnSimParamSelect::Run(const std::string& command) {
-  if (command == "cmdOk") cmdOk();
-  if (command == "cmdAnnul") cmdAnnul();
+std::vector<FormCommand> FrmScnSimParamSelect::Commands() {
+  return {{"cmdOk", "&Ok", [this] { cmdOk(); }},
+          {"cmdAnnul", "&Annuler", [this] { cmdAnnul(); }}};
 }
 
 void FrmScnSimParamSelect::cmdOk() {

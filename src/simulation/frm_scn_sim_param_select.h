@@ -20,8 +20,7 @@ class FrmScnSimParamSelect : public FormController {
 
   std::string Caption() const override { return "Choix d'un scenario de simulation"; }
   std::vector<Grid*> Grids() override { return {&grid_}; }
-  std::vector<FormCommand> Commands() const override;
-  void Run(const std::string& command) override;
+  std::vector<FormCommand> Commands() override;
 
   Grid& grid() { return grid_; }
 

@@ -130,8 +130,11 @@ void FormWindow::RunCommand(const std::string& command) {
 
 void FormWindow::ClickCell(int index, int col, int row) {
   Grid& grid = models_.at(index)->grid();
-  if (grid.Type(col, row).kind != CellType::kButton || grid.Locked(col, row)) return;
-  controller_.ButtonCell(grid, col, row);
+  if (grid.Type(col, row).kind != CellType::kButton) {
+    controller_.ClickCell(grid, col, row);
+  } else if (!grid.Locked(col, row)) {
+    controller_.ButtonCell(grid, col, row);
+  }
   AfterEvent();
 }
 

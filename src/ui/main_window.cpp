@@ -17,6 +17,7 @@
 #include "network/merge_network.h"
 #include "network/persistence.h"
 #include "network/snap.h"
+#include "network/surface_guards.h"
 #include "shell/drawing_export.h"
 #include "shell/frm_preference.h"
 #include "shell/main_menus.h"
@@ -287,6 +288,8 @@ void MainWindow::ShowAbout(bool modal) {
 }
 
 void MainWindow::OpenForm(FormController& form) {
+  // Whatever the form writes, and the forms it opens, is one step of the journal.
+  UndoStep step(surface_, "Annuler : " + form.Caption());
   FormWindow window(form, this);
   window.exec();
 }

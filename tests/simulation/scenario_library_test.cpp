@@ -178,7 +178,7 @@ TEST_F(ScenarioLibraryTest, NameOfSeventeenCharactersIsAccepted) {
 TEST_F(ScenarioLibraryTest, EditOpensTheScenarioWithItsDefaults) {
   FrmScnSimParam form = Form();
   form.Run("mnAdd");
-  form.Run("EditRow");
+  form.ButtonCell(form.grid(), FrmScnSimParam::kColEdit, form.grid().ActiveRow());
   EXPECT_EQ(opened_, std::vector<std::string>{"Paramétrage du scénario Scn-1"});
   // Opened once, a new scenario holds "Parcourir..." as its rain: not empty.
   const int n = ScenarioObject("Scn-1");

@@ -11,6 +11,8 @@
 #include <functional>
 #include <vector>
 
+#include "network/surface_helpers.h"
+#include "shell/main_keys.h"
 #include "ui/form_window.h"
 #include "ui/main_window.h"
 #include "ui/main_window_fixture.h"
@@ -64,6 +66,28 @@ TEST(ScenarioForms, TheEditButtonCellOpensTheScenarioForm) {
   ASSERT_EQ(titles.size(), 2u);
   EXPECT_EQ(titles[0], "Scénarii de simulation");
   EXPECT_EQ(titles[1], "Paramétrage du scénario Decennale");
+  Quit(window);
+}
+
+TEST(ScenarioForms, AFormValidatedIsOneStepOfTheJournal) {
+  TestApp();
+  AppFolder app;
+  MainWindow window;
+  ASSERT_TRUE(Open(window, app, app.Demo(), true));
+  Surface& surface = window.surface();
+  const int before = CountByTag(surface, "iName", 111);
+  MessageAnswerer answers({"&Non", "&Non"});
+  OnNextForm([](FormWindow* library) {
+    library->Button("mnAdd")->click();
+    library->Button("mnAdd")->click();
+    library->Button("mnSave")->click();
+  });
+  window.RunMenu("mnuScn_Edit");
+  ASSERT_EQ(CountByTag(surface, "iName", 111), before + 2);
+  window.interaction().Key(90, kCtrlMask);
+  EXPECT_EQ(CountByTag(surface, "iName", 111), before);
+  window.interaction().Key(89, kCtrlMask);
+  EXPECT_EQ(CountByTag(surface, "iName", 111), before + 2);
   Quit(window);
 }
 
