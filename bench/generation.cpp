@@ -127,7 +127,8 @@ int main(int argc, char** argv) {
     }
     std::ostringstream out, err;
     const auto start = std::chrono::steady_clock::now();
-    const int status = pluvane::RunCli({"generate", network}, (work / "app").string(), out, err);
+    const int status = pluvane::RunCli({"generate", network}, pluvane::CoreCliCommands(),
+                                        (work / "app").string(), out, err);
     const double ms = Milliseconds(start);
     if (scale == 1) first = ms;
     std::printf("%dx (%d nodes, %d collectors, %d others): generate %s in %.0f ms (%.2f x 1x)\n",

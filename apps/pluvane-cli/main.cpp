@@ -13,8 +13,9 @@ int main(int argc, char** argv) {
   std::error_code error;
   std::filesystem::path self = std::filesystem::read_symlink("/proc/self/exe", error);
   if (error) self = std::filesystem::absolute(argv[0]);
-  // Commands that draw need Qt, which the core does not link.
-  pluvane::RegisterRenderCommand();
+  // The core's commands, and those that draw, which need Qt.
+  std::vector<pluvane::CliCommand> commands = pluvane::CoreCliCommands();
+  for (pluvane::CliCommand& command : pluvane::RenderCliCommands()) commands.push_back(command);
   std::vector<std::string> args(argv + 1, argv + argc);
-  return pluvane::RunCli(args, self.parent_path().string(), std::cout, std::cerr);
+  return pluvane::RunCli(args, commands, self.parent_path().string(), std::cout, std::cerr);
 }

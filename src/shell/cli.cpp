@@ -1,13 +1,12 @@
 #include "shell/cli.h"
 
-#include <functional>
-#include <map>
+#include <algorithm>
 
 #include "foundation/scripted_ui.h"
+#include "foundation/text.h"
 #include "network/network_summary.h"
 #include "network/persistence.h"
 #include "network/surface.h"
-#include "plot/plot_command.h"
 #include "shell/application.h"
 #include "shell/cli_network.h"
 #include "shell/cli_options.h"
@@ -15,28 +14,12 @@
 #include "simulation/engine_commands.h"
 #include "simulation/engine_run.h"
 #include "simulation/model_command.h"
-#include "simulation/model_names.h"
-#include "foundation/text.h"
 #include "simulation/model_generation.h"
+#include "simulation/model_names.h"
 
 namespace pluvane {
 
 namespace {
-
-struct Command {
-  std::string usage;  // the command's lines of the usage text
-  CliCommandRun run;
-};
-
-int Plot(const std::vector<std::string>& args, const std::string&, std::ostream& out,
-         ScriptedUi& ui) {
-  CliOptions words;
-  if (!words.Parse(args, {{{"--ctl"}, true, true}}, 1, 1)) return 2;
-  const std::string ctl = words.Value("--ctl");
-  if (!CompileScriptPage(ui, words.Positional()[0], ctl)) return 1;
-  if (!ctl.empty()) out << ctl << "\n";
-  return 0;
-}
 
 // Prints what a network holds.
 int Info(const std::vector<std::string>& args, const std::string& app_path, std::ostream& out,
@@ -120,47 +103,41 @@ int Recap(const std::vector<std::string>& args, const std::string& app_path, std
   return 0;
 }
 
-std::map<std::string, Command>& Commands() {
-  static std::map<std::string, Command> commands = {
-      {"info",
-       {"  info NETWORK.mtf\n"
-        "                opens a network and prints, for each type present, its\n"
-        "                iName, count and label, then the current scenario and\n"
-        "                whether the network is calibrated\n",
-        Info}},
-      {"generate",
-       {"  generate NETWORK.mtf [--scenario NAME]\n"
-        "                generates the engine's input files of the scenario (the\n"
-        "                network's current one by default) in the model folder\n"
-        "                beside the network, whose path is printed\n",
-        Generate}},
-      {"run",
-       {"  run NETWORK.mtf [--scenario NAME] [--velmar-only]\n"
-        "                generates the model of the scenario, runs Velmar and Sidrel\n"
-        "                (Velmar only with --velmar-only) in the model folder, prints\n"
-        "                the run's log and cleans up as the program does\n",
-        Run}},
-      {"recap",
-       {"  recap NETWORK.mtf [--scenario NAME]\n"
-        "                writes the data recap report of the scenario beside its\n"
-        "                model and prints its path\n",
-        Recap}},
-      {"plot",
-       {"  plot SCRIPT.Mst [--ctl OUT.ctl]\n"
-        "                compiles page 1 of a plot script in the script's folder;\n"
-        "                --ctl also writes the control file there\n",
-        Plot}},
-  };
-  return commands;
-}
-
 }  // namespace
 
-void RegisterCliCommand(const std::string& name, const std::string& usage, CliCommandRun run) {
-  Commands()[name] = Command{usage, std::move(run)};
+std::vector<CliCommand> CoreCliCommands() {
+  return {
+      {"info",
+       "  info NETWORK.mtf\n"
+       "                opens a network and prints, for each type present, its\n"
+       "                iName, count and label, then the current scenario and\n"
+       "                whether the network is calibrated\n",
+       Info},
+      {"generate",
+       "  generate NETWORK.mtf [--scenario NAME]\n"
+       "                generates the engine's input files of the scenario (the\n"
+       "                network's current one by default) in the model folder\n"
+       "                beside the network, whose path is printed\n",
+       Generate},
+      {"run",
+       "  run NETWORK.mtf [--scenario NAME] [--velmar-only]\n"
+       "                generates the model of the scenario, runs Velmar and Sidrel\n"
+       "                (Velmar only with --velmar-only) in the model folder, prints\n"
+       "                the run's log and cleans up as the program does\n",
+       Run},
+      {"recap",
+       "  recap NETWORK.mtf [--scenario NAME]\n"
+       "                writes the data recap report of the scenario beside its\n"
+       "                model and prints its path\n",
+       Recap},
+  };
 }
 
-std::string CliUsage() {
+std::string CliUsage(const std::vector<CliCommand>& commands) {
+  std::vector<const CliCommand*> sorted;
+  for (const CliCommand& command : commands) sorted.push_back(&command);
+  std::sort(sorted.begin(), sorted.end(),
+            [](const CliCommand* a, const CliCommand* b) { return a->name < b->name; });
   std::string usage =
       "usage: pluvane-cli COMMAND [ARGUMENTS]\n"
       "\n"
@@ -168,7 +145,7 @@ std::string CliUsage() {
       "error as 'title: text'; questions take their default answer.\n"
       "\n"
       "Commands:\n";
-  for (const auto& [name, command] : Commands()) usage += command.usage;
+  for (const CliCommand* command : sorted) usage += command->usage;
   usage +=
       "  --help        this text; COMMAND --help, the same\n"
       "\n"
@@ -176,31 +153,32 @@ std::string CliUsage() {
   return usage;
 }
 
-int RunCli(const std::vector<std::string>& args, const std::string& app_path, std::ostream& out,
-           std::ostream& err) {
+int RunCli(const std::vector<std::string>& args, const std::vector<CliCommand>& commands,
+           const std::string& app_path, std::ostream& out, std::ostream& err) {
   if (args.empty()) {
-    err << CliUsage();
+    err << CliUsage(commands);
     return 2;
   }
   const std::string& name = args[0];
   if (name == "--help" || name == "-h" || name == "help") {
-    out << CliUsage();
+    out << CliUsage(commands);
     return 0;
   }
-  auto found = Commands().find(name);
-  if (found == Commands().end()) {
-    err << "pluvane-cli: commande inconnue : " << name << "\n" << CliUsage();
+  const auto found = std::find_if(commands.begin(), commands.end(),
+                                  [&name](const CliCommand& command) { return command.name == name; });
+  if (found == commands.end()) {
+    err << "pluvane-cli: commande inconnue : " << name << "\n" << CliUsage(commands);
     return 2;
   }
   std::vector<std::string> rest(args.begin() + 1, args.end());
   if (!rest.empty() && (rest[0] == "--help" || rest[0] == "-h")) {
-    out << "usage: pluvane-cli\n" << found->second.usage;
+    out << "usage: pluvane-cli\n" << found->usage;
     return 0;
   }
   ScriptedUi ui;
   ui.echo = [&err](const std::string& line) { err << line << "\n"; };
-  const int status = found->second.run(rest, app_path, out, ui);
-  if (status == 2) err << "usage: pluvane-cli\n" << found->second.usage;
+  const int status = found->run(rest, app_path, out, ui);
+  if (status == 2) err << "usage: pluvane-cli\n" << found->usage;
   return status;
 }
 

@@ -20,17 +20,24 @@ using CliCommandRun =
     std::function<int(const std::vector<std::string>& args, const std::string& app_path,
                       std::ostream& out, ScriptedUi& ui)>;
 
-// Adds a command that the core cannot hold (one that needs Qt to draw, say):
-// the program registers it before RunCli. `usage` is its part of the usage
-// text, lines indented as the others. A name already taken is replaced.
-void RegisterCliCommand(const std::string& name, const std::string& usage, CliCommandRun run);
+// One command: its name, its part of the usage text (lines indented as the
+// others), and what runs it.
+struct CliCommand {
+  std::string name;
+  std::string usage;
+  CliCommandRun run;
+};
+
+// The commands of the core: info, generate, run, recap. The program adds
+// those that need Qt to draw (plot, render) to make its one table.
+std::vector<CliCommand> CoreCliCommands();
 
 // `args` are the words after the program's name; `app_path` is the folder of
 // the programs.
-int RunCli(const std::vector<std::string>& args, const std::string& app_path, std::ostream& out,
-           std::ostream& err);
+int RunCli(const std::vector<std::string>& args, const std::vector<CliCommand>& commands,
+           const std::string& app_path, std::ostream& out, std::ostream& err);
 
-// The usage text of `pluvane-cli --help`.
-std::string CliUsage();
+// The usage text of `pluvane-cli --help`, the commands in the order of their names.
+std::string CliUsage(const std::vector<CliCommand>& commands);
 
 }  // namespace pluvane

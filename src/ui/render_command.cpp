@@ -125,19 +125,21 @@ int PlotCommand(const std::vector<std::string>& args, const std::string&, std::o
   return 0;
 }
 
-void RegisterRenderCommand() {
-  RegisterCliCommand("plot",
-                     "  plot SCRIPT.Mst [--ctl OUT.ctl] [-o OUT.svg|pdf|png] [--width PIXELS]\n"
-                     "                compiles page 1 of a plot script in the script's folder;\n"
-                     "                --ctl also writes the control file there, -o draws the\n"
-                     "                page into a picture\n",
-                     PlotCommand);
-  RegisterCliCommand("render",
-                     "  render NETWORK.mtf -o OUT.svg|pdf|png [--width PIXELS]\n"
-                     "                draws the whole network as the window shows it into a\n"
-                     "                picture (SVG, PDF, PNG, BMP or JPG by the extension),\n"
-                     "                PIXELS wide (1600 if not given)\n",
-                     RenderCommand);
+std::vector<CliCommand> RenderCliCommands() {
+  return {
+      {"plot",
+       "  plot SCRIPT.Mst [--ctl OUT.ctl] [-o OUT.svg|pdf|png] [--width PIXELS]\n"
+       "                compiles page 1 of a plot script in the script's folder;\n"
+       "                --ctl also writes the control file there, -o draws the\n"
+       "                page into a picture\n",
+       PlotCommand},
+      {"render",
+       "  render NETWORK.mtf -o OUT.svg|pdf|png [--width PIXELS]\n"
+       "                draws the whole network as the window shows it into a\n"
+       "                picture (SVG, PDF, PNG, BMP or JPG by the extension),\n"
+       "                PIXELS wide (1600 if not given)\n",
+       RenderCommand},
+  };
 }
 
 }  // namespace pluvane

@@ -1,11 +1,14 @@
-// The command "render" of pluvane-cli: the whole network drawn as the view
-// draws it, written as an SVG, PDF or PNG picture without a window. It needs
-// Qt to draw, so the program registers it with the core's command table.
+// The commands of pluvane-cli that draw, without a window: "render", the whole
+// network as the view draws it, and "plot", a page of a plot script, written
+// as SVG, PDF or PNG pictures. They need Qt to draw, so the program adds them
+// to the core's command table.
 #pragma once
 
 #include <ostream>
 #include <string>
 #include <vector>
+
+#include "shell/cli.h"
 
 namespace pluvane {
 
@@ -17,7 +20,11 @@ class ScriptedUi;
 int RenderCommand(const std::vector<std::string>& args, const std::string& app_path,
                   std::ostream& out, ScriptedUi& ui);
 
-// Adds "render" to pluvane-cli's commands.
-void RegisterRenderCommand();
+// `plot SCRIPT.Mst [--ctl OUT.ctl] [-o OUT.svg|pdf|png] [--width PIXELS]`.
+int PlotCommand(const std::vector<std::string>& args, const std::string& app_path,
+                std::ostream& out, ScriptedUi& ui);
+
+// "plot" and "render", for pluvane-cli's table.
+std::vector<CliCommand> RenderCliCommands();
 
 }  // namespace pluvane

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <cstdio>
+#include <filesystem>
 #include <string>
 
 #include "foundation/test_files.h"
@@ -110,6 +111,43 @@ TEST_F(RenderCommandTest, BadUsageEndsWithTwoAndTheUsage) {
   EXPECT_EQ(help.status, 0);
   EXPECT_NE(help.output.find("  render NETWORK.mtf"), std::string::npos);
   EXPECT_NE(help.output.find("  plot SCRIPT.Mst"), std::string::npos);
+}
+
+TEST(PlotCommand, CompilesPageOneAndCopiesTheControlFile) {
+  TempFolder folder;
+  const std::string script = folder.File("s.Mst");
+  std::filesystem::copy_file(std::string(PLUVANE_TESTS) + "/plot/data/scripts/s01_writer_example.Mst",
+                             script);
+  const std::string ctl = folder.File("copie.ctl");
+  const CliRun run = RunCli("plot " + script + " --ctl " + ctl);
+  EXPECT_EQ(run.status, 0) << run.output;
+  EXPECT_EQ(run.output.substr(run.output.size() - ctl.size() - 1), ctl + "\n");
+  EXPECT_EQ(ReadBytes(ctl),
+            ReadBytes(std::string(PLUVANE_TESTS) + "/plot/data/expected/s01_writer_example.ctl"));
+  EXPECT_TRUE(std::filesystem::exists(folder.File("P1.ctl")));
+}
+
+TEST(PlotCommand, AMissingScriptIsRefusedAndBadWordsAreTwo) {
+  TempFolder folder;
+  const CliRun run = RunCli("plot " + folder.File("absent.Mst"));
+  EXPECT_EQ(run.status, 1);
+  EXPECT_NE(run.output.find(": "), std::string::npos);
+  EXPECT_EQ(RunCli("plot").status, 2);
+  EXPECT_EQ(RunCli("plot a.Mst --ctl").status, 2);
+  EXPECT_EQ(RunCli("plot --help").status, 0);
+}
+
+TEST(CommandLineProgram, DrawsWithoutTheWidgets) {
+  // The command line draws on Qt Gui alone: no widget, no printing library.
+  std::string libraries;
+  FILE* pipe = popen(("ldd " + std::string(PLUVANE_BIN) + "/pluvane-cli").c_str(), "r");
+  ASSERT_NE(pipe, nullptr);
+  char buffer[512];
+  while (std::fgets(buffer, sizeof buffer, pipe)) libraries += buffer;
+  pclose(pipe);
+  EXPECT_NE(libraries.find("libQt6Gui"), std::string::npos) << libraries;
+  EXPECT_EQ(libraries.find("libQt6Widgets"), std::string::npos) << libraries;
+  EXPECT_EQ(libraries.find("libQt6PrintSupport"), std::string::npos) << libraries;
 }
 
 }  // namespace

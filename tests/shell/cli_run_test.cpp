@@ -31,7 +31,7 @@ class CliRunTest : public ::testing::Test {
   }
   int Run(const std::vector<std::string>& args) {
     std::ostringstream out, err;
-    const int status = RunCli(args, app_.Path(), out, err);
+    const int status = RunCli(args, CoreCliCommands(), app_.Path(), out, err);
     out_ = out.str();
     err_ = err.str();
     return status;
