@@ -32,19 +32,29 @@ int Info(const std::vector<std::string>& args, const std::string& app_path, std:
   return 0;
 }
 
-const CliOption kScenarioOption{{"--scenario"}, true, false};
+// The words of a command on a scenario, NETWORK.mtf [--scenario NAME] and
+// `more` options, and its network opened. The scenario is NAME, else the
+// network's current one. 0 when open, else the exit status: 2 for bad words,
+// 1 when the network was refused.
+int OpenScenario(const std::vector<std::string>& args, std::vector<CliOption> more,
+                 const std::string& app_path, CliOptions& words, CliNetwork& network,
+                 std::string& scenario) {
+  more.push_back({{"--scenario"}, true, false});
+  if (!words.Parse(args, more, 1, 1)) return 2;
+  if (!network.Open(app_path, words.Positional()[0])) return 1;
+  scenario = words.Has("--scenario") ? words.Value("--scenario") : network.state().ScenarioName;
+  return 0;
+}
 
 // Generates the model of a scenario (the network's current one by default).
 // Nothing is saved.
 int Generate(const std::vector<std::string>& args, const std::string& app_path, std::ostream& out,
              ScriptedUi& ui) {
   CliOptions words;
-  if (!words.Parse(args, {kScenarioOption}, 1, 1)) return 2;
   CliNetwork network(ui);
-  if (!network.Open(app_path, words.Positional()[0])) return 1;
+  std::string scenario;
+  if (const int code = OpenScenario(args, {}, app_path, words, network, scenario)) return code;
   AppState& state = network.state();
-  const std::string scenario =
-      words.Has("--scenario") ? words.Value("--scenario") : state.ScenarioName;
   ModelContext context{network.surface, state, ui};
   const int steps = RunModelGeneration(context, scenario);
   if (steps != kModelStepCount) {
@@ -65,12 +75,13 @@ int Generate(const std::vector<std::string>& args, const std::string& app_path, 
 int Run(const std::vector<std::string>& args, const std::string& app_path, std::ostream& out,
         ScriptedUi& ui) {
   CliOptions words;
-  if (!words.Parse(args, {kScenarioOption, {{"--velmar-only"}, false, false}}, 1, 1)) return 2;
   CliNetwork network(ui);
-  if (!network.Open(app_path, words.Positional()[0])) return 1;
+  std::string scenario;
+  const CliOption velmar_only{{"--velmar-only"}, false, false};
+  if (const int code = OpenScenario(args, {velmar_only}, app_path, words, network, scenario)) {
+    return code;
+  }
   AppState& state = network.state();
-  const std::string scenario =
-      words.Has("--scenario") ? words.Value("--scenario") : state.ScenarioName;
   ModelContext context{network.surface, state, ui};
   const ScenarioRun run = RunScenario(context, scenario, !words.Has("--velmar-only"));
   if (run.steps < 0) return 1;
@@ -86,11 +97,11 @@ int Run(const std::vector<std::string>& args, const std::string& app_path, std::
 int Recap(const std::vector<std::string>& args, const std::string& app_path, std::ostream& out,
           ScriptedUi& ui) {
   CliOptions words;
-  if (!words.Parse(args, {kScenarioOption}, 1, 1)) return 2;
   CliNetwork network(ui);
-  if (!network.Open(app_path, words.Positional()[0])) return 1;
+  std::string scenario;
+  if (const int code = OpenScenario(args, {}, app_path, words, network, scenario)) return code;
   AppState& state = network.state();
-  if (words.Has("--scenario")) state.ScenarioName = words.Value("--scenario");
+  state.ScenarioName = scenario;
   SetModelNames(state);
   MakeModelFolder(state);
   const std::string path = WriteDataRecap(network.surface, state, ui);

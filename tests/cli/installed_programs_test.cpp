@@ -31,17 +31,9 @@ class InstalledProgramsTest : public ::testing::Test {
   static std::string Installed(const std::string& path) { return root_->Path() + "/usr/local/" + path; }
 
   ProgramRun Start(const std::string& arguments) const {
-    ProgramRun run;
-    const std::string command = "cd '" + home_.Path() + "' && env -u XDG_CONFIG_HOME HOME='" +
-                                home_.Path() + "' '" + Installed("bin/pluvane-cli") + "' " +
-                                arguments + " 2>&1";
-    FILE* pipe = popen(command.c_str(), "r");
-    if (!pipe) return run;
-    char buffer[512];
-    while (std::fgets(buffer, sizeof buffer, pipe)) run.output += buffer;
-    const int status = pclose(pipe);
-    run.status = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-    return run;
+    return RunCommandLine("cd '" + home_.Path() + "' && env -u XDG_CONFIG_HOME HOME='" +
+                          home_.Path() + "' '" + Installed("bin/pluvane-cli") + "' " + arguments +
+                          " 2>&1");
   }
 
   static TempFolder* root_;

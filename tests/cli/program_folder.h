@@ -20,6 +20,18 @@ struct ProgramRun {
   std::string output;  // standard output and error together
 };
 
+// Runs a shell command line and collects what it prints.
+inline ProgramRun RunCommandLine(const std::string& command) {
+  ProgramRun run;
+  FILE* pipe = popen(command.c_str(), "r");
+  if (!pipe) return run;
+  char buffer[512];
+  while (std::fgets(buffer, sizeof buffer, pipe)) run.output += buffer;
+  const int status = pclose(pipe);
+  run.status = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+  return run;
+}
+
 class ProgramFolder {
  public:
   ProgramFolder() {
@@ -46,18 +58,10 @@ class ProgramFolder {
   // display and a home of its own.
   ProgramRun Start(const std::string& program, const std::string& arguments,
                    const std::string& environment = "") const {
-    ProgramRun run;
-    const std::string command = "cd '" + work_.Path() +
-                                "' && env -u DISPLAY -u WAYLAND_DISPLAY -u XDG_CONFIG_HOME HOME='" +
-                                home_.Path() + "' " + environment + " '" + app_.File(program) +
-                                "' " + arguments + " 2>&1";
-    FILE* pipe = popen(command.c_str(), "r");
-    if (!pipe) return run;
-    char buffer[512];
-    while (std::fgets(buffer, sizeof buffer, pipe)) run.output += buffer;
-    const int status = pclose(pipe);
-    run.status = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-    return run;
+    return RunCommandLine("cd '" + work_.Path() +
+                          "' && env -u DISPLAY -u WAYLAND_DISPLAY -u XDG_CONFIG_HOME HOME='" +
+                          home_.Path() + "' " + environment + " '" + app_.File(program) + "' " +
+                          arguments + " 2>&1");
   }
 
   std::string App(const std::string& name) const { return app_.File(name); }

@@ -5,28 +5,18 @@
 #include <filesystem>
 #include <string>
 
+#include "cli/program_folder.h"
 #include "foundation/test_files.h"
 #include "network/surface.h"
 
 namespace pluvane {
 namespace {
 
-struct CliRun {
-  int status = -1;
-  std::string output;  // standard output and error together
-};
+using CliRun = ProgramRun;
 
 CliRun RunCli(const std::string& arguments) {
-  CliRun run;
-  const std::string command = "env -u DISPLAY -u WAYLAND_DISPLAY -u QT_QPA_PLATFORM " +
-                              std::string(PLUVANE_BIN) + "/pluvane-cli " + arguments + " 2>&1";
-  FILE* pipe = popen(command.c_str(), "r");
-  if (!pipe) return run;
-  char buffer[512];
-  while (std::fgets(buffer, sizeof buffer, pipe)) run.output += buffer;
-  const int status = pclose(pipe);
-  run.status = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-  return run;
+  return RunCommandLine("env -u DISPLAY -u WAYLAND_DISPLAY -u QT_QPA_PLATFORM " +
+                        std::string(PLUVANE_BIN) + "/pluvane-cli " + arguments + " 2>&1");
 }
 
 class RenderCommandTest : public ::testing::Test {

@@ -50,15 +50,7 @@ bool WaitFor(Condition done) {
   return false;
 }
 
-std::string CommandOutput(const std::string& command) {
-  std::string output;
-  FILE* pipe = popen(command.c_str(), "r");
-  if (!pipe) return output;
-  char buffer[512];
-  while (std::fgets(buffer, sizeof buffer, pipe)) output += buffer;
-  pclose(pipe);
-  return output;
-}
+std::string CommandOutput(const std::string& command) { return RunCommandLine(command).output; }
 
 // The program's folder is the build's as `make run` uses it, copied.
 class DesktopProgramTest : public ::testing::Test {
