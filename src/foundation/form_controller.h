@@ -46,6 +46,8 @@ class FormController {
   virtual void ClickCell(Grid& /*grid*/, int /*col*/, int /*row*/) {}
   // A double click on a cell.
   virtual void DoubleClickCell(Grid& /*grid*/, int /*col*/, int /*row*/) {}
+  // The cursor leaves the cell (it may be put back there by the form).
+  virtual void LeaveCell(Grid& /*grid*/, int /*col*/, int /*row*/) {}
 
   // True once a command has unloaded the form.
   bool Closed() const { return closed_; }

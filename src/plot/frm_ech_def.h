@@ -22,6 +22,9 @@ class FrmEchDef : public FormController {
   std::string Caption() const override { return "Définition des Echelles"; }
   std::vector<Grid*> Grids() override { return {&Spread1}; }
   std::vector<FormCommand> Commands() override;
+  void LeaveCell(Grid& grid, int col, int row) override {
+    if (&grid == &Spread1) Spread1_LeaveCell(col, row);
+  }
 
   // Checks the min/max pair of the cell's column when leaving it; false,
   // with its message, when the pair is reversed (the cursor stays).

@@ -24,6 +24,10 @@ class FrmSelection : public FormController {
   std::vector<Grid*> Grids() override { return {&Spread1}; }
   std::vector<FormCommand> Commands() override;
 
+  // A click on a name swaps its tick (the check box swaps itself).
+  void ClickCell(Grid& grid, int col, int row) override {
+    if (&grid == &Spread1 && col == 1) Spread1_Click(row);
+  }
   // A click on a row swaps "1" and "0" in its check column.
   void Spread1_Click(int row);
   void mnDessiner();

@@ -92,6 +92,11 @@ FormWindow::FormWindow(FormController& controller, QWidget* parent)
     connect(table, &QTableView::doubleClicked, this, [this, index](const QModelIndex& cell) {
       DoubleClickCell(index, GridTableModel::ColOf(cell), GridTableModel::RowOf(cell));
     });
+    connect(table->selectionModel(), &QItemSelectionModel::currentChanged, this,
+            [this, index](const QModelIndex& current, const QModelIndex& previous) {
+              if (!previous.isValid() || current == previous) return;
+              LeaveCell(index, GridTableModel::ColOf(previous), GridTableModel::RowOf(previous));
+            });
     layout->addWidget(table);
     tables_.push_back(table);
     models_.push_back(model);
@@ -140,6 +145,16 @@ void FormWindow::ClickCell(int index, int col, int row) {
 
 void FormWindow::DoubleClickCell(int index, int col, int row) {
   controller_.DoubleClickCell(models_.at(index)->grid(), col, row);
+  AfterEvent();
+}
+
+void FormWindow::LeaveCell(int index, int col, int row) {
+  // The form may put the cursor back on the cell it refuses: that move is no
+  // second leave.
+  if (leaving_) return;
+  leaving_ = true;
+  controller_.LeaveCell(models_.at(index)->grid(), col, row);
+  leaving_ = false;
   AfterEvent();
 }
 

@@ -1,6 +1,6 @@
 // The one window that shows any form's logic: its caption, a table for each
 // of its grids, a button for each of its commands. A click runs the command;
-// clicks on button cells and double clicks go to the form as cell events;
+// clicks, double clicks and leaving a cell go to the form as cell events;
 // when the form has unloaded itself, the window closes.
 #pragma once
 
@@ -28,6 +28,7 @@ class FormWindow : public QDialog {
   // form did (closed, buttons enabled).
   void ClickCell(int index, int col, int row);
   void DoubleClickCell(int index, int col, int row);
+  void LeaveCell(int index, int col, int row);
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
@@ -41,6 +42,7 @@ class FormWindow : public QDialog {
   std::vector<QTableView*> tables_;
   std::vector<GridTableModel*> models_;
   std::vector<std::pair<std::string, QPushButton*>> buttons_;
+  bool leaving_ = false;
 };
 
 }  // namespace pluvane

@@ -22,6 +22,7 @@
 #include "shell/frm_preference.h"
 #include "shell/main_menus.h"
 #include "shell/view_commands.h"
+#include "results/result_access.h"
 #include "simulation/data_recap.h"
 #include "simulation/engine_commands.h"
 #include "simulation/frm_scn_sim_param.h"
@@ -31,6 +32,7 @@
 #include "ui/drawing_print.h"
 #include "ui/form_window.h"
 #include "ui/menu_builder.h"
+#include "ui/selection_window.h"
 
 namespace pluvane {
 
@@ -160,6 +162,11 @@ void MainWindow::BindCommands() {
       {"mnuScn_ModeleGen", after([this] { RunScenarioCommand(false); })},
       {"mnuScn_ModeleRun", after([this] { RunScenarioCommand(true); })},
       {"mnuExploit_RecapData", [this] { RecapData(); }},
+      {"mnuExploit_ResHys", [this] { ShowResult(mnuExploit_ResHys); }},
+      {"mnuExploit_ResDeb", [this] { ShowResult(mnuExploit_ResDeb); }},
+      {"mnuExploit_ResLim", [this] { ShowResult(mnuExploit_ResLim); }},
+      {"mnuExploit_ResBV", [this] { mnuExploit_ResBV(application_->state(), ui_); }},
+      {"mnuExploit_ResReso", [this] { mnuExploit_ResReso(application_->state(), ui_); }},
       {"mnuAbout", [this] { ShowAbout(true); }},
   };
 }
@@ -171,6 +178,10 @@ void MainWindow::BuildMenus() {
   if (QMenu* file = Menu("mnuFile")) {
     connect(file, &QMenu::aboutToShow, this,
             [this] { ApplyMenus(FileMenuState(surface_, application_->state())); });
+  }
+  if (QMenu* results = Menu("mnuExploitation")) {
+    connect(results, &QMenu::aboutToShow, this,
+            [this] { ApplyMenus(mnuExploitation(application_->state())); });
   }
   if (QMenu* scenario = Menu("mnuScn")) {
     connect(scenario, &QMenu::aboutToShow, this, [this] {
@@ -292,6 +303,13 @@ void MainWindow::OpenForm(FormController& form) {
   UndoStep step(surface_, "Annuler : " + form.Caption());
   FormWindow window(form, this);
   window.exec();
+}
+
+void MainWindow::ShowResult(
+    void (*entry)(const AppState&, UserInterface&, ResultViews&)) {
+  const AppState& state = application_->state();
+  ResultViews views{viewer_state_, ChooserWindow(this), ViewerWindow(this, ui_, state.WorkDir)};
+  entry(state, ui_, views);
 }
 
 void MainWindow::OpenPreferences() {

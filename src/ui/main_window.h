@@ -26,6 +26,7 @@
 #include "ui/about_window.h"
 #include "ui/console_window.h"
 #include "ui/drawing_picture.h"
+#include "results/result_access.h"
 #include "ui/interaction_binder.h"
 #include "ui/main_tool_bars.h"
 #include "ui/qt_user_interface.h"
@@ -93,6 +94,8 @@ class MainWindow : public QMainWindow {
   void AfterCommand();
   void ApplyMenus(const MenuStates& states);
   void RefreshRecentFiles();
+  // A curve entry of the result menu, with the chooser and the viewer windows.
+  void ShowResult(void (*entry)(const AppState&, UserInterface&, ResultViews&));
   void OpenPreferences();
   void OpenForm(FormController& form);
   void ImportBackground();

@@ -21,10 +21,6 @@ SelectionWindow::SelectionWindow(FrmSelection& form, QWidget* parent) : FormWind
   int needed = table->verticalHeader()->sizeHint().width() + 2 * table->frameWidth() + 24;
   for (int c = 0; c < table->model()->columnCount(); ++c) needed += table->columnWidth(c);
   resize(std::max(width(), needed), height());
-  connect(table, &QTableView::clicked, this, [&form](const QModelIndex& index) {
-    // The check box swaps itself; the name's cell swaps it through the form.
-    if (index.isValid() && index.column() == 0) form.Spread1_Click(index.row() + 1);
-  });
 }
 
 ShowModal ChooserWindow(QWidget* parent) {

@@ -196,15 +196,6 @@ void VistrelWindow::closeEvent(QCloseEvent* event) {
 
 void ShowScaleForm(QWidget* parent, FrmEchDef& form) {
   FormWindow window(form, parent);
-  QTableView* table = window.Table(0);
-  bool checking = false;
-  QObject::connect(table->selectionModel(), &QItemSelectionModel::currentChanged, &window,
-                   [&form, &checking](const QModelIndex& current, const QModelIndex& previous) {
-                     if (checking || !previous.isValid() || current == previous) return;
-                     checking = true;
-                     form.Spread1_LeaveCell(previous.column() + 1, previous.row() + 1);
-                     checking = false;
-                   });
   window.exec();
 }
 
