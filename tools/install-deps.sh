@@ -7,7 +7,7 @@ packages=(cmake ninja-build g++ clang make pkg-config
           qt6-base-dev libqt6svg6-dev libgl-dev
           nlohmann-json3-dev libgtest-dev libgmock-dev
           fonts-dejavu-core
-          xvfb x11-utils)
+          xvfb x11-utils locales)
 missing=()
 for p in "${packages[@]}"; do
   dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q 'install ok installed' || missing+=("$p")

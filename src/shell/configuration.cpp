@@ -79,7 +79,9 @@ bool LoadConfiguration(AppState& state, UserInterface& ui, ResourceLibrary& reso
   state.ScreenBackColor = back.empty() ? 16777215 : ValLong(back);
 
   state.PointBufferSize = 10000;
-  state.ZoomFactor = 1;
+  // The zoom factor saved by the last Save As; under 0.00001 it means none.
+  state.ZoomFactor = Val(ReadProfileValue(kSectionOthers, "Zoom Ini", 20, ini));
+  if (state.ZoomFactor < 0.00001) state.ZoomFactor = 1;
   state.CalcMode = 0;
   state.CalcDuree = 120;
   state.CalcDt = 2;

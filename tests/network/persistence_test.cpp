@@ -7,6 +7,7 @@
 #include "foundation/ini_profile.h"
 #include "foundation/numbers.h"
 #include "network/network_parameters.h"
+#include "network/placement.h"
 #include "network/session_fixture.h"
 #include "network/surface_helpers.h"
 
@@ -178,6 +179,16 @@ TEST_F(PersistenceTest, CountersTakeTheLargestNumberOfEachKind) {
   EXPECT_EQ(state_.ElementCounters[5], 57);
   EXPECT_EQ(state_.ElementCounters[99], 4);
   EXPECT_EQ(state_.NodeCount, 2);
+  // The next ones placed follow the largest numbers.
+  state_.SymbolDir = std::string(PLUVANE_DATA) + "/Symboles";
+  const int a = DrawSymbol(surface_, state_, ui_, 1000, 1000, "X_NOD");
+  const int b = DrawSymbol(surface_, state_, ui_, 3000, 1000, "X_NOD");
+  surface_.SetCurrentObject(a);
+  EXPECT_EQ(surface_.ObjTag("Id"), "Nod_5");
+  const int link = DrawLink(surface_, state_, "X_CAC", a, b, 0, 0);
+  ASSERT_GT(link, 10);
+  surface_.SetCurrentObject(link);
+  EXPECT_EQ(surface_.ObjTag("Id"), "Cac_58");
 }
 
 TEST_F(PersistenceTest, LibraryRecordsAndParametersAreHiddenAfterOpening) {

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <clocale>
+#include <cstdlib>
 #include <filesystem>
 
 #include "foundation/expect_message.h"
@@ -90,6 +91,41 @@ TEST_F(ApplicationTest, TheProgramCountsWithThePointAndGivesTheUserFormatBack) {
   app_.Unload(4);
   EXPECT_STREQ(std::setlocale(LC_NUMERIC, nullptr), "C.UTF-8");
   EXPECT_EQ(app_.state().SavedDecimal, ".");
+}
+
+// A French user's locale, whose decimal mark is a comma: the installed one,
+// else one made for the test from the system's locale sources.
+bool UseFrenchNumbers(const TempFolder& folder) {
+  if (std::setlocale(LC_NUMERIC, "fr_FR.UTF-8") != nullptr) return true;
+  const std::string made = folder.File("locales");
+  fs::create_directories(made);
+  const std::string command =
+      "localedef -i fr_FR -f UTF-8 '" + made + "/fr_FR.UTF-8' > /dev/null 2>&1";
+  if (std::system(command.c_str()) != 0 && !fs::exists(made + "/fr_FR.UTF-8")) return false;
+  // The library finds it there for as long as the test runs.
+  ::setenv("LOCPATH", made.c_str(), 1);
+  return std::setlocale(LC_NUMERIC, "fr_FR.UTF-8") != nullptr;
+}
+
+TEST_F(ApplicationTest, AUserWhoseDecimalMarkIsACommaGetsItBackAtTheEnd) {
+  TempFolder locales;
+  if (!UseFrenchNumbers(locales)) {
+    GTEST_SKIP() << "Ni la locale fr_FR.UTF-8 ni localedef et ses sources (paquet locales) : "
+                    "le test de la virgule décimale ne peut pas se faire.";
+  }
+  ASSERT_EQ(std::string(std::localeconv()->decimal_point), ",");
+  ASSERT_TRUE(app_.Load(folder_.Path(), ""));
+  // While the program runs it counts with the point, and the decimal test passes.
+  EXPECT_STREQ(std::setlocale(LC_NUMERIC, nullptr), "C");
+  EXPECT_EQ(Application::HalfAsText(), "0.5");
+  EXPECT_EQ(app_.state().SavedDecimal, ",");
+  EXPECT_EQ(app_.FirstActivation(), Application::Activation::kReady);
+  EXPECT_TRUE(ui_.Messages().empty());
+  app_.Unload(4);
+  EXPECT_STREQ(std::setlocale(LC_NUMERIC, nullptr), "fr_FR.UTF-8");
+  EXPECT_EQ(std::string(std::localeconv()->decimal_point), ",");
+  std::setlocale(LC_NUMERIC, "C");
+  ::unsetenv("LOCPATH");
 }
 
 TEST_F(ApplicationTest, FirstActivationShowsTheQuarterViewAndAFreshNetwork) {

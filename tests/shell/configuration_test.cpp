@@ -36,6 +36,18 @@ class ConfigurationTest : public ::testing::Test {
   ResourceLibrary resources_;
 };
 
+TEST_F(ConfigurationTest, TheSavedZoomFactorIsReadAndZeroGivesOne) {
+  Set("Autres", "Zoom Ini", "0.25000000");
+  ASSERT_TRUE(Load());
+  EXPECT_EQ(state_.ZoomFactor, 0.25);
+  Set("Autres", "Zoom Ini", "0");
+  ASSERT_TRUE(Load());
+  EXPECT_EQ(state_.ZoomFactor, 1);
+  Set("Autres", "Zoom Ini", "0.000001");
+  ASSERT_TRUE(Load());
+  EXPECT_EQ(state_.ZoomFactor, 1);
+}
+
 TEST_F(ConfigurationTest, TheFileIsPluvaneIniBesideThePrograms) {
   EXPECT_EQ(IniFilePath(state_), app_.File("pluvane.ini"));
 }
