@@ -10,7 +10,7 @@
 #include <sstream>
 #include <string>
 
-#include "network/surface.h"
+#include "drawing/surface.h"
 #include "shell/cli.h"
 
 namespace {

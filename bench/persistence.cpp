@@ -13,7 +13,7 @@
 #include "network/hidden_record.h"
 #include "network/merge_network.h"
 #include "network/persistence.h"
-#include "network/surface.h"
+#include "drawing/surface.h"
 
 namespace {
 

@@ -11,7 +11,7 @@
 #include "bench_clock.h"
 #include "foundation/fixed_width.h"
 #include "foundation/scripted_ui.h"
-#include "network/surface.h"
+#include "drawing/surface.h"
 #include "plot/morvex_draw.h"
 
 int main() {

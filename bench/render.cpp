@@ -10,7 +10,7 @@
 #include <cmath>
 #include <cstdlib>
 
-#include "network/surface.h"
+#include "drawing/surface.h"
 #include "ui/surface_painter.h"
 
 namespace {

@@ -1,6 +1,6 @@
 // Times the drawing on a large network: 100 000 objects with 20 tags each,
 // a whole FindByTag walk, 10 000 look-ups by Id, saving and loading.
-#include "network/surface.h"
+#include "drawing/surface.h"
 
 #include <chrono>
 #include <cstdio>
@@ -8,7 +8,7 @@
 #include <string>
 
 #include "bench_clock.h"
-#include "network/surface_helpers.h"
+#include "drawing/surface_helpers.h"
 
 int main() {
   using pluvane::Surface;

@@ -10,7 +10,7 @@
 #include <vector>
 
 #include "foundation/scripted_ui.h"
-#include "network/surface.h"
+#include "drawing/surface.h"
 #include "shell/app_state.h"
 #include "simulation/model_generation.h"
 

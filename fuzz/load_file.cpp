@@ -8,7 +8,7 @@
 #include <cstdlib>
 #include <string>
 
-#include "network/surface.h"
+#include "drawing/surface.h"
 
 namespace {
 

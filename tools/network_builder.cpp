@@ -8,8 +8,8 @@
 #include "network/georeferencing.h"
 #include "network/hidden_record.h"
 #include "network/persistence.h"
-#include "network/surface_guards.h"
-#include "network/surface_helpers.h"
+#include "drawing/surface_guards.h"
+#include "drawing/surface_helpers.h"
 #include "network/view_zoom.h"
 
 namespace pluvane {

@@ -4,10 +4,10 @@
 #include <vector>
 
 #include "foundation/numbers.h"
-#include "network/surface_guards.h"
+#include "drawing/surface_guards.h"
 #include "network/hidden_record.h"
-#include "network/surface_helpers.h"
-#include "network/symbol_file.h"
+#include "drawing/surface_helpers.h"
+#include "drawing/symbol_file.h"
 
 namespace pluvane {
 

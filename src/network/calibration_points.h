@@ -8,7 +8,7 @@
 
 #include <string>
 
-#include "network/surface.h"
+#include "drawing/surface.h"
 #include "shell/app_state.h"
 
 namespace pluvane {

@@ -5,7 +5,7 @@
 #include "foundation/numbers.h"
 #include "foundation/paths.h"
 #include "foundation/text.h"
-#include "network/symbol_file.h"
+#include "drawing/symbol_file.h"
 
 namespace pluvane {
 

@@ -7,7 +7,7 @@
 #include "network/catalogue.h"
 #include "network/default_tags.h"
 #include "network/placement.h"
-#include "network/surface_helpers.h"
+#include "drawing/surface_helpers.h"
 #include "network/topology.h"
 
 namespace pluvane {

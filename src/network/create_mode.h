@@ -11,7 +11,7 @@
 #include <string_view>
 
 #include "foundation/user_interface.h"
-#include "network/surface.h"
+#include "drawing/surface.h"
 #include "shell/app_state.h"
 
 namespace pluvane {

@@ -5,7 +5,7 @@
 #include "foundation/numbers.h"
 #include "network/catalogue.h"
 #include "network/georeferencing.h"
-#include "network/surface_helpers.h"
+#include "drawing/surface_helpers.h"
 #include "network/topology.h"
 
 namespace pluvane {

@@ -10,7 +10,7 @@
 #include <string>
 #include <string_view>
 
-#include "network/surface.h"
+#include "drawing/surface.h"
 #include "shell/app_state.h"
 
 namespace pluvane {

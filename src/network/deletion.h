@@ -4,7 +4,7 @@
 // records and the alphanumeric marks are never deleted this way.
 #pragma once
 
-#include "network/surface.h"
+#include "drawing/surface.h"
 #include "shell/app_state.h"
 
 namespace pluvane {

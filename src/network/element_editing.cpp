@@ -6,7 +6,7 @@
 
 #include "foundation/numbers.h"
 #include "network/catalogue.h"
-#include "network/surface_helpers.h"
+#include "drawing/surface_helpers.h"
 
 namespace pluvane {
 

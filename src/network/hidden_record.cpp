@@ -1,7 +1,7 @@
 #include "network/hidden_record.h"
 
 #include "foundation/numbers.h"
-#include "network/surface_helpers.h"
+#include "drawing/surface_helpers.h"
 
 namespace pluvane {
 

@@ -3,7 +3,7 @@
 // SymbolSize on each side, drawn in the screen's background colour and hidden.
 #pragma once
 
-#include "network/surface.h"
+#include "drawing/surface.h"
 #include "shell/app_state.h"
 
 namespace pluvane {

@@ -13,7 +13,7 @@
 
 #include "network/create_mode.h"
 #include "network/placement.h"
-#include "network/surface.h"
+#include "drawing/surface.h"
 #include "shell/app_state.h"
 
 namespace pluvane {

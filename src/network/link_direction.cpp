@@ -6,8 +6,8 @@
 #include <utility>
 #include <vector>
 
-#include "network/surface_guards.h"
-#include "network/surface_helpers.h"
+#include "drawing/surface_guards.h"
+#include "drawing/surface_helpers.h"
 
 namespace pluvane {
 

@@ -11,8 +11,8 @@
 #include "network/default_tags.h"
 #include "network/placement.h"
 #include "network/reaches.h"
-#include "network/surface_guards.h"
-#include "network/surface_helpers.h"
+#include "drawing/surface_guards.h"
+#include "drawing/surface_helpers.h"
 #include "network/topology.h"
 
 namespace pluvane {

@@ -8,9 +8,9 @@
 
 #include "foundation/numbers.h"
 #include "foundation/text.h"
-#include "network/surface_guards.h"
+#include "drawing/surface_guards.h"
 #include "network/georeferencing.h"
-#include "network/surface_helpers.h"
+#include "drawing/surface_helpers.h"
 
 namespace pluvane {
 

@@ -3,7 +3,7 @@
 // of their own, and a node put back where its map coordinates say.
 #pragma once
 
-#include "network/surface.h"
+#include "drawing/surface.h"
 #include "shell/app_state.h"
 
 namespace pluvane {

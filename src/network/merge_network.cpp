@@ -14,8 +14,8 @@
 #include "network/node_links.h"
 #include "network/persistence.h"
 #include "network/reaches.h"
-#include "network/surface_guards.h"
-#include "network/surface_helpers.h"
+#include "drawing/surface_guards.h"
+#include "drawing/surface_helpers.h"
 #include "network/view_zoom.h"
 
 namespace pluvane {

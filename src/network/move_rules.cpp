@@ -7,8 +7,8 @@
 #include "network/catalogue.h"
 #include "network/default_tags.h"
 #include "network/georeferencing.h"
-#include "network/surface_guards.h"
-#include "network/surface_helpers.h"
+#include "drawing/surface_guards.h"
+#include "drawing/surface_helpers.h"
 #include "network/topology.h"
 
 namespace pluvane {

@@ -4,7 +4,7 @@
 // of action its new centre, and moved calibration points solve the map again.
 #pragma once
 
-#include "network/surface.h"
+#include "drawing/surface.h"
 #include "shell/app_state.h"
 
 namespace pluvane {

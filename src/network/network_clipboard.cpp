@@ -3,8 +3,8 @@
 #include <string>
 
 #include "network/catalogue.h"
-#include "network/surface_guards.h"
-#include "network/surface_helpers.h"
+#include "drawing/surface_guards.h"
+#include "drawing/surface_helpers.h"
 
 namespace pluvane {
 

@@ -4,7 +4,7 @@
 
 #include "foundation/numbers.h"
 #include "network/hidden_record.h"
-#include "network/surface_helpers.h"
+#include "drawing/surface_helpers.h"
 
 namespace pluvane {
 

@@ -3,7 +3,7 @@
 // ZoomFactors (the saved view).
 #pragma once
 
-#include "network/surface.h"
+#include "drawing/surface.h"
 #include "shell/app_state.h"
 
 namespace pluvane {

@@ -4,7 +4,7 @@
 
 #include "foundation/user_interface.h"
 #include "network/recent_files.h"
-#include "network/surface.h"
+#include "drawing/surface.h"
 #include "shell/app_state.h"
 
 namespace pluvane {

@@ -3,7 +3,7 @@
 #include "foundation/numbers.h"
 #include "network/calibration_points.h"
 #include "network/catalogue.h"
-#include "network/surface_guards.h"
+#include "drawing/surface_guards.h"
 
 namespace pluvane {
 

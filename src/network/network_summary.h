@@ -5,7 +5,7 @@
 #include <map>
 #include <string>
 
-#include "network/surface.h"
+#include "drawing/surface.h"
 #include "shell/app_state.h"
 
 namespace pluvane {

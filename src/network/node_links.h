@@ -2,7 +2,7 @@
 // repair command mnuMyUtil_Nod_iLinkUpdate, also run by the merge of networks.
 #pragma once
 
-#include "network/surface.h"
+#include "drawing/surface.h"
 
 namespace pluvane {
 

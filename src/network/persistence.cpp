@@ -13,7 +13,7 @@
 #include "network/hidden_record.h"
 #include "network/load_calibration.h"
 #include "network/network_parameters.h"
-#include "network/surface_helpers.h"
+#include "drawing/surface_helpers.h"
 #include "network/view_zoom.h"
 #include "simulation/scenario_mode.h"
 

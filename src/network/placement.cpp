@@ -6,8 +6,8 @@
 #include "foundation/numbers.h"
 #include "network/catalogue.h"
 #include "network/default_tags.h"
-#include "network/surface_guards.h"
-#include "network/surface_helpers.h"
+#include "drawing/surface_guards.h"
+#include "drawing/surface_helpers.h"
 #include "network/topology.h"
 #include "shell/configuration.h"
 

@@ -9,8 +9,8 @@
 #include "network/catalogue.h"
 #include "network/default_tags.h"
 #include "network/hidden_record.h"
-#include "network/surface_guards.h"
-#include "network/surface_helpers.h"
+#include "drawing/surface_guards.h"
+#include "drawing/surface_helpers.h"
 
 namespace pluvane {
 

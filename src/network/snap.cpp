@@ -5,8 +5,8 @@
 
 #include "foundation/numbers.h"
 #include "network/catalogue.h"
-#include "network/surface_guards.h"
-#include "network/surface_helpers.h"
+#include "drawing/surface_guards.h"
+#include "drawing/surface_helpers.h"
 
 namespace pluvane {
 

@@ -6,8 +6,8 @@
 #include "foundation/text.h"
 #include "network/catalogue.h"
 #include "network/georeferencing.h"
-#include "network/surface_guards.h"
-#include "network/surface_helpers.h"
+#include "drawing/surface_guards.h"
+#include "drawing/surface_helpers.h"
 
 namespace pluvane {
 

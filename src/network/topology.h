@@ -6,7 +6,7 @@
 #include <utility>
 #include <vector>
 
-#include "network/surface.h"
+#include "drawing/surface.h"
 #include "shell/app_state.h"
 
 namespace pluvane {

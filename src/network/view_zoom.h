@@ -4,7 +4,7 @@
 
 #include <cstdint>
 
-#include "network/surface.h"
+#include "drawing/surface.h"
 #include "shell/app_state.h"
 
 namespace pluvane {

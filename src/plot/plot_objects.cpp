@@ -4,7 +4,7 @@
 
 #include "foundation/numbers.h"
 #include "foundation/text.h"
-#include "network/surface_object.h"
+#include "drawing/surface_object.h"
 
 namespace pluvane {
 

@@ -12,7 +12,7 @@
 #include <cstdint>
 #include <vector>
 
-#include "network/surface.h"
+#include "drawing/surface.h"
 #include "plot/ctl_records.h"
 
 namespace pluvane {

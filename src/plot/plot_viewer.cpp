@@ -5,7 +5,7 @@
 #include "foundation/numbers.h"
 #include "foundation/paths.h"
 #include "foundation/text.h"
-#include "network/surface_guards.h"
+#include "drawing/surface_guards.h"
 #include "plot/morvex_draw.h"
 #include "plot/plot_font_faces.h"
 #include "plot/plot_objects.h"

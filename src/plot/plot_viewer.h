@@ -6,7 +6,7 @@
 #include <string>
 
 #include "foundation/user_interface.h"
-#include "network/surface.h"
+#include "drawing/surface.h"
 
 namespace pluvane {
 

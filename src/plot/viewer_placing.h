@@ -6,7 +6,7 @@
 #pragma once
 
 #include "foundation/user_interface.h"
-#include "network/surface.h"
+#include "drawing/surface.h"
 
 namespace pluvane {
 

@@ -10,7 +10,7 @@
 #include "foundation/user_interface.h"
 #include "network/network_session.h"
 #include "network/recent_files.h"
-#include "network/surface.h"
+#include "drawing/surface.h"
 #include "shell/app_state.h"
 #include "shell/resource_library.h"
 

@@ -6,7 +6,7 @@
 #include "foundation/text.h"
 #include "network/network_summary.h"
 #include "network/persistence.h"
-#include "network/surface.h"
+#include "drawing/surface.h"
 #include "shell/application.h"
 #include "shell/cli_network.h"
 #include "shell/cli_options.h"

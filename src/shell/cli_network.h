@@ -7,7 +7,7 @@
 #include <string>
 
 #include "foundation/scripted_ui.h"
-#include "network/surface.h"
+#include "drawing/surface.h"
 #include "shell/app_state.h"
 #include "shell/application.h"
 

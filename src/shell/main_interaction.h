@@ -11,10 +11,10 @@
 #include <string_view>
 #include <utility>
 
-#include "editors/reach_creation.h"
+#include "network/reach_creation.h"
 #include "foundation/user_interface.h"
 #include "network/create_mode.h"
-#include "network/surface.h"
+#include "drawing/surface.h"
 #include "shell/app_state.h"
 
 namespace pluvane {

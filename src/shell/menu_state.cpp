@@ -1,7 +1,7 @@
 #include "shell/menu_state.h"
 
 #include "foundation/text.h"
-#include "network/surface_helpers.h"
+#include "drawing/surface_helpers.h"
 
 namespace pluvane {
 

@@ -9,8 +9,8 @@
 #include "foundation/paths.h"
 #include "foundation/processes.h"
 #include "foundation/text.h"
-#include "network/surface_guards.h"
-#include "network/surface_helpers.h"
+#include "drawing/surface_guards.h"
+#include "drawing/surface_helpers.h"
 
 namespace pluvane {
 

@@ -1,8 +1,8 @@
 #include "simulation/frm_pluie_liste.h"
 
 #include "foundation/text.h"
-#include "network/surface_guards.h"
-#include "network/surface_helpers.h"
+#include "drawing/surface_guards.h"
+#include "drawing/surface_helpers.h"
 
 namespace pluvane {
 

@@ -3,8 +3,8 @@
 #include "foundation/numbers.h"
 #include "foundation/text.h"
 #include "network/hidden_record.h"
-#include "network/surface_guards.h"
-#include "network/surface_helpers.h"
+#include "drawing/surface_guards.h"
+#include "drawing/surface_helpers.h"
 #include "simulation/scenario_records.h"
 
 namespace pluvane {

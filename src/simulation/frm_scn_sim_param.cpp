@@ -2,12 +2,12 @@
 
 #include <utility>
 
-#include "editors/library_rows.h"
+#include "network/library_rows.h"
 #include "foundation/grid_checks.h"
 #include "foundation/grid_rows.h"
 #include "foundation/text.h"
-#include "network/surface_guards.h"
-#include "network/surface_helpers.h"
+#include "drawing/surface_guards.h"
+#include "drawing/surface_helpers.h"
 #include "simulation/frm_scn_sim_param_plus.h"
 #include "simulation/scenario_records.h"
 

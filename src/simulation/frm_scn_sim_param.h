@@ -10,7 +10,7 @@
 #include "foundation/form_controller.h"
 #include "foundation/modal_form.h"
 #include "foundation/user_interface.h"
-#include "network/surface.h"
+#include "drawing/surface.h"
 #include "shell/app_state.h"
 
 namespace pluvane {

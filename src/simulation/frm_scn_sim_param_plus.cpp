@@ -4,7 +4,7 @@
 
 #include "foundation/numbers.h"
 #include "foundation/text.h"
-#include "network/surface_guards.h"
+#include "drawing/surface_guards.h"
 #include "simulation/frm_pluie_liste.h"
 #include "simulation/scenario_records.h"
 

@@ -3,7 +3,7 @@
 #include "foundation/fixed_width.h"
 #include "foundation/numbers.h"
 #include "foundation/text.h"
-#include "network/surface_guards.h"
+#include "drawing/surface_guards.h"
 #include "simulation/model_text_file.h"
 #include "simulation/scenario_check.h"
 

@@ -10,7 +10,7 @@
 #include "foundation/errors.h"
 #include "foundation/numbers.h"
 #include "foundation/text.h"
-#include "network/surface_guards.h"
+#include "drawing/surface_guards.h"
 #include "simulation/link_files.h"
 #include "simulation/link_ranks.h"
 

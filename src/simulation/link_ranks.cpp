@@ -2,7 +2,7 @@
 
 #include "foundation/numbers.h"
 #include "foundation/text.h"
-#include "network/surface_guards.h"
+#include "drawing/surface_guards.h"
 
 namespace pluvane {
 

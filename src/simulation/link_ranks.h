@@ -9,7 +9,7 @@
 #include <unordered_map>
 #include <vector>
 
-#include "network/surface.h"
+#include "drawing/surface.h"
 
 namespace pluvane {
 

@@ -5,7 +5,7 @@
 #include "foundation/fixed_width.h"
 #include "foundation/numbers.h"
 #include "foundation/text.h"
-#include "network/surface_guards.h"
+#include "drawing/surface_guards.h"
 #include "simulation/link_files.h"
 #include "simulation/link_ranks.h"
 #include "simulation/model_text_file.h"

@@ -4,7 +4,7 @@
 #pragma once
 
 #include "foundation/user_interface.h"
-#include "network/surface.h"
+#include "drawing/surface.h"
 #include "shell/app_state.h"
 
 namespace pluvane {

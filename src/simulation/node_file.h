@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "network/surface.h"
+#include "drawing/surface.h"
 #include "simulation/model_context.h"
 
 namespace pluvane {

@@ -8,8 +8,8 @@
 #include "foundation/numbers.h"
 #include "foundation/text.h"
 #include "network/georeferencing.h"
-#include "network/surface_guards.h"
-#include "network/surface_helpers.h"
+#include "drawing/surface_guards.h"
+#include "drawing/surface_helpers.h"
 #include "simulation/rain_block.h"
 #include "simulation/scenario_records.h"
 

@@ -5,8 +5,8 @@
 
 #include "foundation/fixed_width.h"
 #include "foundation/numbers.h"
-#include "network/surface_guards.h"
-#include "network/surface_helpers.h"
+#include "drawing/surface_guards.h"
+#include "drawing/surface_helpers.h"
 #include "simulation/model_text_file.h"
 
 namespace pluvane {

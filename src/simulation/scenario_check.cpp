@@ -2,8 +2,8 @@
 
 #include "foundation/text.h"
 #include "network/network_parameters.h"
-#include "network/surface_guards.h"
-#include "network/surface_helpers.h"
+#include "drawing/surface_guards.h"
+#include "drawing/surface_helpers.h"
 #include "simulation/model_names.h"
 
 namespace pluvane {

@@ -2,7 +2,7 @@
 
 #include "foundation/numbers.h"
 #include "foundation/text.h"
-#include "network/surface_helpers.h"
+#include "drawing/surface_helpers.h"
 
 namespace pluvane {
 

@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "network/surface.h"
+#include "drawing/surface.h"
 
 namespace pluvane {
 

@@ -8,7 +8,7 @@
 #include <string>
 
 #include "foundation/user_interface.h"
-#include "network/surface.h"
+#include "drawing/surface.h"
 #include "shell/app_state.h"
 
 namespace pluvane {

@@ -11,7 +11,7 @@
 #include <QPushButton>
 #include <string>
 
-#include "editors/frm_impfile_dlg.h"
+#include "shell/frm_impfile_dlg.h"
 
 namespace pluvane {
 

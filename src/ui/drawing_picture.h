@@ -9,7 +9,7 @@
 #include <QRectF>
 #include <string>
 
-#include "network/surface.h"
+#include "drawing/surface.h"
 
 namespace pluvane {
 

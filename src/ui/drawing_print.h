@@ -7,7 +7,7 @@
 #include <QRectF>
 #include <string>
 
-#include "network/surface.h"
+#include "drawing/surface.h"
 #include "ui/drawing_picture.h"
 
 namespace pluvane {

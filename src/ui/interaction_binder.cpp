@@ -3,7 +3,7 @@
 #include <QCursor>
 #include <QPixmap>
 
-#include "network/surface_guards.h"
+#include "drawing/surface_guards.h"
 
 namespace pluvane {
 

@@ -11,13 +11,13 @@
 #include <QTimer>
 #include <vector>
 
-#include "editors/frm_impfile_dlg.h"
+#include "shell/frm_impfile_dlg.h"
 #include "foundation/paths.h"
 #include "network/link_direction.h"
 #include "network/merge_network.h"
 #include "network/persistence.h"
 #include "network/snap.h"
-#include "network/surface_guards.h"
+#include "drawing/surface_guards.h"
 #include "shell/drawing_export.h"
 #include "shell/frm_preference.h"
 #include "shell/main_menus.h"

@@ -15,9 +15,9 @@
 #include <memory>
 #include <string>
 
-#include "editors/frm_calage.h"
+#include "network/frm_calage.h"
 #include "foundation/form_controller.h"
-#include "network/surface.h"
+#include "drawing/surface.h"
 #include "shell/application.h"
 #include "plot/plot_viewer.h"
 #include "shell/console_model.h"

@@ -6,7 +6,7 @@
 #include <QMenuBar>
 #include <QToolBar>
 
-#include "editors/frm_info_calage.h"
+#include "network/frm_info_calage.h"
 #include "results/view_curve_file.h"
 #include "shell/interaction_modes.h"
 #include "shell/main_menus.h"

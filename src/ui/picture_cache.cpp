@@ -3,7 +3,7 @@
 #include <cmath>
 
 #include "foundation/paths.h"
-#include "network/symbol_file.h"
+#include "drawing/symbol_file.h"
 #include "ui/picture_format.h"
 
 namespace pluvane {

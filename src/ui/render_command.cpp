@@ -9,7 +9,7 @@
 #include "foundation/paths.h"
 #include "foundation/scripted_ui.h"
 #include "network/persistence.h"
-#include "network/surface.h"
+#include "drawing/surface.h"
 #include "plot/morvex_draw.h"
 #include "plot/plot_command.h"
 #include "shell/cli.h"

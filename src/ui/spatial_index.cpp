@@ -5,7 +5,7 @@
 #include <numeric>
 #include <tuple>
 
-#include "network/shape_geometry.h"
+#include "drawing/shape_geometry.h"
 
 namespace pluvane {
 

@@ -7,7 +7,7 @@
 #include <limits>
 #include <vector>
 
-#include "network/surface.h"
+#include "drawing/surface.h"
 
 namespace pluvane {
 

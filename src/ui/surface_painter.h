@@ -14,7 +14,7 @@
 #include <cstdint>
 #include <string>
 
-#include "network/surface.h"
+#include "drawing/surface.h"
 #include "ui/picture_cache.h"
 #include "ui/spatial_index.h"
 #include "ui/view_transform.h"

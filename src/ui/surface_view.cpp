@@ -10,7 +10,7 @@
 #include <climits>
 #include <cmath>
 
-#include "network/surface_guards.h"
+#include "drawing/surface_guards.h"
 
 namespace pluvane {
 

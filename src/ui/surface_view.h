@@ -15,7 +15,7 @@
 #include <QPointF>
 #include <optional>
 
-#include "network/surface.h"
+#include "drawing/surface.h"
 #include "ui/surface_painter.h"
 #include "ui/view_transform.h"
 

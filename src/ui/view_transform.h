@@ -8,7 +8,7 @@
 #include <QRectF>
 #include <QSize>
 
-#include "network/surface_object.h"
+#include "drawing/surface_object.h"
 
 namespace pluvane {
 

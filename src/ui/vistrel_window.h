@@ -15,7 +15,7 @@
 
 #include "foundation/modal_form.h"
 #include "foundation/user_interface.h"
-#include "network/surface.h"
+#include "drawing/surface.h"
 #include "plot/plot_viewer.h"
 
 namespace pluvane {

@@ -7,7 +7,7 @@
 
 #include "cli/program_folder.h"
 #include "foundation/test_files.h"
-#include "network/surface.h"
+#include "drawing/surface.h"
 
 namespace pluvane {
 namespace {

@@ -6,7 +6,7 @@
 
 #include "network/calibration_points.h"
 #include "network/hidden_record.h"
-#include "network/surface.h"
+#include "drawing/surface.h"
 #include "shell/app_state.h"
 
 namespace pluvane {

@@ -5,7 +5,7 @@
 #include <string>
 
 #include "foundation/paths.h"
-#include "network/symbol_file.h"
+#include "drawing/symbol_file.h"
 #include "foundation/test_files.h"
 
 namespace pluvane {

@@ -4,7 +4,7 @@
 
 #include "foundation/expect_message.h"
 #include "network/catalogue.h"
-#include "network/surface_helpers.h"
+#include "drawing/surface_helpers.h"
 #include "placement_fixture.h"
 
 namespace pluvane {

@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "network/catalogue.h"
-#include "network/surface_helpers.h"
+#include "drawing/surface_helpers.h"
 #include "placement_fixture.h"
 
 namespace pluvane {

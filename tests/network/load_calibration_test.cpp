@@ -5,7 +5,7 @@
 #include "foundation/expect_message.h"
 #include "network/calibration_fixture.h"
 #include "network/georeferencing.h"
-#include "network/surface_helpers.h"
+#include "drawing/surface_helpers.h"
 
 namespace pluvane {
 namespace {

@@ -8,7 +8,7 @@
 #include "network/link_direction.h"
 #include "network/move_rules.h"
 #include "network/snap.h"
-#include "network/surface_helpers.h"
+#include "drawing/surface_helpers.h"
 #include "placement_fixture.h"
 
 namespace pluvane {

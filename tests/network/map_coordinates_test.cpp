@@ -5,7 +5,7 @@
 #include <cmath>
 
 #include "foundation/numbers.h"
-#include "network/add_element.h"
+#include "drawing/add_element.h"
 #include "network/calibration_fixture.h"
 #include "network/georeferencing.h"
 

@@ -12,7 +12,7 @@
 #include "network/placement.h"
 #include "network/reaches.h"
 #include "network/session_fixture.h"
-#include "network/surface_helpers.h"
+#include "drawing/surface_helpers.h"
 
 namespace pluvane {
 namespace {

@@ -4,7 +4,7 @@
 
 #include "foundation/expect_message.h"
 #include "link_edit_fixture.h"
-#include "network/surface_helpers.h"
+#include "drawing/surface_helpers.h"
 
 namespace pluvane {
 namespace {

@@ -9,7 +9,7 @@
 #include "network/network_parameters.h"
 #include "network/placement.h"
 #include "network/session_fixture.h"
-#include "network/surface_helpers.h"
+#include "drawing/surface_helpers.h"
 
 namespace pluvane {
 namespace {

@@ -12,7 +12,7 @@
 #include "foundation/scripted_ui.h"
 #include "network/georeferencing.h"
 #include "network/placement.h"
-#include "network/surface.h"
+#include "drawing/surface.h"
 #include "shell/app_state.h"
 
 namespace pluvane {

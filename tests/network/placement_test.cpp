@@ -7,7 +7,7 @@
 #include "foundation/expect_message.h"
 #include "foundation/numbers.h"
 #include "network/catalogue.h"
-#include "network/surface_helpers.h"
+#include "drawing/surface_helpers.h"
 #include "placement_fixture.h"
 
 namespace pluvane {

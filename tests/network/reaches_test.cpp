@@ -6,7 +6,7 @@
 
 #include "foundation/expect_message.h"
 #include "network/reach_fixture.h"
-#include "network/surface_helpers.h"
+#include "drawing/surface_helpers.h"
 
 namespace pluvane {
 namespace {

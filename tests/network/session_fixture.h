@@ -8,7 +8,7 @@
 #include "foundation/scripted_ui.h"
 #include "foundation/test_files.h"
 #include "network/network_session.h"
-#include "network/surface.h"
+#include "drawing/surface.h"
 
 namespace pluvane {
 

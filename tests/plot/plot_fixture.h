@@ -12,7 +12,7 @@
 #include "foundation/fixed_width.h"
 #include "foundation/scripted_ui.h"
 #include "foundation/test_files.h"
-#include "network/surface.h"
+#include "drawing/surface.h"
 #include "plot/morvex_draw.h"
 
 namespace pluvane {

@@ -6,7 +6,7 @@
 #include "foundation/paths.h"
 #include "foundation/scripted_ui.h"
 #include "foundation/test_files.h"
-#include "network/surface_object.h"
+#include "drawing/surface_object.h"
 #include "plot/viewer_placing.h"
 #include "plot/viewer_view.h"
 #include "plot_fixture.h"

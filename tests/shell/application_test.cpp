@@ -9,7 +9,7 @@
 #include "foundation/expect_message.h"
 #include "foundation/ini_profile.h"
 #include "foundation/test_files.h"
-#include "network/surface_helpers.h"
+#include "drawing/surface_helpers.h"
 
 namespace pluvane {
 namespace {

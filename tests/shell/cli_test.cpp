@@ -7,7 +7,7 @@
 
 #include "foundation/scripted_ui.h"
 #include "foundation/test_files.h"
-#include "network/surface.h"
+#include "drawing/surface.h"
 #include "simulation/model_fixture.h"
 
 namespace pluvane {

@@ -10,7 +10,7 @@
 #include "foundation/test_files.h"
 #include "network/catalogue.h"
 #include "network/placement_fixture.h"
-#include "network/surface_helpers.h"
+#include "drawing/surface_helpers.h"
 #include "shell/configuration.h"
 #include "shell/view_commands.h"
 

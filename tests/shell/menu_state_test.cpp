@@ -4,7 +4,7 @@
 
 #include "foundation/expect_message.h"
 #include "foundation/scripted_ui.h"
-#include "network/surface.h"
+#include "drawing/surface.h"
 #include "shell/app_state.h"
 
 namespace pluvane {

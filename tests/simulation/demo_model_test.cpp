@@ -15,7 +15,7 @@
 #include "network/hidden_record.h"
 #include "network/persistence.h"
 #include "network/recent_files.h"
-#include "network/surface_helpers.h"
+#include "drawing/surface_helpers.h"
 #include "simulation/data_recap.h"
 #include "simulation/li2_description.h"
 #include "simulation/model_command.h"

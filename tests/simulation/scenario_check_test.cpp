@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "foundation/expect_message.h"
-#include "network/surface_helpers.h"
+#include "drawing/surface_helpers.h"
 #include "simulation/model_fixture.h"
 #include "simulation/model_names.h"
 

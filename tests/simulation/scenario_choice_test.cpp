@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "network/network_parameters.h"
-#include "network/surface_helpers.h"
+#include "drawing/surface_helpers.h"
 #include "scenario_fixture.h"
 #include "simulation/frm_scn_pluie.h"
 #include "simulation/frm_scn_sim_param_select.h"

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "foundation/expect_message.h"
-#include "network/surface_helpers.h"
+#include "drawing/surface_helpers.h"
 #include "scenario_fixture.h"
 #include "simulation/frm_pluie_liste.h"
 #include "simulation/frm_scn_sim_param_plus.h"

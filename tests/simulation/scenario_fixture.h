@@ -13,7 +13,7 @@
 #include "network/default_tags.h"
 #include "network/georeferencing.h"
 #include "network/hidden_record.h"
-#include "network/surface.h"
+#include "drawing/surface.h"
 #include "shell/app_state.h"
 
 namespace pluvane {

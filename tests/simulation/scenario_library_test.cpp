@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <functional>
 
-#include "editors/library_rows.h"
+#include "network/library_rows.h"
 #include "foundation/expect_message.h"
-#include "network/surface_helpers.h"
+#include "drawing/surface_helpers.h"
 #include "scenario_fixture.h"
 #include "simulation/frm_scn_sim_param.h"
 #include "simulation/frm_scn_sim_param_plus.h"

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "foundation/numbers.h"
-#include "network/surface.h"
+#include "drawing/surface.h"
 
 namespace pluvane {
 

@@ -15,7 +15,7 @@
 #include "network/catalogue.h"
 #include "network/georeferencing.h"
 #include "network/placement.h"
-#include "network/surface_helpers.h"
+#include "drawing/surface_helpers.h"
 #include "network/topology.h"
 #include "test_app.h"
 

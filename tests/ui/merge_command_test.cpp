@@ -5,7 +5,7 @@
 #include <QTimer>
 #include <filesystem>
 
-#include "network/surface_helpers.h"
+#include "drawing/surface_helpers.h"
 #include "shell/main_keys.h"
 #include "ui/main_window.h"
 #include "ui/main_window_fixture.h"

@@ -15,7 +15,7 @@
 #include "foundation/scripted_ui.h"
 #include "foundation/test_files.h"
 #include "foundation/text.h"
-#include "network/surface.h"
+#include "drawing/surface.h"
 #include "plot/curve_script.h"
 #include "plot/morvex_draw.h"
 #include "test_app.h"

@@ -5,7 +5,7 @@
 #include <QImage>
 #include <QMimeData>
 
-#include "network/surface.h"
+#include "drawing/surface.h"
 #include "ui/drawing_picture.h"
 #include "ui/qt_test_app.h"
 #include "ui/qt_user_interface.h"

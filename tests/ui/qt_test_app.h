@@ -7,7 +7,7 @@
 #include <cstdint>
 #include <ostream>
 
-#include "network/surface.h"
+#include "drawing/surface.h"
 
 namespace pluvane {
 

@@ -11,7 +11,7 @@
 #include <functional>
 #include <vector>
 
-#include "network/surface_helpers.h"
+#include "drawing/surface_helpers.h"
 #include "shell/main_keys.h"
 #include "ui/form_window.h"
 #include "ui/main_window.h"

@@ -1,0 +1,198 @@
+#include "drawing/surface_helpers.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "foundation/numbers.h"
+#include "foundation/text.h"
+#include "drawing/surface_guards.h"
+
+namespace pluvane {
+
+namespace {
+
+constexpr int kNodeKind = 99;
+
+// Calls `visit` on every match in creation order, with the match current.
+template <typename Visit>
+void ForEachMatch(Surface& surface, std::string_view tag_name, const TagMatch& value, Visit visit) {
+  for (int n = surface.FindByTag(tag_name, value, true); n > 0;
+       n = surface.FindByTag(tag_name, value, false)) {
+    visit(n);
+  }
+}
+
+}  // namespace
+
+int FindObject(Surface& surface, std::string_view tag_name, const TagMatch& value) {
+  CursorKeeper keeper(surface);
+  int found = 0;
+  if (tag_name == "Id" && !value.numeric()) {
+    found = surface.FindById(value.text());
+    if (found) surface.SetCurrentObject(found);
+  } else {
+    found = surface.FindByTag(tag_name, value, true);
+  }
+  if (found > 0) keeper.Release();
+  return std::max(found, 0);
+}
+
+std::vector<int> FindObjectList(Surface& surface, std::string_view tag_name,
+                                const TagMatch& value) {
+  CursorKeeper keeper(surface);
+  std::vector<int> numbers;
+  ForEachMatch(surface, tag_name, value, [&](int n) { numbers.push_back(n); });
+  return numbers;
+}
+
+int CountByTag(Surface& surface, std::string_view tag_name, const TagMatch& value) {
+  // Ids are counted from the index: creating an element asks this each time.
+  if (tag_name == "Id" && !value.numeric()) return surface.CountById(value.text());
+  CursorKeeper keeper(surface);
+  surface.SetCurrentObject(kAllObjects);
+  int count = 0;
+  ForEachMatch(surface, tag_name, value, [&](int) { ++count; });
+  return count;
+}
+
+int CountByName(Surface& surface, int i_name) { return CountByTag(surface, "iName", i_name); }
+
+int CountLabel(Surface& surface, int i_name, std::string_view label) {
+  CursorKeeper keeper(surface);
+  int count = 0;
+  ForEachMatch(surface, "iName", i_name, [&](int) {
+    if (EqualsNoCase(surface.ObjTag("libell"), label)) ++count;
+  });
+  return count;
+}
+
+int SelectByTag(Surface& surface, std::string_view tag_name, const TagMatch& value) {
+  CursorKeeper keeper(surface);
+  surface.DeselectAll();
+  int count = 0;
+  ForEachMatch(surface, tag_name, value, [&](int) {
+    surface.SetSelected(true);
+    ++count;
+  });
+  return count;
+}
+
+int DeleteByTagId(Surface& surface, std::string_view id) {
+  CursorKeeper keeper(surface);
+  const std::vector<int> numbers = FindObjectList(surface, "Id", std::string(id));
+  int count = 0;
+  surface.BeginStep("");
+  for (int number : numbers) {
+    if (surface.DeleteObject(number) > 0) ++count;
+  }
+  surface.EndStep();
+  return count;
+}
+
+int FindObject2(Surface& surface, std::string_view tag1, const TagMatch& value1,
+                std::string_view tag2, const TagMatch& value2) {
+  CursorKeeper keeper(surface);
+  for (int n = surface.FindByTag(tag1, value1, true); n > 0;
+       n = surface.FindByTag(tag1, value1, false)) {
+    if (value2.Matches(surface.ObjTag(tag2))) {
+      keeper.Release();
+      return n;
+    }
+  }
+  return 0;
+}
+
+std::vector<int> SelectedObjects(Surface& surface) {
+  CursorKeeper keeper(surface);
+  std::vector<int> selected;
+  surface.SetCurrentObject(kSelection);
+  for (int n = surface.FirstSelected(); n > 0; n = surface.NextSelected()) selected.push_back(n);
+  return selected;
+}
+
+bool IdNumberOf(std::string_view id, int& number) {
+  const std::size_t underscore = id.find('_');
+  if (underscore == std::string_view::npos) return false;
+  number = ValLong(id.substr(underscore + 1));
+  return true;
+}
+
+int MaxIdNumber(Surface& surface, int i_name) {
+  CursorKeeper keeper(surface);
+  int largest = 0;
+  bool any = false;
+  ForEachMatch(surface, "iName", i_name, [&](int) {
+    int number = 0;
+    if (!IdNumberOf(surface.ObjTag("Id"), number)) return;
+    largest = any ? std::max(largest, number) : number;
+    any = true;
+  });
+  return largest < 0 ? 0 : largest;
+}
+
+std::array<int, 100> MaxIdNumbers(Surface& surface) {
+  CursorKeeper keeper(surface);
+  std::array<int, 100> largest{};
+  std::array<bool, 100> any{};
+  for (int n = surface.FirstObject(); n > 0; n = surface.NextObject()) {
+    double kind = 0;
+    if (!ReadWholeNumber(surface.ObjTag("iName"), kind) || kind < 1 || kind > 99 ||
+        kind != std::floor(kind)) {
+      continue;
+    }
+    int number = 0;
+    if (!IdNumberOf(surface.ObjTag("Id"), number)) continue;
+    const auto i = static_cast<std::size_t>(kind);
+    largest[i] = any[i] ? std::max(largest[i], number) : number;
+    any[i] = true;
+  }
+  for (int& number : largest) number = std::max(number, 0);
+  return largest;
+}
+
+std::pair<double, double> ObjectCentre(const Surface& surface, int number) {
+  const Shape* shape = surface.ObjectShape(number);
+  if (!shape || number < kFirstObjectNumber) return {0, 0};
+  return {(static_cast<double>(shape->box.left) + shape->box.right) / 2,
+          (static_cast<double>(shape->box.top) + shape->box.bottom) / 2};
+}
+
+double NodeHalfSize(Surface& surface, double symbol_size) {
+  CursorKeeper keeper(surface);
+  const int node = surface.FindByTag("iName", kNodeKind, true);
+  if (node <= 0) return surface.ViewHeight() / 150;
+  const double half = (static_cast<double>(surface.ObjRight()) - surface.ObjLeft()) / 2;
+  return half >= 1 ? half : symbol_size;
+}
+
+std::string TagOfObject(Surface& surface, int number, std::string_view name) {
+  CursorKeeper keeper(surface);
+  surface.SetCurrentObject(number);
+  if (number < kFirstObjectNumber || surface.CurrentObject() != number) return "";
+  return surface.ObjTag(name);
+}
+
+std::array<Marker, 3> ReadLinkMarkers(const Surface& surface) {
+  std::array<Marker, 3> markers;
+  for (std::size_t i = 0; i < kLinkMarkerPositions.size(); ++i) {
+    const int p = kLinkMarkerPositions[i];
+    markers[i] =
+        Marker{surface.LinkEndMarker(p), surface.LinkMarkerWidth(p), surface.LinkMarkerHeight(p),
+               surface.LinkMarkerColor(p), surface.LinkMarkerFill(p)};
+  }
+  return markers;
+}
+
+void WriteLinkMarkers(Surface& surface, const std::array<Marker, 3>& markers) {
+  for (std::size_t i = 0; i < kLinkMarkerPositions.size(); ++i) {
+    const int p = kLinkMarkerPositions[i];
+    const Marker& m = markers[i];
+    surface.SetLinkEndMarker(p, m.shape);
+    surface.SetLinkMarkerWidth(p, m.width);
+    surface.SetLinkMarkerHeight(p, m.height);
+    surface.SetLinkMarkerColor(p, m.color);
+    surface.SetLinkMarkerFill(p, m.fill);
+  }
+}
+
+}  // namespace pluvane

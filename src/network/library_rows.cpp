@@ -1,0 +1,36 @@
+#include "network/library_rows.h"
+
+#include <string>
+#include <vector>
+
+#include "foundation/text.h"
+#include "drawing/surface_guards.h"
+#include "drawing/surface_helpers.h"
+
+namespace pluvane {
+
+void SSMarkRowDeleted(Surface& surface, int i_name, Grid& grid, int row) {
+  if (row < 1 || row > grid.MaxRows()) return;
+  {
+    CursorKeeper keeper(surface);
+    if (FindObject2(surface, "iName", i_name, "Id", grid.Text(1, row)) > 10) {
+      surface.SetObjTag("okDel", kDeletedMark);
+    }
+  }
+  for (int col = 1; col <= grid.MaxCols(); ++col) grid.SetBackColour(col, row, kButtonFaceColour);
+  if (row < grid.MaxRows()) grid.SetActiveCell(grid.ActiveCol(), row + 1);
+}
+
+std::vector<std::string> DeleteMarkedRecords(Surface& surface, int i_name) {
+  std::vector<std::string> ids;
+  CursorKeeper keeper(surface);
+  for (int number : FindObjectList(surface, "iName", i_name)) {
+    surface.SetCurrentObject(number);
+    if (surface.ObjTag("okDel") != kDeletedMark) continue;
+    ids.push_back(surface.ObjTag("Id"));
+    surface.DeleteObject(number);
+  }
+  return ids;
+}
+
+}  // namespace pluvane
