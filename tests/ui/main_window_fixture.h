@@ -19,10 +19,12 @@
 namespace pluvane {
 
 // A copy of the programs' folder (configuration, symbols, cursors) that the
-// test may change, with Demo.mtf in a folder of its own.
+// test may change, with Demo.mtf in a folder of its own. The Qt application
+// stands from then on, so that the test's windows may be made.
 class AppFolder {
  public:
   AppFolder() {
+    TestApp();
     namespace fs = std::filesystem;
     const fs::path bin(PLUVANE_BIN);
     fs::copy_file(bin / "pluvane.ini", fs::path(folder_.Path()) / "pluvane.ini");
