@@ -186,7 +186,7 @@ void NetworkBuilder::PicturesByName() {
   surface_.SetObjectPicture("");
 }
 
-void NetworkBuilder::ViewWholeNetwork() { ZoomToBounds(surface_, state_); }
+void NetworkBuilder::ViewWholeNetwork() { ShowWholeNetwork(surface_, state_); }
 
 bool NetworkBuilder::Save(const std::string& path) {
   NetworkSession session{surface_, state_, ui_, recent_};

@@ -87,7 +87,7 @@ class NetworkBuilder {
   // folder it was built in (the view finds them in the symbol folder); none
   // on the records and the defaults.
   void PicturesByName();
-  // The view over the whole network, as "ZOOM11" gives it.
+  // The whole network in view, centred with a margin, as a network opens.
   void ViewWholeNetwork();
   // Writes the parameter records and the network file. False when the file
   // could not be written (the message went to the user interface).

@@ -13,6 +13,7 @@
 
 #include "foundation/numbers.h"
 #include "network/catalogue.h"
+#include "network/georeferencing.h"
 #include "drawing/surface_guards.h"
 #include "drawing/surface_helpers.h"
 #include "network/topology.h"
@@ -392,6 +393,37 @@ TEST_F(MainWindowModes, TheArmedToolStandsPressed) {
   EXPECT_TRUE(window_->tool_bars()->Tool("MDBREAK")->isChecked());
   Key(Qt::Key_Escape);
   EXPECT_FALSE(window_->tool_bars()->Tool("MDBREAK")->isChecked());
+}
+
+TEST_F(MainWindowModes, PictureOfTheExampleNetwork) {
+  window_->close();
+  window_ = std::make_unique<MainWindow>();
+  window_->resize(1280, 800);
+  ASSERT_TRUE(Open(*window_, app_, app_.Demo(), true));
+  QApplication::processEvents();
+  // The view the example was saved with, as `make run` shows it; the pointer
+  // over the node "Église": its map coordinates stand in the status bar.
+  const int church = FindObject(surface(), "libell", "Église");
+  ASSERT_GT(church, 10);
+  const auto [x, y] = ObjectCentre(surface(), church);
+  const QPoint at = Client(x, y);
+  MoveTo(at);
+  const double px = view()->ClientToLogicX(at.x()), py = view()->ClientToLogicY(at.y());
+  const Calibration& calibration = window_->application().state().calibration;
+  auto coordinate = [](double value) { return NumToText(std::round(value * 100) / 100); };
+  EXPECT_EQ(window_->panels().XY()->text().toStdString(),
+            coordinate(LogicToUserX(calibration, px, py)) + ", " +
+                coordinate(LogicToUserY(calibration, px, py)));
+  // The church stands near (650300, 6862000) on the map.
+  EXPECT_NEAR(LogicToUserX(calibration, px, py), 650300, 50);
+  EXPECT_NEAR(LogicToUserY(calibration, px, py), 6862000, 50);
+  QApplication::processEvents();
+  const QImage shot = window_->grab().toImage();
+  ASSERT_FALSE(shot.isNull());
+  // The node's symbol is drawn where the pointer stands: not the page's white.
+  const QPoint in_shot = view()->mapTo(window_.get(), at);
+  EXPECT_NE(shot.pixelColor(in_shot).rgb() & 0xFFFFFF, 0xFFFFFFu);
+  EXPECT_TRUE(shot.save(QString::fromStdString(SnapshotPath("main_window.png"))));
 }
 
 TEST_F(MainWindowModes, PictureOfALinkBeingPlaced) {

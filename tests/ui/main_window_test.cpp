@@ -310,27 +310,5 @@ TEST(MainWindow, PrintsTheViewOnThePrinter) {
   Quit(window);
 }
 
-TEST(MainWindow, ScreenshotWithTheDemoNetwork) {
-  AppFolder app;
-  MainWindow window;
-  window.resize(1280, 800);
-  ASSERT_TRUE(Open(window, app, app.Demo(), true));
-  ZoomToBounds(window.surface(), window.application().state());
-  // A little room around the network, as a user would leave it.
-  Surface& surface = window.surface();
-  const double margin = 0.04 * surface.ViewWidth();
-  ZoomToRect(surface, window.application().state(), surface.ViewLeft() - margin,
-             surface.ViewTop() - margin, surface.ViewLeft() + surface.ViewWidth() + margin,
-             surface.ViewTop() + surface.ViewHeight() + margin);
-  surface.Refresh();
-  window.user_interface().ShowStatus("Prêt");
-  window.user_interface().ShowPanel("sbrXY", "652310.50, 1843200.25");
-  QApplication::processEvents();
-  const QImage shot = window.grab().toImage();
-  ASSERT_FALSE(shot.isNull());
-  EXPECT_TRUE(shot.save(QString::fromStdString(SnapshotPath("main_window.png"))));
-  Quit(window);
-}
-
 }  // namespace
 }  // namespace pluvane
