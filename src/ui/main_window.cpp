@@ -14,6 +14,7 @@
 #include "shell/frm_impfile_dlg.h"
 #include "foundation/paths.h"
 #include "network/link_direction.h"
+#include "network/locate_element.h"
 #include "network/merge_network.h"
 #include "network/persistence.h"
 #include "network/snap.h"
@@ -161,6 +162,12 @@ void MainWindow::BindCommands() {
        })},
       {"mnuScn_ModeleGen", after([this] { RunScenarioCommand(false); })},
       {"mnuScn_ModeleRun", after([this] { RunScenarioCommand(true); })},
+      {"mnuUtil_LocObjById", after([this] {
+         LocateElement(surface_, application_->state(), ui_, "Id");
+       })},
+      {"mnuUtil_LocObjByUsId", after([this] {
+         LocateElement(surface_, application_->state(), ui_, "libell");
+       })},
       {"mnuExploit_RecapData", [this] { RecapData(); }},
       {"mnuExploit_ResHys", [this] { ShowResult(mnuExploit_ResHys); }},
       {"mnuExploit_ResDeb", [this] { ShowResult(mnuExploit_ResDeb); }},
