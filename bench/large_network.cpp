@@ -11,6 +11,7 @@
 #include "foundation/scripted_ui.h"
 #include "network/network_summary.h"
 #include "network/persistence.h"
+#include "shell/app_state.h"
 #include "tools/network_builder.h"
 
 namespace {

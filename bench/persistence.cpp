@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <string>
 
+#include "drawing/surface.h"
 #include "foundation/numbers.h"
 #include "foundation/scripted_ui.h"
 #include "network/calibration_points.h"
@@ -13,7 +14,7 @@
 #include "network/hidden_record.h"
 #include "network/merge_network.h"
 #include "network/persistence.h"
-#include "drawing/surface.h"
+#include "shell/app_state.h"
 
 namespace {
 

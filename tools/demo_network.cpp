@@ -8,6 +8,7 @@
 #include <array>
 
 #include "network/catalogue.h"
+#include "shell/app_state.h"
 #include "tools/network_builder.h"
 
 namespace pluvane {

@@ -14,6 +14,7 @@
 
 #include "foundation/numbers.h"
 #include "foundation/scripted_ui.h"
+#include "shell/app_state.h"
 #include "tools/network_builder.h"
 
 namespace {

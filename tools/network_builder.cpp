@@ -1,5 +1,7 @@
 #include "tools/network_builder.h"
 
+#include "drawing/surface_guards.h"
+#include "drawing/surface_helpers.h"
 #include "foundation/numbers.h"
 #include "foundation/paths.h"
 #include "network/calibration_points.h"
@@ -8,9 +10,8 @@
 #include "network/georeferencing.h"
 #include "network/hidden_record.h"
 #include "network/persistence.h"
-#include "drawing/surface_guards.h"
-#include "drawing/surface_helpers.h"
 #include "network/view_zoom.h"
+#include "shell/app_state.h"
 
 namespace pluvane {
 

@@ -45,7 +45,7 @@ std::string TagValue(const TagList& tags, const std::string& name) {
 
 // A calibration symbol SymbolSize wide and high centred on the point; it is
 // left current.
-int AddCalibrationSymbol(Surface& surface, const AppState& state, std::int32_t x, std::int32_t y) {
+int AddCalibrationSymbol(Surface& surface, const NetworkState& state, std::int32_t x, std::int32_t y) {
   const std::int32_t left = x - ToLong(state.SymbolSize / 2);
   const std::int32_t top = y - ToLong(state.SymbolSize / 2);
   const std::int32_t size = RoundLong(state.SymbolSize);
@@ -79,19 +79,19 @@ int FindCalibrationPoint(Surface& surface, const std::string& id) {
   return FindObject2(surface, "Id", id, "iName", kCalibrationPoint);
 }
 
-int ShowCalibrationPoints(Surface& surface, const AppState& state) {
+int ShowCalibrationPoints(Surface& surface, const NetworkState& state) {
   return Convert(surface, kHiddenCalibrationPoint, kCalibrationPoint, [&](const TagList& tags) {
     AddCalibrationSymbol(surface, state, RoundLong(Val(TagValue(tags, "Xlog"))),
                          RoundLong(Val(TagValue(tags, "Ylog"))));
   });
 }
 
-int HideCalibrationPoints(Surface& surface, const AppState& state) {
+int HideCalibrationPoints(Surface& surface, const NetworkState& state) {
   return Convert(surface, kCalibrationPoint, kHiddenCalibrationPoint,
                  [&](const TagList&) { AddHiddenRecord(surface, state); });
 }
 
-void AddCalibrationPoints(Surface& surface, const AppState& state) {
+void AddCalibrationPoints(Surface& surface, const NetworkState& state) {
   CursorKeeper keeper(surface);
   const Calibration& c = state.calibration;
   for (int i = 1; i <= kCalibrationPointCount; ++i) {

@@ -9,7 +9,7 @@
 #include <string>
 
 #include "drawing/surface.h"
-#include "shell/app_state.h"
+#include "network/network_state.h"
 
 namespace pluvane {
 
@@ -28,15 +28,15 @@ int FindCalibrationPoint(Surface& surface, const std::string& id);
 // deleted and a symbol of the calibration picture, SymbolSize wide and high,
 // is made centred on its Xlog, Ylog, with the same tags and iName 15.
 // Returns how many. The cursor is kept.
-int ShowCalibrationPoints(Surface& surface, const AppState& state);
+int ShowCalibrationPoints(Surface& surface, const NetworkState& state);
 
 // The reverse: every visible point (iName 15) becomes a hidden record of
 // iName 150 with the same tags. Returns how many. The cursor is kept.
-int HideCalibrationPoints(Surface& surface, const AppState& state);
+int HideCalibrationPoints(Surface& surface, const NetworkState& state);
 
 // Makes the three visible points afresh from the calibration's tables (after
 // a merge deleted those of both networks). The cursor is kept.
-void AddCalibrationPoints(Surface& surface, const AppState& state);
+void AddCalibrationPoints(Surface& surface, const NetworkState& state);
 
 // Fills entry `index` of the tables from the tags of the object.
 void ReadCalibrationPoint(Surface& surface, int number, Calibration& calibration, int index);

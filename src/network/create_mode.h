@@ -12,7 +12,7 @@
 
 #include "foundation/user_interface.h"
 #include "drawing/surface.h"
-#include "shell/app_state.h"
+#include "network/network_state.h"
 
 namespace pluvane {
 
@@ -35,7 +35,7 @@ struct PlacementState {
 // What the window works with during a placement.
 struct PlacementContext {
   Surface& surface;
-  AppState& state;
+  NetworkState& state;
   UserInterface& ui;
   std::string caption;     // the main window's caption, title of the placement messages
   bool stay_armed = true;  // the tool bar keeps the mode after a node is placed

@@ -18,7 +18,7 @@ constexpr const char* kFruisselDefault = "1. k (Desbordes)";
 // Writes the tags of one new element; `import` selects the second path.
 class TagWriter {
  public:
-  TagWriter(Surface& surface, AppState& state, const CreationPlace& place, bool import)
+  TagWriter(Surface& surface, NetworkState& state, const CreationPlace& place, bool import)
       : s_(surface), state_(state), place_(place), import_(import) {}
 
   std::string Write(const ElementType& type, bool no_count) {
@@ -233,7 +233,7 @@ class TagWriter {
   }
 
   Surface& s_;
-  AppState& state_;
+  NetworkState& state_;
   const CreationPlace& place_;
   bool import_;
   std::int32_t n_ = 0;
@@ -241,7 +241,7 @@ class TagWriter {
 
 }  // namespace
 
-std::string MakeIdUnique(Surface& surface, AppState& state, int i_name, std::int32_t& counter) {
+std::string MakeIdUnique(Surface& surface, NetworkState& state, int i_name, std::int32_t& counter) {
   std::string id = surface.ObjTag("Id");
   while (CountByTag(surface, "Id", id) >= 2) {
     ++counter;
@@ -254,14 +254,14 @@ std::string MakeIdUnique(Surface& surface, AppState& state, int i_name, std::int
   return id;
 }
 
-std::string CreateDefaultTags(Surface& surface, AppState& state, std::string_view key,
+std::string CreateDefaultTags(Surface& surface, NetworkState& state, std::string_view key,
                               bool no_count, const CreationPlace& place) {
   const ElementType* type = ElementTypeOfKey(key);
   if (!type || type->key.empty() || surface.CurrentObject() < kFirstObjectNumber) return "";
   return TagWriter(surface, state, place, false).Write(*type, no_count);
 }
 
-std::string CreateDefaultTagsByNumber(Surface& surface, AppState& state, int i_name, bool no_count,
+std::string CreateDefaultTagsByNumber(Surface& surface, NetworkState& state, int i_name, bool no_count,
                                       const CreationPlace& place) {
   const ElementType* type = ElementTypeOfIName(i_name);
   if (!type || type->key.empty() || surface.CurrentObject() < kFirstObjectNumber) return "";

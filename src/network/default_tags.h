@@ -11,7 +11,7 @@
 #include <string_view>
 
 #include "drawing/surface.h"
-#include "shell/app_state.h"
+#include "network/network_state.h"
 
 namespace pluvane {
 
@@ -27,7 +27,7 @@ struct CreationPlace {
 // `no_count`, the type's counter in `state.ElementCounters` moves on first.
 // A reach (X_BIEF) gets tags only while `state.PendingReach` is set. Returns
 // the Id written, empty when nothing was written.
-std::string CreateDefaultTags(Surface& surface, AppState& state, std::string_view key,
+std::string CreateDefaultTags(Surface& surface, NetworkState& state, std::string_view key,
                               bool no_count, const CreationPlace& place = {});
 
 // Makes the Id of the current object unique over the drawing: while another
@@ -35,13 +35,13 @@ std::string CreateDefaultTags(Surface& surface, AppState& state, std::string_vie
 // underscore followed by the counter ("Obj_" and the counter when it has no
 // underscore). The type's counter in `state.ElementCounters` follows. Returns
 // the Id kept.
-std::string MakeIdUnique(Surface& surface, AppState& state, int i_name, std::int32_t& counter);
+std::string MakeIdUnique(Surface& surface, NetworkState& state, int i_name, std::int32_t& counter);
 
 // The import twin, by type number: catchments of both kinds take the "Bv_"
 // prefix first, then "Bvs_"; dry-weather flows of BVS and HYBV are 0.1;
 // links get neither their end nodes, nor L, ZRam, ZRav; point elements get
 // Xlog, Ylog only.
-std::string CreateDefaultTagsByNumber(Surface& surface, AppState& state, int i_name, bool no_count,
+std::string CreateDefaultTagsByNumber(Surface& surface, NetworkState& state, int i_name, bool no_count,
                                       const CreationPlace& place = {});
 
 // The tags of the radius of action on the current ellipse: Xlog, Ylog its

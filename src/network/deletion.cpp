@@ -28,7 +28,7 @@ void LowerLinkCount(Surface& surface, int node) {
 
 }  // namespace
 
-int DeleteSelection(Surface& surface, AppState& state) {
+int DeleteSelection(Surface& surface, NetworkState& state) {
   UndoStep step(surface, "Supprimer");
   int deleted = 0;
   for (;;) {

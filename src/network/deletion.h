@@ -5,12 +5,12 @@
 #pragma once
 
 #include "drawing/surface.h"
-#include "shell/app_state.h"
+#include "network/network_state.h"
 
 namespace pluvane {
 
 // Deletes the selection by those rules and returns how many objects went
 // (links removed with their ends included). One undo step.
-int DeleteSelection(Surface& surface, AppState& state);
+int DeleteSelection(Surface& surface, NetworkState& state);
 
 }  // namespace pluvane

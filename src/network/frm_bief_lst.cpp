@@ -21,7 +21,7 @@ bool IsMarked(const Grid& grid, int row) { return Trim(grid.Text(1, row)) == kMa
 
 }  // namespace
 
-FrmBiefLst::FrmBiefLst(Surface& surface, AppState& state, UserInterface& ui,
+FrmBiefLst::FrmBiefLst(Surface& surface, NetworkState& state, UserInterface& ui,
                        std::function<void(const ReachHighlight&)> highlight)
     : surface_(surface),
       state_(state),

@@ -13,7 +13,7 @@
 #include "foundation/form_controller.h"
 #include "foundation/user_interface.h"
 #include "drawing/surface.h"
-#include "shell/app_state.h"
+#include "network/network_state.h"
 
 namespace pluvane {
 
@@ -30,7 +30,7 @@ class FrmBiefLst : public FormController {
   // Background of a row marked for deletion.
   static constexpr std::int32_t kMarkedColour = 14737632;
 
-  FrmBiefLst(Surface& surface, AppState& state, UserInterface& ui,
+  FrmBiefLst(Surface& surface, NetworkState& state, UserInterface& ui,
              std::function<void(const ReachHighlight&)> highlight = {});
   ~FrmBiefLst() override;
   FrmBiefLst(const FrmBiefLst&) = delete;
@@ -60,7 +60,7 @@ class FrmBiefLst : public FormController {
   void Unload();
 
   Surface& surface_;
-  AppState& state_;
+  NetworkState& state_;
   UserInterface& ui_;
   std::function<void(const ReachHighlight&)> on_highlight_;
   Grid reaches_;

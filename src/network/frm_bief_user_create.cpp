@@ -7,7 +7,7 @@
 
 namespace pluvane {
 
-FrmBiefUserCreate::FrmBiefUserCreate(Surface& surface, AppState& state, UserInterface& ui)
+FrmBiefUserCreate::FrmBiefUserCreate(Surface& surface, NetworkState& state, UserInterface& ui)
     : surface_(surface), state_(state), ui_(ui), grid_(1, 0) {
   grid_.SetCaption(Caption());
   grid_.SetColHead(1, "N° Bief");

@@ -10,13 +10,13 @@
 #include "foundation/form_controller.h"
 #include "foundation/user_interface.h"
 #include "drawing/surface.h"
-#include "shell/app_state.h"
+#include "network/network_state.h"
 
 namespace pluvane {
 
 class FrmBiefUserCreate : public FormController {
  public:
-  FrmBiefUserCreate(Surface& surface, AppState& state, UserInterface& ui);
+  FrmBiefUserCreate(Surface& surface, NetworkState& state, UserInterface& ui);
 
   std::string Caption() const override { return "Création d'un nouveau Bief"; }
   std::vector<Grid*> Grids() override { return {&grid_}; }
@@ -36,7 +36,7 @@ class FrmBiefUserCreate : public FormController {
 
  private:
   Surface& surface_;
-  AppState& state_;
+  NetworkState& state_;
   UserInterface& ui_;
   Grid grid_;
   int used_rows_ = 0;

@@ -25,7 +25,7 @@ std::string Coordinate(double value) {
 
 }  // namespace
 
-FrmCalage::FrmCalage(Surface& surface, AppState& state, UserInterface& ui, CalageHost host)
+FrmCalage::FrmCalage(Surface& surface, NetworkState& state, UserInterface& ui, CalageHost host)
     : surface_(surface),
       state_(state),
       ui_(ui),

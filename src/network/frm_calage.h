@@ -11,7 +11,7 @@
 #include "foundation/form_controller.h"
 #include "foundation/user_interface.h"
 #include "drawing/surface.h"
-#include "shell/app_state.h"
+#include "network/network_state.h"
 
 namespace pluvane {
 
@@ -30,7 +30,7 @@ class FrmCalage : public FormController {
   static constexpr int kDecimals = 2;
   static constexpr int kWidth = 16;
 
-  FrmCalage(Surface& surface, AppState& state, UserInterface& ui, CalageHost host = {});
+  FrmCalage(Surface& surface, NetworkState& state, UserInterface& ui, CalageHost host = {});
   // A form that goes without a command still hides its points.
   ~FrmCalage() override;
   FrmCalage(const FrmCalage&) = delete;
@@ -66,7 +66,7 @@ class FrmCalage : public FormController {
   void Unload();
 
   Surface& surface_;
-  AppState& state_;
+  NetworkState& state_;
   UserInterface& ui_;
   CalageHost host_;
   Grid grid_;

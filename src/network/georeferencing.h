@@ -6,7 +6,7 @@
 
 #include <cstdint>
 
-#include "shell/app_state.h"
+#include "network/network_state.h"
 
 namespace pluvane {
 

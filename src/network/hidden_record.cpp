@@ -7,7 +7,7 @@ namespace pluvane {
 
 namespace {
 
-void PaintAsBackground(Surface& surface, const AppState& state) {
+void PaintAsBackground(Surface& surface, const NetworkState& state) {
   surface.SetLineColor(state.ScreenBackColor);
   surface.SetFillColor(state.ScreenBackColor);
   surface.SetObjectVisible(false);
@@ -15,7 +15,7 @@ void PaintAsBackground(Surface& surface, const AppState& state) {
 
 }  // namespace
 
-int AddHiddenRecord(Surface& surface, const AppState& state) {
+int AddHiddenRecord(Surface& surface, const NetworkState& state) {
   const std::int32_t s = ToLong(state.SymbolSize);
   const int number = surface.AddObject(kKindRectangle, state.LogicWidth - s, state.LogicHeight - s,
                                        state.LogicWidth + s, state.LogicHeight + s);
@@ -23,7 +23,7 @@ int AddHiddenRecord(Surface& surface, const AppState& state) {
   return number;
 }
 
-void HideRecord(Surface& surface, const AppState& state, int number) {
+void HideRecord(Surface& surface, const NetworkState& state, int number) {
   const int saved = surface.CurrentObject();
   surface.SetCurrentObject(number);
   if (surface.CurrentObject() == number) {

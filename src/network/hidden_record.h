@@ -4,17 +4,17 @@
 #pragma once
 
 #include "drawing/surface.h"
-#include "shell/app_state.h"
+#include "network/network_state.h"
 
 namespace pluvane {
 
 // Adds such a record with the defaults' style and makes it current; returns
 // its number.
-int AddHiddenRecord(Surface& surface, const AppState& state);
+int AddHiddenRecord(Surface& surface, const NetworkState& state);
 
 // Puts an existing object out of sight the same way: its centre moved to the
 // far corner, line and fill in the background colour, not visible. The cursor
 // is put back.
-void HideRecord(Surface& surface, const AppState& state, int number);
+void HideRecord(Surface& surface, const NetworkState& state, int number);
 
 }  // namespace pluvane

@@ -49,7 +49,7 @@ AppError SlopeError(double drop) {
 
 // One half of the broken link, from `from` to `to`, with the old link's tags;
 // 0 when the surface refused it. It is left current.
-int AddHalf(Surface& surface, AppState& state, const LinkTemplate& old, int from, int to,
+int AddHalf(Surface& surface, NetworkState& state, const LinkTemplate& old, int from, int to,
             bool second_half) {
   const int half = surface.AddLink(from, to);
   if (half == 0) return 0;
@@ -114,7 +114,7 @@ std::string BreakBubbleText(Surface& surface, int link, double x, double y) {
   return text;
 }
 
-void CopyLinkTags(Surface& surface, AppState& state, const LinkTemplate& old, bool second_half) {
+void CopyLinkTags(Surface& surface, NetworkState& state, const LinkTemplate& old, bool second_half) {
   const int half = surface.CurrentObject();
   surface.SetLinkEndMarker(0, 0);
   surface.SetLinkEndMarker(1, 0);
@@ -143,7 +143,7 @@ void CopyLinkTags(Surface& surface, AppState& state, const LinkTemplate& old, bo
 
 BrokenLink BreakLink(PlacementContext& context, int link, double x, double y) {
   Surface& surface = context.surface;
-  AppState& state = context.state;
+  NetworkState& state = context.state;
   BrokenLink made;
   surface.SetCurrentObject(link);
   if (link < kFirstObjectNumber || surface.CurrentObject() != link ||

@@ -14,7 +14,7 @@
 #include "network/create_mode.h"
 #include "network/placement.h"
 #include "drawing/surface.h"
-#include "shell/app_state.h"
+#include "network/network_state.h"
 
 namespace pluvane {
 
@@ -42,7 +42,7 @@ struct LinkTemplate {
 // index from 1 on (the defaults of a type come in the same order; tags beyond
 // them are added under their names). The first half takes the old Id; the
 // second derives a new one from it, which is also its label.
-void CopyLinkTags(Surface& surface, AppState& state, const LinkTemplate& old, bool second_half);
+void CopyLinkTags(Surface& surface, NetworkState& state, const LinkTemplate& old, bool second_half);
 
 // The two links that replaced a broken one; 0 and 0 when nothing was broken.
 struct BrokenLink {

@@ -68,7 +68,7 @@ void WriteTags(Surface& surface, const TagValues& values) {
   for (const auto& [name, value] : values) surface.SetObjTag(name, value);
 }
 
-Upstream ReadUpstream(Surface& surface, const AppState& state, int link) {
+Upstream ReadUpstream(Surface& surface, const NetworkState& state, int link) {
   CursorKeeper keeper(surface);
   surface.SetCurrentObject(link);
   Upstream a;

@@ -40,7 +40,7 @@ bool SolveCalibrationOrWarn(Calibration& calibration, UserInterface& ui) {
   return false;
 }
 
-void LoadCalibration(Surface& surface, AppState& state, UserInterface& ui) {
+void LoadCalibration(Surface& surface, NetworkState& state, UserInterface& ui) {
   if (ReadCalibrationPoints(surface, kHiddenCalibrationPoint, state.calibration)) {
     SolveCalibrationOrWarn(state.calibration, ui);
   } else {

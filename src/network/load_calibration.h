@@ -5,7 +5,7 @@
 
 #include "foundation/user_interface.h"
 #include "drawing/surface.h"
-#include "shell/app_state.h"
+#include "network/network_state.h"
 
 namespace pluvane {
 
@@ -18,6 +18,6 @@ bool SolveCalibrationOrWarn(Calibration& calibration, UserInterface& ui);
 // solved. Without all three, each of the seven tags of ParamReseau that is
 // not blank replaces its parameter, with no test of coherence. Last, visible
 // calibration symbols are put back out of sight. The cursor is kept.
-void LoadCalibration(Surface& surface, AppState& state, UserInterface& ui);
+void LoadCalibration(Surface& surface, NetworkState& state, UserInterface& ui);
 
 }  // namespace pluvane

@@ -18,7 +18,7 @@ namespace {
 constexpr double kAroundSizes = 5;
 constexpr double kAroundSymbols = 20;
 
-void ZoomAround(Surface& surface, AppState& state, int object) {
+void ZoomAround(Surface& surface, NetworkState& state, int object) {
   const Box box = surface.ObjectShape(object)->box;
   const double cx = (static_cast<double>(box.left) + box.right) / 2;
   const double cy = (static_cast<double>(box.top) + box.bottom) / 2;
@@ -29,7 +29,7 @@ void ZoomAround(Surface& surface, AppState& state, int object) {
 
 }  // namespace
 
-int LocateElement(Surface& surface, AppState& state, UserInterface& ui, std::string_view tag_name) {
+int LocateElement(Surface& surface, NetworkState& state, UserInterface& ui, std::string_view tag_name) {
   if (surface.ObjectCount(kPage) == 0) {
     ui.ShowMessage("Un réseau doit être chargé.", kLocateTitle, MessageIcon::kExclamation);
     return 0;

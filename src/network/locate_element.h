@@ -7,7 +7,7 @@
 
 #include "foundation/user_interface.h"
 #include "drawing/surface.h"
-#include "shell/app_state.h"
+#include "network/network_state.h"
 
 namespace pluvane {
 
@@ -16,6 +16,6 @@ inline constexpr const char* kLocateTitle = "Localisation d'élément";
 // Asks the designation, finds every object whose tag `tag_name` ("Id" or
 // "libell") equals it without regard to case, tells what was found, selects it
 // and zooms around the first. Returns how many were found.
-int LocateElement(Surface& surface, AppState& state, UserInterface& ui, std::string_view tag_name);
+int LocateElement(Surface& surface, NetworkState& state, UserInterface& ui, std::string_view tag_name);
 
 }  // namespace pluvane

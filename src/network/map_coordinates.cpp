@@ -36,7 +36,7 @@ std::vector<int> StandingOn(Surface& surface, const std::string& node_id, double
 
 }  // namespace
 
-int RecomputeUserCoordinates(Surface& surface, const AppState& state) {
+int RecomputeUserCoordinates(Surface& surface, const NetworkState& state) {
   CursorKeeper keeper(surface);
   const bool redraw = surface.Redraw();
   surface.SetRedraw(false);

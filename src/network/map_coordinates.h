@@ -4,14 +4,14 @@
 #pragma once
 
 #include "drawing/surface.h"
-#include "shell/app_state.h"
+#include "network/network_state.h"
 
 namespace pluvane {
 
 // Over every object of iName 99, 12, 21 or 1: Xlog, Ylog become the centre of
 // its box, and Xus, Yus the map position of that centre read back as
 // integers. Returns how many objects were updated. The cursor is kept.
-int RecomputeUserCoordinates(Surface& surface, const AppState& state);
+int RecomputeUserCoordinates(Surface& surface, const NetworkState& state);
 
 // Puts an object that keeps its own Xlog, Ylog and Xus, Yus (a node, a
 // catchment, a gauge) where its map coordinates fall by the calibration,

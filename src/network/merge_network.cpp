@@ -50,7 +50,7 @@ void Refuse(UserInterface& ui, const std::string& reason) {
 // The look-ups go through maps from old to new Id, built as the passes go.
 class GuestRenamer {
  public:
-  GuestRenamer(Surface& surface, AppState& state, UserInterface& ui, std::string prefix,
+  GuestRenamer(Surface& surface, NetworkState& state, UserInterface& ui, std::string prefix,
                const std::vector<int>& guest)
       : surface_(surface), state_(state), ui_(ui), prefix_(std::move(prefix)) {
     for (int n : guest) {
@@ -187,7 +187,7 @@ class GuestRenamer {
   }
 
   Surface& surface_;
-  AppState& state_;
+  NetworkState& state_;
   UserInterface& ui_;
   std::string prefix_;
   std::unordered_map<int, std::vector<int>> by_type_;
@@ -208,7 +208,7 @@ void DeleteCalibrationRecords(Surface& surface) {
 
 int MergeNetwork(NetworkSession& s, const std::function<void()>& rebuild_arrows) {
   Surface& surface = s.surface;
-  AppState& state = s.state;
+  NetworkState& state = s.state;
   if (!FileExist(state.NetworkFile)) {
     Refuse(s.ui, "Un réseau d'accueil type Pluvane doit être chargé !");
     return 0;

@@ -28,7 +28,7 @@ bool CarriesLength(int i_name) {
 
 }  // namespace
 
-MoveOutcome FinishMove(Surface& surface, AppState& state, bool ctrl) {
+MoveOutcome FinishMove(Surface& surface, NetworkState& state, bool ctrl) {
   MoveOutcome outcome;
   UndoStep step(surface, "Déplacer");
   const std::vector<int> moved = SelectedObjects(surface);

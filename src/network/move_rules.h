@@ -5,7 +5,7 @@
 #pragma once
 
 #include "drawing/surface.h"
-#include "shell/app_state.h"
+#include "network/network_state.h"
 
 namespace pluvane {
 
@@ -16,6 +16,6 @@ struct MoveOutcome {
 };
 
 // Handles each selected object by its iName, then clears the selection.
-MoveOutcome FinishMove(Surface& surface, AppState& state, bool ctrl);
+MoveOutcome FinishMove(Surface& surface, NetworkState& state, bool ctrl);
 
 }  // namespace pluvane

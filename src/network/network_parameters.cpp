@@ -10,13 +10,13 @@ namespace pluvane {
 
 namespace {
 
-void NewRecord(Surface& surface, const AppState& state, const char* id) {
+void NewRecord(Surface& surface, const NetworkState& state, const char* id) {
   DeleteByTagId(surface, id);
   AddHiddenRecord(surface, state);
   surface.SetObjTag("Id", id);
 }
 
-void WriteCalculationDefaults(Surface& surface, const AppState& state) {
+void WriteCalculationDefaults(Surface& surface, const NetworkState& state) {
   surface.SetObjTag("CalcMode", static_cast<double>(state.CalcMode));
   surface.SetObjTag("CalcDuree", state.CalcDuree);
   surface.SetObjTag("CalcDt", state.CalcDt);
@@ -24,7 +24,7 @@ void WriteCalculationDefaults(Surface& surface, const AppState& state) {
 
 }  // namespace
 
-void WriteParameterRecords(Surface& surface, const AppState& state) {
+void WriteParameterRecords(Surface& surface, const NetworkState& state) {
   const int saved = surface.CurrentObject();
   const Calibration& c = state.calibration;
   NewRecord(surface, state, kParamReseau);
@@ -49,14 +49,14 @@ void WriteParameterRecords(Surface& surface, const AppState& state) {
   surface.SetCurrentObject(saved);
 }
 
-void CreateBlankParamReseau(Surface& surface, const AppState& state) {
+void CreateBlankParamReseau(Surface& surface, const NetworkState& state) {
   const int saved = surface.CurrentObject();
   NewRecord(surface, state, kParamReseau);
   WriteCalculationDefaults(surface, state);
   surface.SetCurrentObject(saved);
 }
 
-void ReadParamReseau(Surface& surface, AppState& state) {
+void ReadParamReseau(Surface& surface, NetworkState& state) {
   const int saved = surface.CurrentObject();
   if (FindObject(surface, "Id", kParamReseau) > 10) {
     auto take = [&](const char* tag, double& field) {
@@ -76,7 +76,7 @@ void ReadParamReseau(Surface& surface, AppState& state) {
   surface.SetCurrentObject(saved);
 }
 
-bool ReadZoomFactors(Surface& surface, AppState& state, double& left, double& top) {
+bool ReadZoomFactors(Surface& surface, NetworkState& state, double& left, double& top) {
   const int saved = surface.CurrentObject();
   const bool found = FindObject2(surface, "Id", kZoomFactors, "iGroup", -1) > 10;
   if (found) {

@@ -4,7 +4,7 @@
 #pragma once
 
 #include "drawing/surface.h"
-#include "shell/app_state.h"
+#include "network/network_state.h"
 
 namespace pluvane {
 
@@ -12,17 +12,17 @@ inline constexpr const char* kParamReseau = "ParamReseau";
 inline constexpr const char* kZoomFactors = "ZoomFactors";
 
 // Deletes any record of that Id and creates both afresh from the state and the view.
-void WriteParameterRecords(Surface& surface, const AppState& state);
+void WriteParameterRecords(Surface& surface, const NetworkState& state);
 
 // The ParamReseau of a new network: CalcMode, CalcDuree and CalcDt only.
-void CreateBlankParamReseau(Surface& surface, const AppState& state);
+void CreateBlankParamReseau(Surface& surface, const NetworkState& state);
 
 // Reads ParamReseau: each of CalcMode, CalcDuree, CalcDt, SymbolSize,
 // LinkThick, Xecran and Yecran that reads above 0 replaces the state's value.
-void ReadParamReseau(Surface& surface, AppState& state);
+void ReadParamReseau(Surface& surface, NetworkState& state);
 
 // Reads ZoomFactors (Id and iGroup -1) into the zoom factor and the view's
 // left and top. False, nothing changed, when the record is absent.
-bool ReadZoomFactors(Surface& surface, AppState& state, double& left, double& top);
+bool ReadZoomFactors(Surface& surface, NetworkState& state, double& left, double& top);
 
 }  // namespace pluvane

@@ -5,13 +5,13 @@
 #include "foundation/user_interface.h"
 #include "network/recent_files.h"
 #include "drawing/surface.h"
-#include "shell/app_state.h"
+#include "network/network_state.h"
 
 namespace pluvane {
 
 struct NetworkSession {
   Surface& surface;
-  AppState& state;
+  NetworkState& state;
   UserInterface& ui;
   RecentFiles& recent;
 };

@@ -22,7 +22,7 @@ bool IsCalibrated(Surface& surface) {
   return ReadCalibrationPoints(surface, kHiddenCalibrationPoint, scratch);
 }
 
-std::string NetworkInfoText(Surface& surface, const AppState& state) {
+std::string NetworkInfoText(Surface& surface, const NetworkState& state) {
   std::string text;
   for (const auto& [i_name, count] : CountsByIName(surface)) {
     text +=

@@ -6,7 +6,7 @@
 #include <string>
 
 #include "drawing/surface.h"
-#include "shell/app_state.h"
+#include "network/network_state.h"
 
 namespace pluvane {
 
@@ -21,6 +21,6 @@ bool IsCalibrated(Surface& surface);
 // tab, the French label of the catalogue (empty when it has none); then
 // "Scénario courant : " and the current scenario; then "Calé : oui" or
 // "Calé : non". Lines end with a line feed.
-std::string NetworkInfoText(Surface& surface, const AppState& state);
+std::string NetworkInfoText(Surface& surface, const NetworkState& state);
 
 }  // namespace pluvane

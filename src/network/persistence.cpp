@@ -15,7 +15,7 @@
 #include "network/network_parameters.h"
 #include "drawing/surface_helpers.h"
 #include "network/view_zoom.h"
-#include "simulation/scenario_mode.h"
+#include "network/scenario_mode.h"
 
 namespace pluvane {
 
@@ -153,7 +153,7 @@ bool OpenNetwork(NetworkSession& s, bool direct, const std::string& path) {
 
 void RestoreNetworkParameters(NetworkSession& s) {
   Surface& surface = s.surface;
-  AppState& state = s.state;
+  NetworkState& state = s.state;
   state.NodeCount = CountByName(surface, 99);
   // One walk for all kinds: a walk per kind made opening a large network slow.
   const std::array<int, 100> counters = MaxIdNumbers(surface);

@@ -9,7 +9,6 @@
 #include "drawing/surface_guards.h"
 #include "drawing/surface_helpers.h"
 #include "network/topology.h"
-#include "shell/configuration.h"
 
 namespace pluvane {
 
@@ -25,9 +24,9 @@ bool IsWideSymbol(std::string_view key) {
   return i_name == kINamePLU || i_name == kINameBV;
 }
 
-double ZoomOrOne(const AppState& state) { return state.ZoomFactor != 0 ? state.ZoomFactor : 1; }
+double ZoomOrOne(const NetworkState& state) { return state.ZoomFactor != 0 ? state.ZoomFactor : 1; }
 
-void ShowSymbolError(UserInterface& ui, const AppState& state) {
+void ShowSymbolError(UserInterface& ui, const NetworkState& state) {
   ui.ShowMessage(std::string("Erreur Draw_A_Symbol\r\n") + "le répertoire des symboles peut être" +
                      " mal défini dans le fichier " + IniFilePath(state),
                  "", MessageIcon::kNone);
@@ -35,7 +34,7 @@ void ShowSymbolError(UserInterface& ui, const AppState& state) {
 
 // The link between two objects with the style PrepareLink set, its ends bare
 // and sent behind the symbols. The link is left current.
-int AddStyledLink(Surface& surface, const AppState& state, std::string_view key, int object1,
+int AddStyledLink(Surface& surface, const NetworkState& state, std::string_view key, int object1,
                   int object2) {
   surface.SetSelectionEnabled(false);
   PrepareLink(surface, state, key);
@@ -44,7 +43,7 @@ int AddStyledLink(Surface& surface, const AppState& state, std::string_view key,
 
 }  // namespace
 
-LinkStyle LinkStyleOfKey(const AppState& state, std::string_view key) {
+LinkStyle LinkStyleOfKey(const NetworkState& state, std::string_view key) {
   struct Entry {
     std::int32_t color;
     double thick;  // in units of LinkThick
@@ -74,7 +73,7 @@ LinkStyle LinkStyleOfKey(const AppState& state, std::string_view key) {
   return {entry.color, -(entry.thick * state.LinkThick / z), entry.style};
 }
 
-void PrepareLink(Surface& surface, const AppState& state, std::string_view key) {
+void PrepareLink(Surface& surface, const NetworkState& state, std::string_view key) {
   const LinkStyle style = LinkStyleOfKey(state, key);
   CursorKeeper keeper(surface);
   surface.SetCurrentObject(kDefaults);
@@ -83,7 +82,7 @@ void PrepareLink(Surface& surface, const AppState& state, std::string_view key) 
   surface.SetLineStyle(style.style);
 }
 
-int DrawSymbol(Surface& surface, AppState& state, UserInterface& ui, double x, double y,
+int DrawSymbol(Surface& surface, NetworkState& state, UserInterface& ui, double x, double y,
                std::string_view key, int target_node) {
   UndoStep step(surface, kSymbolStep);
   surface.SetSelectionEnabled(false);
@@ -131,7 +130,7 @@ int DrawSymbol(Surface& surface, AppState& state, UserInterface& ui, double x, d
   return number;
 }
 
-int DrawLink(Surface& surface, AppState& state, std::string_view key, int object1, int object2,
+int DrawLink(Surface& surface, NetworkState& state, std::string_view key, int object1, int object2,
              int marker0, int marker1) {
   if (object1 < 1 || object2 < 1) return 0;
   UndoStep step(surface, kLinkStep);
@@ -155,7 +154,7 @@ int DrawLink(Surface& surface, AppState& state, std::string_view key, int object
   return link;
 }
 
-int DrawLinkByNumber(Surface& surface, AppState& state, int i_name, int object1, int object2) {
+int DrawLinkByNumber(Surface& surface, NetworkState& state, int i_name, int object1, int object2) {
   if (object1 < 1 || object2 < 1 || object1 == object2) return 0;
   const std::string key = KeyOfIName(i_name);
   UndoStep step(surface, kLinkStep);
@@ -170,7 +169,7 @@ int DrawLinkByNumber(Surface& surface, AppState& state, int i_name, int object1,
   return link;
 }
 
-HydrologicalComplex PlaceHydrologicalComplex(Surface& surface, AppState& state, UserInterface& ui,
+HydrologicalComplex PlaceHydrologicalComplex(Surface& surface, NetworkState& state, UserInterface& ui,
                                              int hit_object) {
   HydrologicalComplex made;
   surface.SetCurrentObject(hit_object);

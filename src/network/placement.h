@@ -9,7 +9,7 @@
 
 #include "foundation/user_interface.h"
 #include "drawing/surface.h"
-#include "shell/app_state.h"
+#include "network/network_state.h"
 
 namespace pluvane {
 
@@ -20,26 +20,26 @@ struct LinkStyle {
   double width = 0;
   int style = 0;
 };
-LinkStyle LinkStyleOfKey(const AppState& state, std::string_view key);
+LinkStyle LinkStyleOfKey(const NetworkState& state, std::string_view key);
 
 // Sets the defaults of the next objects (line colour, width, style) to the
 // style of links of that key. Widths are negative: logical units.
-void PrepareLink(Surface& surface, const AppState& state, std::string_view key);
+void PrepareLink(Surface& surface, const NetworkState& state, std::string_view key);
 
 // Creates a point element of the key at (x, y), or on `target_node` when one
 // is given, and returns its number; 0, after the "Draw_A_Symbol" message,
 // when its symbol picture cannot be found or loaded.
-int DrawSymbol(Surface& surface, AppState& state, UserInterface& ui, double x, double y,
+int DrawSymbol(Surface& surface, NetworkState& state, UserInterface& ui, double x, double y,
                std::string_view key, int target_node = 0);
 
 // Creates a link element of the key from object1 (upstream) to object2 and
 // returns its number; 0 when an object number is under 1.
-int DrawLink(Surface& surface, AppState& state, std::string_view key, int object1, int object2,
+int DrawLink(Surface& surface, NetworkState& state, std::string_view key, int object1, int object2,
              int marker0, int marker1);
 
 // The import twin, by type number: equal ends are refused (0), the width is
 // the one of the link style, tags come from the import path of the catalogue.
-int DrawLinkByNumber(Surface& surface, AppState& state, int i_name, int object1, int object2);
+int DrawLinkByNumber(Surface& surface, NetworkState& state, int i_name, int object1, int object2);
 
 // The objects a hydrological complex made; 0 for what could not be made.
 struct HydrologicalComplex {
@@ -52,7 +52,7 @@ struct HydrologicalComplex {
 // is made on the node if needed, then a catchment one eighth of a turn further
 // round it than the routes already there, 10 symbol sizes away, and the route
 // from the catchment to the outlet.
-HydrologicalComplex PlaceHydrologicalComplex(Surface& surface, AppState& state, UserInterface& ui,
+HydrologicalComplex PlaceHydrologicalComplex(Surface& surface, NetworkState& state, UserInterface& ui,
                                              int hit_object);
 
 }  // namespace pluvane

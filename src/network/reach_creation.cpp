@@ -27,7 +27,7 @@ bool IsCollector(Surface& surface, int object) {
 
 }  // namespace
 
-void mnuOpt_Bief_New(AppState& state, PlacementState& placement, UserInterface& ui) {
+void mnuOpt_Bief_New(NetworkState& state, PlacementState& placement, UserInterface& ui) {
   state.CurrentMode = kReachMode;
   ArmCreation(placement, kReachKey);
   ui.ShowStatus(
@@ -45,7 +45,7 @@ std::string ReachClickInfo(Surface& surface, UserInterface& ui, int object) {
   return text;
 }
 
-int EndReachCreation(Surface& surface, AppState& state, UserInterface& ui,
+int EndReachCreation(Surface& surface, NetworkState& state, UserInterface& ui,
                      const ShowModalForm& show_modal) {
   if (state.CurrentMode == kReachMode) state.CurrentMode.clear();
   std::vector<int> kept;

@@ -11,7 +11,7 @@
 #include "foundation/user_interface.h"
 #include "network/create_mode.h"
 #include "drawing/surface.h"
-#include "shell/app_state.h"
+#include "network/network_state.h"
 
 namespace pluvane {
 
@@ -23,7 +23,7 @@ using ShowModalForm = std::function<void(FormController&)>;
 
 // Arms the mode: CurrentMode "ADDBIEF", the key X_BIEF, and the status text
 // telling the user what to do.
-void mnuOpt_Bief_New(AppState& state, PlacementState& placement, UserInterface& ui);
+void mnuOpt_Bief_New(NetworkState& state, PlacementState& placement, UserInterface& ui);
 
 // A click in the mode on `object`: for a collector, its label and the number
 // of its reach ("?" when it has none) go to the status line, and the text is
@@ -32,7 +32,7 @@ std::string ReachClickInfo(Surface& surface, UserInterface& ui, int object);
 
 // The Enter key in the mode: ends it, and makes the reach of the selected
 // collectors. Returns the reach record, 0 when none was made.
-int EndReachCreation(Surface& surface, AppState& state, UserInterface& ui,
+int EndReachCreation(Surface& surface, NetworkState& state, UserInterface& ui,
                      const ShowModalForm& show_modal);
 
 }  // namespace pluvane

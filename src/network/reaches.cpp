@@ -95,7 +95,7 @@ int FindCollector(Surface& surface, const ReachCollector& collector) {
   return FindObject2(surface, "Id", collector.id, "iName", collector.i_name);
 }
 
-int AddReachRecord(Surface& surface, AppState& state, const std::vector<int>& collectors) {
+int AddReachRecord(Surface& surface, NetworkState& state, const std::vector<int>& collectors) {
   if (state.PendingReach < 1) return 0;
   CursorKeeper keeper(surface);
   std::vector<ReachCollector> listed;

@@ -10,7 +10,7 @@
 
 #include "foundation/user_interface.h"
 #include "drawing/surface.h"
-#include "shell/app_state.h"
+#include "network/network_state.h"
 
 namespace pluvane {
 
@@ -56,7 +56,7 @@ int FindCollector(Surface& surface, const ReachCollector& collector);
 // Makes a reach record listing the ordered collectors and writes its number as
 // iBief on each of them; state.PendingReach holds the number. Returns the
 // record, 0 when no number is pending.
-int AddReachRecord(Surface& surface, AppState& state, const std::vector<int>& collectors);
+int AddReachRecord(Surface& surface, NetworkState& state, const std::vector<int>& collectors);
 
 // Takes a collector out of a reach: the rank that names it is blanked and
 // NbColl lowered by one. Ranks are not closed up, so the last one then falls

@@ -8,31 +8,6 @@
 
 namespace pluvane {
 
-double ZoomFactorOfView(const Surface& surface) {
-  const double w = surface.LogicWidth() > 0 ? surface.ViewWidth() / surface.LogicWidth() : 1;
-  const double h = surface.LogicHeight() > 0 ? surface.ViewHeight() / surface.LogicHeight() : 1;
-  return std::max(w, h);
-}
-
-bool ZoomToRect(Surface& surface, AppState& state, double left, double top, double right,
-                double bottom) {
-  const double dx = std::fabs(right - left), dy = std::fabs(bottom - top);
-  if (dx < 2 || dy < 2) return false;
-  const double client_w = std::max<std::int32_t>(state.ClientWidth, 1);
-  const double client_h = std::max<std::int32_t>(state.ClientHeight, 1);
-  // Logical units per pixel that fit the rectangle in both directions.
-  const double per_pixel = std::max(dy / client_h, dx / client_w);
-  if (state.LogicWidth * per_pixel >= std::numeric_limits<std::int32_t>::max()) return false;
-  surface.SetAutoScale(0);
-  surface.SetViewLeft(std::min(left, right));
-  surface.SetViewTop(std::min(top, bottom));
-  surface.SetViewWidth(per_pixel * client_w);
-  surface.SetViewHeight(per_pixel * client_h);
-  state.ZoomFactor = ZoomFactorOfView(surface);
-  surface.Refresh();
-  return true;
-}
-
 bool NetworkBounds(Surface& surface, std::int32_t& left, std::int32_t& top, std::int32_t& right,
                    std::int32_t& bottom) {
   const int saved = surface.CurrentObject();
@@ -55,7 +30,7 @@ bool NetworkBounds(Surface& surface, std::int32_t& left, std::int32_t& top, std:
   return any;
 }
 
-bool ZoomToBounds(Surface& surface, AppState& state) {
+bool ZoomToBounds(Surface& surface, NetworkState& state) {
   const bool redraw = surface.Redraw();
   surface.SetRedraw(false);
   std::int32_t l = 0, t = 0, r = 0, b = 0;
@@ -77,7 +52,7 @@ bool ZoomToBounds(Surface& surface, AppState& state) {
   return zoomed;
 }
 
-bool ShowWholeNetwork(Surface& surface, AppState& state) {
+bool ShowWholeNetwork(Surface& surface, NetworkState& state) {
   std::int32_t l = 0, t = 0, r = 0, b = 0;
   if (!NetworkBounds(surface, l, t, r, b)) return false;
   const double vl = surface.ViewLeft(), vt = surface.ViewTop();
@@ -97,10 +72,6 @@ bool ShowWholeNetwork(Surface& surface, AppState& state) {
   surface.SetViewTop(top - (surface.ViewHeight() - height) / 2);
   surface.Refresh();
   return true;
-}
-
-void ZoomToAll(Surface& surface, AppState& state) {
-  ZoomToRect(surface, state, 0, 0, state.LogicWidth, state.LogicHeight);
 }
 
 }  // namespace pluvane

@@ -4,7 +4,7 @@
 
 #include <vector>
 
-#include "shell/main_menus.h"
+#include "foundation/menu_item.h"
 
 namespace pluvane {
 

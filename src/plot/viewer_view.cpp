@@ -4,15 +4,14 @@
 
 #include "foundation/dialogs.h"
 #include "foundation/paths.h"
-#include "network/view_zoom.h"
-#include "shell/app_state.h"
+#include "drawing/view_fit.h"
 
 namespace pluvane {
 
 bool ViewerZoomRect(UserInterface& ui, Surface& surface, int client_width, int client_height,
                     double left, double top, double right, double bottom) {
   // The network's zoom, on the page's extent and the viewer's own client area.
-  AppState view;
+  DrawingSettings view;
   view.ClientWidth = client_width;
   view.ClientHeight = client_height;
   view.LogicWidth = surface.LogicWidth();

@@ -20,7 +20,7 @@ const std::pair<const char*, const char*> kEntries[] = {
 };
 
 // The test of the old program: one of the two names known is enough.
-bool NamesKnown(const AppState& state) {
+bool NamesKnown(const SimulationState& state) {
   return !state.ScenarioName.empty() || !state.NetworkBase.empty();
 }
 
@@ -29,14 +29,14 @@ void Remove(const std::string& path) {
   std::filesystem::remove(path, ignored);
 }
 
-void ShowCurves(const AppState& state, UserInterface& ui, ResultViews& views,
+void ShowCurves(const SimulationState& state, UserInterface& ui, ResultViews& views,
                 const std::string& file, const std::string& title) {
   views.viewer.page_title = title;
   ViewCurveFile(ui, views.viewer, file, state.WorkDir, state.WorkDir, views.show_chooser,
                 views.show_viewer);
 }
 
-void EditResult(const AppState& state, UserInterface& ui, const std::string& extension) {
+void EditResult(const SimulationState& state, UserInterface& ui, const std::string& extension) {
   if (!NamesKnown(state)) return;
   const std::string path = ResultPath(state, extension);
   if (!FileExist(path)) {
@@ -51,11 +51,11 @@ void EditResult(const AppState& state, UserInterface& ui, const std::string& ext
 
 }  // namespace
 
-std::string ResultPath(const AppState& state, const std::string& extension) {
+std::string ResultPath(const SimulationState& state, const std::string& extension) {
   return JoinPath(state.WorkDir, state.ScenarioName + "_" + state.NetworkBase + extension);
 }
 
-ResultMenuStates mnuExploitation(AppState& state) {
+ResultMenuStates mnuExploitation(SimulationState& state) {
   ResultMenuStates states;
   const bool open = !Trim(state.NetworkFile).empty();
   if (open) {
@@ -73,7 +73,7 @@ ResultMenuStates mnuExploitation(AppState& state) {
   return states;
 }
 
-void mnuExploit_ResDeb(const AppState& state, UserInterface& ui, ResultViews& views) {
+void mnuExploit_ResDeb(const SimulationState& state, UserInterface& ui, ResultViews& views) {
   if (!NamesKnown(state)) return;
   const std::string copy = JoinPath(state.WorkDir, "crb.Deb");
   Remove(copy);
@@ -82,7 +82,7 @@ void mnuExploit_ResDeb(const AppState& state, UserInterface& ui, ResultViews& vi
   ShowCurves(state, ui, views, copy, "Hydrogramme de routage");
 }
 
-void mnuExploit_ResHys(const AppState& state, UserInterface& ui, ResultViews& views) {
+void mnuExploit_ResHys(const SimulationState& state, UserInterface& ui, ResultViews& views) {
   if (!NamesKnown(state)) return;
   const std::string joined = JoinPath(state.WorkDir, "crb.Hys");
   Remove(joined);
@@ -97,14 +97,14 @@ void mnuExploit_ResHys(const AppState& state, UserInterface& ui, ResultViews& vi
   Remove(joined);
 }
 
-void mnuExploit_ResLim(const AppState& state, UserInterface& ui, ResultViews& views) {
+void mnuExploit_ResLim(const SimulationState& state, UserInterface& ui, ResultViews& views) {
   if (!NamesKnown(state)) return;
   ShowCurves(state, ui, views, ResultPath(state, ".Lim"), " Sortie de courbe LIM");
 }
 
-void mnuExploit_ResBV(const AppState& state, UserInterface& ui) { EditResult(state, ui, ".BV"); }
+void mnuExploit_ResBV(const SimulationState& state, UserInterface& ui) { EditResult(state, ui, ".BV"); }
 
-void mnuExploit_ResReso(const AppState& state, UserInterface& ui) {
+void mnuExploit_ResReso(const SimulationState& state, UserInterface& ui) {
   EditResult(state, ui, ".Sor");
 }
 

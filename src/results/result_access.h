@@ -14,7 +14,7 @@
 #include "foundation/user_interface.h"
 #include "plot/plot_viewer.h"
 #include "results/view_curve_file.h"
-#include "shell/app_state.h"
+#include "simulation/simulation_state.h"
 
 namespace pluvane {
 
@@ -23,12 +23,12 @@ using ResultMenuStates = std::vector<std::pair<std::string, bool>>;
 
 // The path of a result of the current scenario: W, S_N and the extension
 // (".Deb", ".Sor"...), from the state as the menu's opening left it.
-std::string ResultPath(const AppState& state, const std::string& extension);
+std::string ResultPath(const SimulationState& state, const std::string& extension);
 
 // The menu opens: W is made when missing (not for a scenario without a name)
 // and becomes the work folder, the network's base is noted, and each entry is
 // enabled when its file stands. Without an open network every entry is off.
-ResultMenuStates mnuExploitation(AppState& state);
+ResultMenuStates mnuExploitation(SimulationState& state);
 
 // The windows a curve entry shows: the curve chooser, then the viewer.
 struct ResultViews {
@@ -40,14 +40,14 @@ struct ResultViews {
 // The entries. Each does nothing unless the scenario's or the network's name
 // is known.
 // S_N.Deb copied into crb.Deb of W and shown as "Hydrogramme de routage".
-void mnuExploit_ResDeb(const AppState& state, UserInterface& ui, ResultViews& views);
+void mnuExploit_ResDeb(const SimulationState& state, UserInterface& ui, ResultViews& views);
 // S_N.App and S_N.Hys joined in crb.Hys of W, shown as "Hydrogramme d'apport",
 // then crb.Hys removed.
-void mnuExploit_ResHys(const AppState& state, UserInterface& ui, ResultViews& views);
+void mnuExploit_ResHys(const SimulationState& state, UserInterface& ui, ResultViews& views);
 // S_N.Lim shown as " Sortie de courbe LIM".
-void mnuExploit_ResLim(const AppState& state, UserInterface& ui, ResultViews& views);
+void mnuExploit_ResLim(const SimulationState& state, UserInterface& ui, ResultViews& views);
 // S_N.BV and S_N.Sor in the text editor, or the message that they are missing.
-void mnuExploit_ResBV(const AppState& state, UserInterface& ui);
-void mnuExploit_ResReso(const AppState& state, UserInterface& ui);
+void mnuExploit_ResBV(const SimulationState& state, UserInterface& ui);
+void mnuExploit_ResReso(const SimulationState& state, UserInterface& ui);
 
 }  // namespace pluvane

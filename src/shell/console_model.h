@@ -10,7 +10,7 @@
 #include <vector>
 
 #include "foundation/user_interface.h"
-#include "shell/console.h"
+#include "foundation/console.h"
 
 namespace pluvane {
 

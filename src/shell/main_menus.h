@@ -6,13 +6,9 @@
 #include <string_view>
 #include <vector>
 
-namespace pluvane {
+#include "foundation/menu_item.h"
 
-struct MenuItem {
-  std::string_view name;     // "mnuFile_Open"
-  std::string_view caption;  // "&Ouvrir..."
-  int level;                 // 0 a menu of the bar, 1 its item, 2 an item of a sub-menu...
-};
+namespace pluvane {
 
 // The menu bar, in order; each item follows its parent at the next level.
 const std::vector<MenuItem>& MainMenus();

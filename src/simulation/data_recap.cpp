@@ -19,7 +19,7 @@ namespace {
 // Writes the lines of the report for one drawing.
 class RecapWriter {
  public:
-  RecapWriter(Surface& surface, const AppState& state) : s_(surface), state_(state) {}
+  RecapWriter(Surface& surface, const SimulationState& state) : s_(surface), state_(state) {}
 
   std::vector<std::string> lines;
 
@@ -170,7 +170,7 @@ class RecapWriter {
   }
 
   Surface& s_;
-  const AppState& state_;
+  const SimulationState& state_;
 };
 
 void Catchment(RecapWriter& w, Surface& s) {
@@ -369,7 +369,7 @@ void WriteSections(RecapWriter& w, Surface& s, UserInterface& ui) {
 
 }  // namespace
 
-std::string WriteDataRecap(Surface& surface, AppState& state, UserInterface& ui) {
+std::string WriteDataRecap(Surface& surface, SimulationState& state, UserInterface& ui) {
   if (Trim(state.ScenarioName).empty() || Trim(state.NetworkBase).empty()) return {};
   state.ModelName = state.ScenarioName + "_" + state.NetworkBase;
   const std::string path = JoinPath(state.ModelFolder, state.ModelName + ".Txt");
@@ -381,7 +381,7 @@ std::string WriteDataRecap(Surface& surface, AppState& state, UserInterface& ui)
   return path;
 }
 
-void mnuExploit_RecapData(Surface& surface, AppState& state, UserInterface& ui) {
+void mnuExploit_RecapData(Surface& surface, SimulationState& state, UserInterface& ui) {
   const std::string path = WriteDataRecap(surface, state, ui);
   if (!path.empty()) EditFile(ui, path, state.AppPath);
 }

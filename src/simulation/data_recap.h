@@ -8,15 +8,15 @@
 
 #include "foundation/user_interface.h"
 #include "drawing/surface.h"
-#include "shell/app_state.h"
+#include "simulation/simulation_state.h"
 
 namespace pluvane {
 
 // Writes the report and returns its path; empty, with nothing written, when
 // the scenario or the network's base name is missing.
-std::string WriteDataRecap(Surface& surface, AppState& state, UserInterface& ui);
+std::string WriteDataRecap(Surface& surface, SimulationState& state, UserInterface& ui);
 
 // The command mnuExploit_RecapData: writes the report and opens it.
-void mnuExploit_RecapData(Surface& surface, AppState& state, UserInterface& ui);
+void mnuExploit_RecapData(Surface& surface, SimulationState& state, UserInterface& ui);
 
 }  // namespace pluvane

@@ -25,7 +25,7 @@ ScenarioRun RunScenario(ModelContext& context, const std::string& scenario_name,
   ScenarioRun run;
   run.steps = RunModelGeneration(context, scenario_name);
   if (run.steps < 0) return run;
-  AppState& state = context.state;
+  SimulationState& state = context.state;
   run.msg_path = ModelFilePath(state, ".msg");
   run.velmar_ok = RunVelmar(state, context.ui);
   if (with_sidrel && run.velmar_ok) {

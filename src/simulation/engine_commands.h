@@ -5,7 +5,7 @@
 
 #include <string>
 
-#include "shell/console.h"
+#include "foundation/console.h"
 #include "simulation/model_context.h"
 
 namespace pluvane {

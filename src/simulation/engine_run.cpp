@@ -18,22 +18,22 @@ std::string Quoted(const std::string& path) {
   return path.find(' ') == std::string::npos ? path : "\"" + path + "\"";
 }
 
-std::string MsgPath(const AppState& state) {
+std::string MsgPath(const SimulationState& state) {
   return JoinPath(state.ModelFolder, state.ModelName + ".msg");
 }
 
 // Deletes a file of the model folder, whatever the case the engine gave its name.
-void DeleteInModel(const AppState& state, const std::string& name) {
+void DeleteInModel(const SimulationState& state, const std::string& name) {
   const std::string found = FindFileNoCase(state.ModelFolder, name);
   if (!found.empty()) std::remove(found.c_str());
 }
 
-bool SidrelCmdStands(const AppState& state) {
+bool SidrelCmdStands(const SimulationState& state) {
   return !FindFileNoCase(state.ModelFolder, "sidrel.cmd").empty();
 }
 
 // Starts an engine program in the model folder, when it is there.
-void RunEngine(const AppState& state, UserInterface& ui, const std::string& name) {
+void RunEngine(const SimulationState& state, UserInterface& ui, const std::string& name) {
   try {
     ChangeDir(state.ModelFolder);
   } catch (const AppError& error) {
@@ -45,12 +45,12 @@ void RunEngine(const AppState& state, UserInterface& ui, const std::string& name
 }
 
 // The .err of an engine, found case-blind in the model folder.
-int EngineError(const AppState& state, const std::string& name) {
+int EngineError(const SimulationState& state, const std::string& name) {
   const std::string err = FindFileNoCase(state.ModelFolder, name + ".err");
   return err.empty() ? 0 : ReadEngineError(err);
 }
 
-void AppendEngineLog(const AppState& state, const std::string& name) {
+void AppendEngineLog(const SimulationState& state, const std::string& name) {
   const std::string log = FindFileNoCase(state.ModelFolder, name + ".log");
   if (log.empty()) return;
   try {
@@ -60,12 +60,12 @@ void AppendEngineLog(const AppState& state, const std::string& name) {
   }
 }
 
-void DeleteEngineFiles(const AppState& state, const std::string& name) {
+void DeleteEngineFiles(const SimulationState& state, const std::string& name) {
   DeleteInModel(state, name + ".err");
   DeleteInModel(state, name + ".log");
 }
 
-std::vector<std::string> CmdWarning(const AppState& state, const char* file) {
+std::vector<std::string> CmdWarning(const SimulationState& state, const char* file) {
   return {std::string("Pluvane a détecté l'existence du fichier '") + file +
               "' dans le répertoire",
           state.ModelFolder, "Veuillez le déplacer dans un autre répertoire.", ""};
@@ -73,7 +73,7 @@ std::vector<std::string> CmdWarning(const AppState& state, const char* file) {
 
 }  // namespace
 
-std::string EngineCommand(const AppState& state, const std::string& name) {
+std::string EngineCommand(const SimulationState& state, const std::string& name) {
   std::string program = FindFileNoCase(state.AppPath, name);
   if (!program.empty() && FolderExist(program)) program.clear();
   if (program.empty()) program = FindFileNoCase(state.AppPath, name + ".exe");
@@ -96,7 +96,7 @@ int ReadEngineError(const std::string& err_path) {
   return 0;
 }
 
-bool RunVelmar(const AppState& state, UserInterface& ui) {
+bool RunVelmar(const SimulationState& state, UserInterface& ui) {
   bool ok = true;
   const bool cmd_stands = SidrelCmdStands(state);
   for (const char* extension : {".Lim", ".Hys", ".BV"}) DeleteInModel(state, state.ModelName + extension);
@@ -119,7 +119,7 @@ bool RunVelmar(const AppState& state, UserInterface& ui) {
   return ok;
 }
 
-void RunSidrel(const AppState& state, UserInterface& ui) {
+void RunSidrel(const SimulationState& state, UserInterface& ui) {
   const bool cmd_stands = SidrelCmdStands(state);
   DeleteInModel(state, state.ScenarioName + ".Deb");
   DeleteInModel(state, state.ScenarioName + ".Sor");
@@ -144,7 +144,7 @@ void RunSidrel(const AppState& state, UserInterface& ui) {
   AppendEngineLog(state, "Sidrel");
 }
 
-void ShowModelLog(const AppState& state, Console& console, const std::string& msg_path) {
+void ShowModelLog(const SimulationState& state, Console& console, const std::string& msg_path) {
   std::vector<std::string> lines;
   if (!FileExist(msg_path) || !ReadTextLines(msg_path, lines)) return;
   console.Debut("Génération du modèle " + state.ScenarioName);
@@ -152,7 +152,7 @@ void ShowModelLog(const AppState& state, Console& console, const std::string& ms
   console.Fin(false);
 }
 
-void CleanModelFiles(const AppState& state, const std::string& msg_path, int step_count) {
+void CleanModelFiles(const SimulationState& state, const std::string& msg_path, int step_count) {
   if (!FileExist(msg_path) || step_count < 1) return;
   const std::string place_nette =
       UCase(Trim(IniRead("Autres", "Place Nette", 255, IniFilePath(state))));

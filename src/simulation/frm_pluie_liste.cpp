@@ -15,7 +15,7 @@ bool IsExternal(int kind) { return kind == 108 || kind == 127 || kind == 128; }
 
 }  // namespace
 
-FrmPluieListe::FrmPluieListe(Surface& surface, AppState& state, UserInterface& ui)
+FrmPluieListe::FrmPluieListe(Surface& surface, SimulationState& state, UserInterface& ui)
     : surface_(surface), state_(state), ui_(ui), grid_(kColExternal, 0) {
   grid_.SetCaption(Caption());
   grid_.SetColHead(kColId, "Identifiant de la pluie");

@@ -10,7 +10,7 @@
 #include "foundation/form_controller.h"
 #include "foundation/user_interface.h"
 #include "drawing/surface.h"
-#include "shell/app_state.h"
+#include "simulation/simulation_state.h"
 
 namespace pluvane {
 
@@ -29,7 +29,7 @@ class FrmPluieListe : public FormController {
 
   // Opens on the rain of state.IdPluie, UsIdPluie, iPluie, iModePluie, and
   // clears state.ScnPluieState. Two gauges of one libell stop the list at once.
-  FrmPluieListe(Surface& surface, AppState& state, UserInterface& ui);
+  FrmPluieListe(Surface& surface, SimulationState& state, UserInterface& ui);
 
   std::string Caption() const override { return "Liste des pluies"; }
   std::vector<Grid*> Grids() override { return {&grid_}; }
@@ -49,7 +49,7 @@ class FrmPluieListe : public FormController {
   void Preselect();
 
   Surface& surface_;
-  AppState& state_;
+  SimulationState& state_;
   UserInterface& ui_;
   Grid grid_;
 };

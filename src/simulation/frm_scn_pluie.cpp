@@ -59,7 +59,7 @@ std::string RainChoiceItem(Surface& surface, int kind) {
   return std::to_string(kind) + " : " + id + KindText(kind) + design;
 }
 
-FrmScnPluie::FrmScnPluie(Surface& surface, AppState& state, UserInterface& /*ui*/)
+FrmScnPluie::FrmScnPluie(Surface& surface, SimulationState& state, UserInterface& /*ui*/)
     : surface_(surface), state_(state), grid_(3, kRows) {
   grid_.SetCaption(Caption());
   grid_.SetColHead(kColChoice, "choix d'une pluie");

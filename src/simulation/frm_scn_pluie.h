@@ -10,7 +10,7 @@
 #include "foundation/form_controller.h"
 #include "foundation/user_interface.h"
 #include "drawing/surface.h"
-#include "shell/app_state.h"
+#include "simulation/simulation_state.h"
 
 namespace pluvane {
 
@@ -28,7 +28,7 @@ class FrmScnPluie : public FormController {
   static constexpr int kColTitle = 2;
   static constexpr int kColType = 3;
 
-  FrmScnPluie(Surface& surface, AppState& state, UserInterface& ui);
+  FrmScnPluie(Surface& surface, SimulationState& state, UserInterface& ui);
 
   std::string Caption() const override { return "Scénario de pluie"; }
   std::vector<Grid*> Grids() override { return {&grid_}; }
@@ -41,7 +41,7 @@ class FrmScnPluie : public FormController {
 
  private:
   Surface& surface_;
-  AppState& state_;
+  SimulationState& state_;
   Grid grid_;
 };
 

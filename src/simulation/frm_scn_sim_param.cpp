@@ -13,7 +13,7 @@
 
 namespace pluvane {
 
-FrmScnSimParam::FrmScnSimParam(Surface& surface, AppState& state, UserInterface& ui,
+FrmScnSimParam::FrmScnSimParam(Surface& surface, SimulationState& state, UserInterface& ui,
                                ShowModal show_modal)
     : surface_(surface), state_(state), ui_(ui), show_modal_(std::move(show_modal)), grid_(3, 0) {
   grid_.SetCaption(Caption());

@@ -11,7 +11,7 @@
 #include "foundation/modal_form.h"
 #include "foundation/user_interface.h"
 #include "drawing/surface.h"
-#include "shell/app_state.h"
+#include "simulation/simulation_state.h"
 
 namespace pluvane {
 
@@ -21,7 +21,7 @@ class FrmScnSimParam : public FormController {
   static constexpr int kColUsId = 2;
   static constexpr int kColEdit = 3;
 
-  FrmScnSimParam(Surface& surface, AppState& state, UserInterface& ui, ShowModal show_modal);
+  FrmScnSimParam(Surface& surface, SimulationState& state, UserInterface& ui, ShowModal show_modal);
 
   std::string Caption() const override { return "Scénarii de simulation"; }
   std::vector<Grid*> Grids() override { return {&grid_}; }
@@ -50,7 +50,7 @@ class FrmScnSimParam : public FormController {
   void CopySettings(const std::string& from_id, int to);
 
   Surface& surface_;
-  AppState& state_;
+  SimulationState& state_;
   UserInterface& ui_;
   ShowModal show_modal_;
   Grid grid_;

@@ -10,7 +10,7 @@
 
 namespace pluvane {
 
-FrmScnSimParamPlus::FrmScnSimParamPlus(Surface& surface, AppState& state, UserInterface& ui,
+FrmScnSimParamPlus::FrmScnSimParamPlus(Surface& surface, SimulationState& state, UserInterface& ui,
                                        int scenario, std::string id, ShowModal show_modal)
     : surface_(surface),
       state_(state),

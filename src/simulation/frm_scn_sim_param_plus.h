@@ -10,7 +10,7 @@
 #include "foundation/modal_form.h"
 #include "foundation/user_interface.h"
 #include "drawing/surface.h"
-#include "shell/app_state.h"
+#include "simulation/simulation_state.h"
 
 namespace pluvane {
 
@@ -28,7 +28,7 @@ class FrmScnSimParamPlus : public FormController {
 
   // `scenario` is the record's object number, `id` its name. The rain list
   // opens through `show_modal`.
-  FrmScnSimParamPlus(Surface& surface, AppState& state, UserInterface& ui, int scenario,
+  FrmScnSimParamPlus(Surface& surface, SimulationState& state, UserInterface& ui, int scenario,
                      std::string id, ShowModal show_modal);
 
   std::string Caption() const override { return "Paramétrage du scénario " + id_; }
@@ -52,7 +52,7 @@ class FrmScnSimParamPlus : public FormController {
   std::string TagOrDefault(const char* name, const char* fallback);
 
   Surface& surface_;
-  AppState& state_;
+  SimulationState& state_;
   UserInterface& ui_;
   int scenario_;
   std::string id_;

@@ -9,7 +9,7 @@
 
 namespace pluvane {
 
-FrmScnSimParamSelect::FrmScnSimParamSelect(Surface& surface, AppState& state, UserInterface& ui)
+FrmScnSimParamSelect::FrmScnSimParamSelect(Surface& surface, SimulationState& state, UserInterface& ui)
     : surface_(surface), state_(state), ui_(ui), grid_(1, 1) {
   grid_.SetCaption(Caption());
   grid_.SetColHead(1, "Liste de scénarii disponibles");

@@ -10,13 +10,13 @@
 #include "foundation/form_controller.h"
 #include "foundation/user_interface.h"
 #include "drawing/surface.h"
-#include "shell/app_state.h"
+#include "simulation/simulation_state.h"
 
 namespace pluvane {
 
 class FrmScnSimParamSelect : public FormController {
  public:
-  FrmScnSimParamSelect(Surface& surface, AppState& state, UserInterface& ui);
+  FrmScnSimParamSelect(Surface& surface, SimulationState& state, UserInterface& ui);
 
   std::string Caption() const override { return "Choix d'un scenario de simulation"; }
   std::vector<Grid*> Grids() override { return {&grid_}; }
@@ -31,7 +31,7 @@ class FrmScnSimParamSelect : public FormController {
   void WriteCurrentScenarioRecord(const std::string& id, const std::string& title);
 
   Surface& surface_;
-  AppState& state_;
+  SimulationState& state_;
   UserInterface& ui_;
   Grid grid_;
 };

@@ -7,7 +7,7 @@
 namespace pluvane {
 
 int RunModelGeneration(ModelContext& context, const std::string& scenario_name) {
-  AppState& state = context.state;
+  SimulationState& state = context.state;
   if (CheckScenarioNames(context.surface, state, context.ui, scenario_name)) return -1;
   state.ScenarioName = scenario_name;
   SetModelNames(state);

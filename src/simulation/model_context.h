@@ -5,13 +5,13 @@
 
 #include "foundation/user_interface.h"
 #include "drawing/surface.h"
-#include "shell/app_state.h"
+#include "simulation/simulation_state.h"
 
 namespace pluvane {
 
 struct ModelContext {
   Surface& surface;
-  AppState& state;
+  SimulationState& state;
   UserInterface& ui;
   // Ordinate shift taken off every ordinate written; set to 0 by GenFicNod.
   double YShift = 0;

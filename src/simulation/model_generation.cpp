@@ -23,7 +23,7 @@ void RemoveOld(const std::string& path) {
 
 int GenerateModel(ModelContext& context, const std::string& model_name,
                   const std::vector<ModelStep>& steps) {
-  AppState& state = context.state;
+  SimulationState& state = context.state;
   UserInterface& ui = context.ui;
   state.ModelName = Trim(model_name);
   if (state.ModelName.empty()) {

@@ -18,18 +18,18 @@ std::string ModelNameOf(std::string_view scenario, std::string_view network_file
   return std::string(scenario) + "_" + NetworkBaseOf(network_file);
 }
 
-void SetModelNames(AppState& state) {
+void SetModelNames(SimulationState& state) {
   state.NetworkBase = NetworkBaseOf(state.NetworkFile);
   state.ModelFolder = JoinPath(DirOf(state.NetworkFile), state.ScenarioName);
   state.ModelName = ModelNameOf(state.ScenarioName, state.NetworkFile);
 }
 
-bool MakeModelFolder(const AppState& state) {
+bool MakeModelFolder(const SimulationState& state) {
   if (!FolderExist(state.ModelFolder)) MakeFolder(state.ModelFolder);
   return FolderExist(state.ModelFolder);
 }
 
-std::string ModelFilePath(const AppState& state, std::string_view extension) {
+std::string ModelFilePath(const SimulationState& state, std::string_view extension) {
   return JoinPath(state.ModelFolder, state.ModelName + std::string(extension));
 }
 

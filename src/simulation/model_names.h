@@ -6,17 +6,17 @@
 #include <string>
 #include <string_view>
 
-#include "shell/app_state.h"
+#include "simulation/simulation_state.h"
 
 namespace pluvane {
 
 // The scenario, "_" and the base of the network file (its name up to the first ".").
 std::string ModelNameOf(std::string_view scenario, std::string_view network_file);
 // Sets NetworkBase, ModelFolder and ModelName from NetworkFile and ScenarioName.
-void SetModelNames(AppState& state);
+void SetModelNames(SimulationState& state);
 // Makes the model folder when it is missing; false when it is still missing.
-bool MakeModelFolder(const AppState& state);
+bool MakeModelFolder(const SimulationState& state);
 // ModelFolder, the separator, ModelName and the extension (".NOD"...).
-std::string ModelFilePath(const AppState& state, std::string_view extension);
+std::string ModelFilePath(const SimulationState& state, std::string_view extension);
 
 }  // namespace pluvane

@@ -36,7 +36,7 @@ int FindScenarioObject(Surface& surface, std::string_view scenario_name) {
   return 0;
 }
 
-bool CheckScenarioNames(Surface& surface, AppState& state, UserInterface& ui,
+bool CheckScenarioNames(Surface& surface, SimulationState& state, UserInterface& ui,
                         const std::string& scenario_name) {
   auto refuse = [&ui](const std::string& text) {
     ui.ShowMessage(text, kTitle, MessageIcon::kInformation);

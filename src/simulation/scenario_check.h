@@ -8,7 +8,7 @@
 
 #include "foundation/user_interface.h"
 #include "drawing/surface.h"
-#include "shell/app_state.h"
+#include "simulation/simulation_state.h"
 
 namespace pluvane {
 
@@ -19,7 +19,7 @@ int FindScenarioObject(Surface& surface, std::string_view scenario_name);
 // True when the run must stop: a message titled "Contrôle de cohérence" has
 // then told why. The network file is the state's. When all passed, a missing
 // ParamReseau record is created with its defaults.
-bool CheckScenarioNames(Surface& surface, AppState& state, UserInterface& ui,
+bool CheckScenarioNames(Surface& surface, SimulationState& state, UserInterface& ui,
                         const std::string& scenario_name);
 
 }  // namespace pluvane

@@ -5,7 +5,7 @@
 #include "network/hidden_record.h"
 #include "drawing/surface_guards.h"
 #include "drawing/surface_helpers.h"
-#include "simulation/scenario_mode.h"
+#include "network/scenario_mode.h"
 
 namespace pluvane {
 
@@ -35,14 +35,14 @@ void WriteScenarioHead(Surface& surface, const std::string& id, const std::strin
   surface.SetObjTag("UsId", title);
 }
 
-int AddScenarioRecord(Surface& surface, const AppState& state, const std::string& id,
+int AddScenarioRecord(Surface& surface, const SimulationState& state, const std::string& id,
                       const std::string& title) {
   const int number = AddHiddenRecord(surface, state);
   WriteScenarioHead(surface, id, title);
   return number;
 }
 
-void TakeScenarioSettings(Surface& surface, AppState& state, int scenario) {
+void TakeScenarioSettings(Surface& surface, SimulationState& state, int scenario) {
   CursorKeeper keeper(surface);
   surface.SetCurrentObject(scenario);
   if (surface.CurrentObject() != scenario) return;
@@ -55,11 +55,11 @@ std::string ScenarioStatusText(Surface& surface, const std::string& scenario_nam
   return scenario_name + ScenarioModeText(surface, scenario_name);
 }
 
-void ShowScenarioPanel(Surface& surface, const AppState& state, UserInterface& ui) {
+void ShowScenarioPanel(Surface& surface, const SimulationState& state, UserInterface& ui) {
   ui.ShowPanel("sbrSCN", ScenarioStatusText(surface, state.ScenarioName));
 }
 
-std::string GenerationMenuCaption(Surface& surface, const AppState& state) {
+std::string GenerationMenuCaption(Surface& surface, const SimulationState& state) {
   return "Génération du &modèle " + ScenarioStatusText(surface, state.ScenarioName);
 }
 

@@ -9,7 +9,7 @@
 
 #include "foundation/user_interface.h"
 #include "drawing/surface.h"
-#include "shell/app_state.h"
+#include "simulation/simulation_state.h"
 
 namespace pluvane {
 
@@ -39,19 +39,19 @@ int FindRecord(Surface& surface, int i_name, const std::string& id);
 // Writes iGroup -1, iName 111, Id and UsId on the current object.
 void WriteScenarioHead(Surface& surface, const std::string& id, const std::string& title);
 // A new scenario record holding those four tags only; it is left current.
-int AddScenarioRecord(Surface& surface, const AppState& state, const std::string& id,
+int AddScenarioRecord(Surface& surface, const SimulationState& state, const std::string& id,
                       const std::string& title);
 
 // Takes the scenario record's CalcDuree, CalcDt and CalcMode into the state.
-void TakeScenarioSettings(Surface& surface, AppState& state, int scenario);
+void TakeScenarioSettings(Surface& surface, SimulationState& state, int scenario);
 
 // The name of the scenario followed by " (diag)" or " (dim)", as the status
 // panel "sbrSCN" and the generation menu show it.
 std::string ScenarioStatusText(Surface& surface, const std::string& scenario_name);
 // Shows the current scenario in the status panel "sbrSCN".
-void ShowScenarioPanel(Surface& surface, const AppState& state, UserInterface& ui);
+void ShowScenarioPanel(Surface& surface, const SimulationState& state, UserInterface& ui);
 // The caption of the generation entry of the scenario menu, refreshed each
 // time that menu opens.
-std::string GenerationMenuCaption(Surface& surface, const AppState& state);
+std::string GenerationMenuCaption(Surface& surface, const SimulationState& state);
 
 }  // namespace pluvane

@@ -313,7 +313,7 @@ void MainWindow::OpenForm(FormController& form) {
 }
 
 void MainWindow::ShowResult(
-    void (*entry)(const AppState&, UserInterface&, ResultViews&)) {
+    void (*entry)(const SimulationState&, UserInterface&, ResultViews&)) {
   const AppState& state = application_->state();
   ResultViews views{viewer_state_, ChooserWindow(this), ViewerWindow(this, ui_, state.WorkDir)};
   entry(state, ui_, views);

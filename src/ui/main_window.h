@@ -95,7 +95,7 @@ class MainWindow : public QMainWindow {
   void ApplyMenus(const MenuStates& states);
   void RefreshRecentFiles();
   // A curve entry of the result menu, with the chooser and the viewer windows.
-  void ShowResult(void (*entry)(const AppState&, UserInterface&, ResultViews&));
+  void ShowResult(void (*entry)(const SimulationState&, UserInterface&, ResultViews&));
   void OpenPreferences();
   void OpenForm(FormController& form);
   void ImportBackground();

@@ -2,9 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include "drawing/surface_helpers.h"
 #include "foundation/numbers.h"
 #include "network/calibration_fixture.h"
-#include "drawing/surface_helpers.h"
+#include "shell/app_state.h"
 
 namespace pluvane {
 namespace {

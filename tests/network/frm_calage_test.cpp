@@ -2,12 +2,13 @@
 
 #include <gtest/gtest.h>
 
+#include "drawing/add_element.h"
+#include "drawing/surface_helpers.h"
 #include "foundation/expect_message.h"
 #include "foundation/numbers.h"
-#include "drawing/add_element.h"
 #include "network/calibration_fixture.h"
 #include "network/georeferencing.h"
-#include "drawing/surface_helpers.h"
+#include "shell/app_state.h"
 
 namespace pluvane {
 namespace {

@@ -1,5 +1,7 @@
 #include "network/hidden_record.h"
 
+#include "shell/app_state.h"
+
 #include <gtest/gtest.h>
 
 namespace pluvane {

@@ -2,10 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include "drawing/surface_helpers.h"
 #include "foundation/expect_message.h"
 #include "network/calibration_fixture.h"
 #include "network/georeferencing.h"
-#include "drawing/surface_helpers.h"
+#include "shell/app_state.h"
 
 namespace pluvane {
 namespace {

@@ -4,10 +4,11 @@
 
 #include <cmath>
 
-#include "foundation/numbers.h"
 #include "drawing/add_element.h"
+#include "foundation/numbers.h"
 #include "network/calibration_fixture.h"
 #include "network/georeferencing.h"
+#include "shell/app_state.h"
 
 namespace pluvane {
 namespace {

@@ -4,6 +4,7 @@
 
 #include <memory>
 
+#include "drawing/surface_helpers.h"
 #include "foundation/expect_message.h"
 #include "foundation/numbers.h"
 #include "network/calibration_fixture.h"
@@ -12,7 +13,7 @@
 #include "network/placement.h"
 #include "network/reaches.h"
 #include "network/session_fixture.h"
-#include "drawing/surface_helpers.h"
+#include "shell/app_state.h"
 
 namespace pluvane {
 namespace {

@@ -13,6 +13,7 @@
 #include "network/hidden_record.h"
 #include "network/persistence.h"
 #include "network/session_fixture.h"
+#include "shell/app_state.h"
 
 namespace pluvane {
 namespace {

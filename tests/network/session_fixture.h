@@ -5,10 +5,11 @@
 
 #include <gtest/gtest.h>
 
+#include "drawing/surface.h"
 #include "foundation/scripted_ui.h"
 #include "foundation/test_files.h"
 #include "network/network_session.h"
-#include "drawing/surface.h"
+#include "shell/app_state.h"
 
 namespace pluvane {
 

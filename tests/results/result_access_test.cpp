@@ -7,6 +7,7 @@
 #include "foundation/expect_message.h"
 #include "foundation/paths.h"
 #include "foundation/test_files.h"
+#include "shell/app_state.h"
 
 namespace pluvane {
 namespace {

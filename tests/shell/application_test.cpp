@@ -6,10 +6,11 @@
 #include <cstdlib>
 #include <filesystem>
 
+#include "drawing/surface_helpers.h"
 #include "foundation/expect_message.h"
 #include "foundation/ini_profile.h"
 #include "foundation/test_files.h"
-#include "drawing/surface_helpers.h"
+#include "shell/app_state.h"
 
 namespace pluvane {
 namespace {

@@ -8,6 +8,7 @@
 #include "foundation/ini_profile.h"
 #include "foundation/test_files.h"
 #include "foundation/text.h"
+#include "shell/app_state.h"
 
 namespace pluvane {
 namespace {

@@ -4,6 +4,7 @@
 
 #include "foundation/expect_message.h"
 #include "foundation/scripted_ui.h"
+#include "shell/app_state.h"
 
 namespace pluvane {
 namespace {

@@ -5,6 +5,7 @@
 #include "foundation/expect_message.h"
 #include "foundation/ini_profile.h"
 #include "foundation/test_files.h"
+#include "shell/app_state.h"
 #include "shell/configuration.h"
 
 namespace pluvane {

@@ -9,13 +9,14 @@
 #include <string>
 #include <vector>
 
+#include "drawing/surface_helpers.h"
 #include "foundation/scripted_ui.h"
 #include "foundation/test_files.h"
 #include "foundation/text.h"
 #include "network/hidden_record.h"
 #include "network/persistence.h"
 #include "network/recent_files.h"
-#include "drawing/surface_helpers.h"
+#include "shell/app_state.h"
 #include "simulation/data_recap.h"
 #include "simulation/li2_description.h"
 #include "simulation/model_command.h"

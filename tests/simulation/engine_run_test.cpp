@@ -10,6 +10,7 @@
 #include "foundation/scripted_ui.h"
 #include "foundation/test_files.h"
 #include "foundation/text.h"
+#include "shell/app_state.h"
 #include "shell/console_model.h"
 
 namespace pluvane {

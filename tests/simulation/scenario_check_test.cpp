@@ -2,8 +2,9 @@
 
 #include <gtest/gtest.h>
 
-#include "foundation/expect_message.h"
 #include "drawing/surface_helpers.h"
+#include "foundation/expect_message.h"
+#include "shell/app_state.h"
 #include "simulation/model_fixture.h"
 #include "simulation/model_names.h"
 

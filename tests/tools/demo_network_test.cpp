@@ -12,6 +12,7 @@
 #include "network/georeferencing.h"
 #include "network/persistence.h"
 #include "network/recent_files.h"
+#include "shell/app_state.h"
 #include "tools/network_builder.h"
 #include "tools/network_view.h"
 

@@ -4,6 +4,7 @@
 #include "foundation/test_files.h"
 #include "network/catalogue.h"
 #include "network/persistence.h"
+#include "shell/app_state.h"
 #include "tools/network_builder.h"
 #include "tools/network_view.h"
 

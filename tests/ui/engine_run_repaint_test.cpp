@@ -16,6 +16,7 @@
 #include "foundation/paths.h"
 #include "foundation/test_files.h"
 #include "foundation/text.h"
+#include "shell/app_state.h"
 #include "shell/console_model.h"
 #include "simulation/engine_run.h"
 #include "ui/console_window.h"

@@ -9,6 +9,7 @@
 #include "foundation/ini_profile.h"
 #include "foundation/scripted_ui.h"
 #include "foundation/test_files.h"
+#include "shell/app_state.h"
 #include "shell/configuration.h"
 #include "shell/frm_preference.h"
 #include "ui/test_app.h"

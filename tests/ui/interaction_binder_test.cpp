@@ -10,13 +10,14 @@
 #include <QTest>
 #include <memory>
 
+#include "drawing/surface_helpers.h"
 #include "foundation/scripted_ui.h"
 #include "foundation/test_files.h"
 #include "network/catalogue.h"
 #include "network/georeferencing.h"
 #include "network/placement.h"
-#include "drawing/surface_helpers.h"
 #include "network/topology.h"
+#include "shell/app_state.h"
 #include "test_app.h"
 
 namespace pluvane {

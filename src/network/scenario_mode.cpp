@@ -1,4 +1,4 @@
-#include "simulation/scenario_mode.h"
+#include "network/scenario_mode.h"
 
 #include "foundation/numbers.h"
 #include "foundation/text.h"
