@@ -16,25 +16,41 @@ namespace {
 
 // A head wider than this many pixels is wrapped on two lines.
 constexpr int kWideHead = 150;
+// Room around a head's text in its section.
+constexpr int kHeadMargin = 16;
+
+// The width a head needs on two lines: its best cut at a blank.
+int TwoLineWidth(const QFontMetrics& metrics, const QString& head) {
+  int best = metrics.horizontalAdvance(head);
+  for (int i = head.indexOf(' '); i >= 0; i = head.indexOf(' ', i + 1)) {
+    best = std::min(best, std::max(metrics.horizontalAdvance(head.left(i)),
+                                   metrics.horizontalAdvance(head.mid(i + 1))));
+  }
+  return best;
+}
 
 // Each column as wide as the grid asks, and at least as wide as its contents
 // and its head (a long head wraps on two lines). The row heads take the width
 // of their own texts; a grid whose row-head column has no width shows none.
 void SizeColumns(QTableView* table, const Grid& grid) {
-  const QFontMetrics metrics = table->fontMetrics();
-  const int char_width = metrics.horizontalAdvance('0');
+  const int char_width = table->fontMetrics().horizontalAdvance('0');
   QHeaderView* heads = table->horizontalHeader();
+  // The head of the current column is drawn in bold: measure them so.
+  QFont bold = heads->font();
+  bold.setBold(true);
+  const QFontMetrics metrics(bold);
   bool wrapped = false;
   for (int col = 1; col <= grid.MaxCols(); ++col) {
-    int width = static_cast<int>(grid.ColWidth(col) * char_width) + 8;
     if (grid.ColWidth(col) <= 0) {
       table->setColumnHidden(col - 1, true);
       continue;
     }
+    int width = static_cast<int>(grid.ColWidth(col) * char_width) + 8;
     width = std::max(width, static_cast<QAbstractItemView*>(table)->sizeHintForColumn(col - 1));
-    const int head = metrics.horizontalAdvance(QString::fromStdString(grid.Text(col, 0))) + 16;
+    const QString text = QString::fromStdString(grid.Text(col, 0));
+    const int head = metrics.horizontalAdvance(text) + kHeadMargin;
     if (head > width && head > kWideHead) {
-      width = std::max(width, head / 2 + 24);
+      width = std::max(width, TwoLineWidth(metrics, text) + kHeadMargin);
       wrapped = true;
     } else {
       width = std::max(width, head);
@@ -175,7 +191,7 @@ void FormWindow::RefreshButtons() {
 void FormWindow::FitToGrids() {
   int width = 0, height = 0;
   for (QTableView* table : tables_) {
-    int w = table->verticalHeader()->sizeHint().width() + 4;
+    int w = table->verticalHeader()->sizeHint().width() + 2 * table->frameWidth() + 4;
     for (int c = 0; c < table->model()->columnCount(); ++c) w += table->columnWidth(c);
     width = std::max(width, w);
     // A table shows all its rows up to 15, then scrolls.

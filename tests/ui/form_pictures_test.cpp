@@ -1,0 +1,104 @@
+// Every form that the program has, opened on the example network in the one
+// generic window, its heads readable and its picture kept in build/shots/forms.
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QHeaderView>
+#include <QImage>
+#include <QScrollBar>
+#include <filesystem>
+#include <memory>
+
+#include "drawing/surface_helpers.h"
+#include "foundation/scripted_ui.h"
+#include "network/calibration_points.h"
+#include "network/frm_bief_lst.h"
+#include "network/frm_bief_user_create.h"
+#include "network/frm_calage.h"
+#include "network/frm_info_calage.h"
+#include "shell/frm_preference.h"
+#include "simulation/frm_pluie_liste.h"
+#include "simulation/frm_scn_pluie.h"
+#include "simulation/frm_scn_sim_param_select.h"
+#include "ui/form_window.h"
+#include "ui/main_window.h"
+#include "ui/main_window_fixture.h"
+#include "ui/test_app.h"
+
+namespace pluvane {
+namespace {
+
+class FormPictures : public ::testing::Test {
+ protected:
+  void SetUp() override { ASSERT_TRUE(Open(window_, app_, app_.Demo(), true)); }
+  void TearDown() override { Quit(window_); }
+
+  // Shows the form, checks that its heads can be read and its grids fit, and
+  // keeps its picture.
+  void Picture(FormController& form, const std::string& name) {
+    FormWindow window(form, &window_);
+    window.show();
+    QApplication::processEvents();
+    for (int t = 0; t < static_cast<int>(form.Grids().size()); ++t) {
+      QTableView* table = window.Table(t);
+      QFont bold = table->horizontalHeader()->font();
+      bold.setBold(true);
+      const QFontMetrics metrics(bold);
+      for (int c = 0; c < table->model()->columnCount(); ++c) {
+        if (table->isColumnHidden(c)) continue;
+        const QString head = table->model()->headerData(c, Qt::Horizontal).toString();
+        EXPECT_GE(2 * table->columnWidth(c), metrics.horizontalAdvance(head))
+            << name << ": " << head.toStdString();
+      }
+      // The whole grid shows: nothing to scroll sideways.
+      EXPECT_EQ(table->horizontalScrollBar()->maximum(), 0) << name;
+    }
+    EXPECT_EQ(window.windowTitle().toStdString(), form.Caption());
+    std::filesystem::create_directories(SnapshotPath("forms"));
+    EXPECT_TRUE(window.grab().toImage().save(
+        QString::fromStdString(SnapshotPath("forms/" + name + ".png"))));
+  }
+
+  Surface& surface() { return window_.surface(); }
+  AppState& state() { return window_.application().state(); }
+
+  AppFolder app_;
+  MainWindow window_;
+  ScriptedUi ui_;
+};
+
+TEST_F(FormPictures, Preferences) {
+  FrmPreference form(state(), ui_, [] {});
+  Picture(form, "frmPreference");
+}
+
+TEST_F(FormPictures, Calibration) {
+  FrmCalage form(surface(), state(), ui_);
+  Picture(form, "frmCalage");
+}
+
+TEST_F(FormPictures, CalibrationPoint) {
+  const int point = FindObject(surface(), "iName", std::to_string(kHiddenCalibrationPoint));
+  ASSERT_GT(point, 10);
+  FrmInfoCalage form(surface(), ui_, point);
+  Picture(form, "frmInfoCalage");
+}
+
+TEST_F(FormPictures, Reaches) {
+  FrmBiefLst list(surface(), state(), ui_);
+  Picture(list, "frmBiefLst");
+  FrmBiefUserCreate creation(surface(), state(), ui_);
+  Picture(creation, "frmBiefUserCreate");
+}
+
+TEST_F(FormPictures, RainChoiceAndScenarios) {
+  FrmPluieListe rains(surface(), state(), ui_);
+  Picture(rains, "frmPluie_Liste");
+  FrmScnPluie rain(surface(), state(), ui_);
+  Picture(rain, "frmScnPluie");
+  FrmScnSimParamSelect choice(surface(), state(), ui_);
+  Picture(choice, "frmScnSimParamSelect");
+}
+
+}  // namespace
+}  // namespace pluvane
