@@ -3,6 +3,7 @@
 // the plot, the placing modes, and the choice of a curve file to show.
 #pragma once
 
+#include <functional>
 #include <string>
 
 #include "foundation/user_interface.h"
@@ -23,6 +24,9 @@ struct ViewerState {
   std::string selection_mode;   // the element kind: "SEC", "SAPP"...; also the chooser's mode
   std::string last_curve_file;  // offered by mnuUtil_Vistrel next time
 };
+
+// Opens the viewer on the state's script, modally (the host's window).
+using ShowViewer = std::function<void(ViewerState& state)>;
 
 // Action 3 does nothing; else the surface is cleared and the script's first
 // page drawn, with equal X and Y scales in the "SEC" mode. False when the

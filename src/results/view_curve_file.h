@@ -14,9 +14,6 @@
 
 namespace pluvane {
 
-// Opens the viewer on the state's script, modally.
-using ShowViewer = std::function<void(ViewerState& state)>;
-
 // The chooser's mode is the file's extension; the script is shown with the
 // state's page title. True when a plot was shown.
 bool ViewCurveFile(UserInterface& ui, ViewerState& state, const std::string& file,

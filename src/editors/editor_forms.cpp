@@ -1,0 +1,32 @@
+#include "editors/editor_forms.h"
+
+#include <functional>
+#include <map>
+
+namespace pluvane {
+
+namespace {
+
+using Maker = std::function<std::unique_ptr<FormController>(EditorContext&)>;
+
+template <typename Form>
+Maker Make() {
+  return [](EditorContext& context) { return std::make_unique<Form>(context); };
+}
+
+const std::map<std::string, Maker>& Editors() {
+  // One line per form, in the order of the element kinds.
+  static const std::map<std::string, Maker> kEditors = {
+  };
+  return kEditors;
+}
+
+}  // namespace
+
+std::unique_ptr<FormController> MakeEditorForm(const std::string& name, EditorContext& context) {
+  auto found = Editors().find(name);
+  if (found == Editors().end()) return nullptr;
+  return found->second(context);
+}
+
+}  // namespace pluvane
