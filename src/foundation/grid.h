@@ -34,8 +34,10 @@ struct CellType {
   int decimals = 0;
   // Tab-separated entries of a list cell.
   std::string list;
+  // Most characters a text cell takes from the keyboard; 0 for no limit.
+  int max_length = 0;
 
-  static CellType Text() { return {}; }
+  static CellType Text(int max_length = 0) { return {kText, 0, 0, 0, {}, max_length}; }
   static CellType Integer(double min, double max) { return {kInteger, min, max, 0, {}}; }
   static CellType Float(double min, double max, int decimals) {
     return {kFloat, min, max, decimals, {}};

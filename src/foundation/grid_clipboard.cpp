@@ -25,6 +25,24 @@ void SSPaste(Grid& grid, std::string_view clipboard_text) {
   grid.SetRedraw(was_on);
 }
 
+std::string SSCopy(const Grid& grid) {
+  GridBlock block{grid.ActiveCol(), grid.ActiveRow(), grid.ActiveCol(), grid.ActiveRow()};
+  if (grid.IsBlockSelected()) block = grid.GetSelection(0);
+  block.col1 = std::max(block.col1, 1);
+  block.row1 = std::max(block.row1, 1);
+  block.col2 = std::min(block.col2, grid.MaxCols());
+  block.row2 = std::min(block.row2, grid.MaxRows());
+  std::string text;
+  for (int row = block.row1; row <= block.row2; ++row) {
+    for (int col = block.col1; col <= block.col2; ++col) {
+      if (col > block.col1) text += '\t';
+      text += grid.Text(col, row);
+    }
+    if (block.col1 <= block.col2) text += "\r\n";
+  }
+  return text;
+}
+
 bool IsPasteKey(int key_code, bool control) {
   return control && (key_code == 86 || key_code == 118);
 }

@@ -1,14 +1,11 @@
 #include "ui/form_window.h"
 
-#include <QApplication>
-#include <QClipboard>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QScreen>
 #include <QVBoxLayout>
 
-#include "foundation/grid_clipboard.h"
 
 namespace pluvane {
 
@@ -72,34 +69,9 @@ FormWindow::FormWindow(FormController& controller, QWidget* parent)
   setWindowTitle(QString::fromStdString(controller_.Caption()));
   auto* layout = new QVBoxLayout(this);
   for (Grid* grid : controller_.Grids()) {
-    auto* table = new QTableView(this);
-    auto* model = new GridTableModel(*grid, table);
-    table->setModel(model);
-    table->setItemDelegate(new GridItemDelegate(model, table));
-    table->setSelectionMode(grid->RowSelect() ? QAbstractItemView::SingleSelection
-                                              : QAbstractItemView::ExtendedSelection);
-    table->setSelectionBehavior(grid->RowSelect() ? QAbstractItemView::SelectRows
-                                                  : QAbstractItemView::SelectItems);
+    auto* table = new GridTableView(*grid, this);
+    GridTableModel* model = table->gridModel();
     SizeColumns(table, *grid);
-    // The grid's cursor and the table's current cell follow each other.
-    connect(model, &GridTableModel::activeCellChanged, table, [table, model](int col, int row) {
-      table->setCurrentIndex(model->index(row - 1, col - 1));
-    });
-    connect(table->selectionModel(), &QItemSelectionModel::currentChanged, table,
-            [grid](const QModelIndex& current) {
-              if (current.isValid()) {
-                grid->SetActiveCell(GridTableModel::ColOf(current), GridTableModel::RowOf(current));
-              }
-            });
-    // The blocks selected in the table are the grid's selected blocks.
-    connect(table->selectionModel(), &QItemSelectionModel::selectionChanged, table,
-            [grid, table] {
-              grid->ClearSelection();
-              for (const QItemSelectionRange& range : table->selectionModel()->selection()) {
-                grid->AddSelection({range.left() + 1, range.top() + 1, range.right() + 1,
-                                    range.bottom() + 1});
-              }
-            });
     // Cell events go to the form.
     const int index = static_cast<int>(tables_.size());
     connect(table, &QTableView::clicked, this, [this, index](const QModelIndex& cell) {
@@ -122,6 +94,8 @@ FormWindow::FormWindow(FormController& controller, QWidget* parent)
   for (const FormCommand& command : controller_.Commands()) {
     auto* button = new QPushButton(QString::fromStdString(command.caption), this);
     button->setObjectName(QString::fromStdString(command.name));
+    // Enter belongs to the grid (it goes down a row), never to a button.
+    button->setAutoDefault(false);
     const std::string name = command.name;
     connect(button, &QPushButton::clicked, this, [this, name] { RunCommand(name); });
     buttons->addWidget(button);
@@ -212,16 +186,21 @@ void FormWindow::FitToGrids() {
   resize(size);
 }
 
-void FormWindow::keyPressEvent(QKeyEvent* event) {
-  // Ctrl+V pastes the clipboard into the grid that has the focus.
-  if (event->matches(QKeySequence::Paste)) {
-    for (std::size_t i = 0; i < tables_.size(); ++i) {
-      if (!tables_[i]->hasFocus()) continue;
-      SSPaste(models_[i]->grid(), QApplication::clipboard()->text().toStdString());
-      return;
-    }
-  }
-  QDialog::keyPressEvent(event);
+// Each form opens where it was last left, for the program's run.
+std::map<std::string, QPoint>& FormWindow::Positions() {
+  static std::map<std::string, QPoint> positions;
+  return positions;
+}
+
+void FormWindow::showEvent(QShowEvent* event) {
+  QDialog::showEvent(event);
+  auto found = Positions().find(controller_.Caption());
+  if (found != Positions().end()) move(found->second);
+}
+
+void FormWindow::done(int result) {
+  Positions()[controller_.Caption()] = pos();
+  QDialog::done(result);
 }
 
 }  // namespace pluvane

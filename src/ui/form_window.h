@@ -1,16 +1,19 @@
 // The one window that shows any form's logic: its caption, a table for each
 // of its grids, a button for each of its commands. A click runs the command;
 // clicks, double clicks and leaving a cell go to the form as cell events;
-// when the form has unloaded itself, the window closes.
+// when the form has unloaded itself, the window closes. A form opens again
+// where it was left.
 #pragma once
 
 #include <QDialog>
 #include <QPushButton>
 #include <QTableView>
+#include <map>
+#include <string>
 #include <vector>
 
 #include "foundation/form_controller.h"
-#include "ui/grid_table_model.h"
+#include "ui/grid_table_view.h"
 
 namespace pluvane {
 
@@ -20,7 +23,7 @@ class FormWindow : public QDialog {
  public:
   explicit FormWindow(FormController& controller, QWidget* parent = nullptr);
 
-  QTableView* Table(int index) const { return tables_.at(index); }
+  GridTableView* Table(int index) const { return tables_.at(index); }
   QPushButton* Button(const std::string& command) const;
   // Runs a command as its button does.
   void RunCommand(const std::string& command);
@@ -31,15 +34,17 @@ class FormWindow : public QDialog {
   void LeaveCell(int index, int col, int row);
 
  protected:
-  void keyPressEvent(QKeyEvent* event) override;
+  void showEvent(QShowEvent* event) override;
+  void done(int result) override;
 
  private:
   void AfterEvent();
   void RefreshButtons();
   void FitToGrids();
+  static std::map<std::string, QPoint>& Positions();
 
   FormController& controller_;
-  std::vector<QTableView*> tables_;
+  std::vector<GridTableView*> tables_;
   std::vector<GridTableModel*> models_;
   std::vector<std::pair<std::string, QPushButton*>> buttons_;
   bool leaving_ = false;

@@ -3,6 +3,8 @@
 #include <QApplication>
 #include <QBrush>
 #include <QComboBox>
+#include <QDoubleValidator>
+#include <QLineEdit>
 #include <QPainter>
 #include <QStyleOptionButton>
 
@@ -13,6 +15,41 @@ namespace pluvane {
 namespace {
 
 QString Q(const std::string& s) { return QString::fromStdString(s); }
+
+// The numbers of a cell: a point or a comma for the decimals, within the
+// cell's range and decimals; an empty cell is allowed.
+class NumberValidator : public QDoubleValidator {
+ public:
+  NumberValidator(const CellType& type, QObject* parent)
+      : QDoubleValidator(parent), integer_(type.kind == CellType::kInteger) {
+    setLocale(QLocale::c());
+    setNotation(QDoubleValidator::StandardNotation);
+    const int decimals = type.kind == CellType::kInteger ? 0 : (type.decimals > 0 ? type.decimals : 15);
+    if (type.min < type.max) {
+      setRange(type.min, type.max, decimals);
+    } else {
+      setDecimals(decimals);
+    }
+  }
+  State validate(QString& input, int& pos) const override {
+    input.replace(',', '.');
+    if (input.trimmed().isEmpty()) return Acceptable;
+    if (integer_ && input.contains('.')) return Invalid;
+    return QDoubleValidator::validate(input, pos);
+  }
+
+ private:
+  bool integer_;
+};
+
+// A number of a float cell is shown with the cell's decimals; any other text as it is.
+QString Shown(const Cell& cell) {
+  const QString text = Q(cell.text);
+  if (cell.type.kind != CellType::kFloat || cell.type.decimals <= 0) return text;
+  bool number = false;
+  const double value = text.trimmed().toDouble(&number);
+  return number ? QString::number(value, 'f', cell.type.decimals) : text;
+}
 
 }  // namespace
 
@@ -42,7 +79,7 @@ QVariant GridTableModel::data(const QModelIndex& index, int role) const {
   const bool check = cell.type.kind == CellType::kCheckBox;
   switch (role) {
     case Qt::DisplayRole:
-      return check ? QVariant() : QVariant(Q(cell.text));
+      return check ? QVariant() : QVariant(Shown(cell));
     case Qt::EditRole:
       return Q(cell.text);
     case Qt::CheckStateRole:
@@ -194,12 +231,22 @@ QWidget* GridItemDelegate::createEditor(QWidget* parent, const QStyleOptionViewI
                                         const QModelIndex& index) const {
   const Grid& grid = model_->grid();
   const int col = GridTableModel::ColOf(index), row = GridTableModel::RowOf(index);
-  if (grid.Type(col, row).kind != CellType::kList) {
-    return QStyledItemDelegate::createEditor(parent, option, index);
+  const CellType& type = grid.Type(col, row);
+  if (type.kind == CellType::kList) {
+    auto* combo = new QComboBox(parent);
+    for (const auto& entry : grid.ListEntries(col, row)) combo->addItem(Q(entry));
+    return combo;
   }
-  auto* combo = new QComboBox(parent);
-  for (const auto& entry : grid.ListEntries(col, row)) combo->addItem(Q(entry));
-  return combo;
+  QWidget* editor = QStyledItemDelegate::createEditor(parent, option, index);
+  auto* line = qobject_cast<QLineEdit*>(editor);
+  if (line == nullptr) return editor;
+  // The keyboard keeps to what the cell takes: an out-of-range number is not written.
+  if (type.kind == CellType::kInteger || type.kind == CellType::kFloat) {
+    line->setValidator(new NumberValidator(type, line));
+  } else if (type.kind == CellType::kText && type.max_length > 0) {
+    line->setMaxLength(type.max_length);
+  }
+  return editor;
 }
 
 void GridItemDelegate::setEditorData(QWidget* editor, const QModelIndex& index) const {

@@ -110,27 +110,27 @@ void MainWindow::BindCommands() {
     };
   };
   commands_ = {
-      {"mnuFile_Open", after([=] {
+      {"mnuFile_Open", after([this, session] {
          NetworkSession s = session();
          OpenNetwork(s, false);
        })},
-      {"mnuFile_Save", after([=] {
+      {"mnuFile_Save", after([this, session] {
          NetworkSession s = session();
          mnuFile_Save(s);
        })},
-      {"mnuFile_SaveAs", after([=] {
+      {"mnuFile_SaveAs", after([this, session] {
          NetworkSession s = session();
          SaveNetworkAs(s);
        })},
-      {"mnuFile_Close", after([=] {
+      {"mnuFile_Close", after([this, session] {
          NetworkSession s = session();
          CloseNetwork(s);
        })},
-      {"mnuFile_Load", after([=] {
+      {"mnuFile_Load", after([this, session] {
          NetworkSession s = session();
          mnuFile_Load(s);
        })},
-      {"MnuFi_Import_Mtf", after([=] {
+      {"MnuFi_Import_Mtf", after([this, session] {
          NetworkSession s = session();
          MergeNetwork(s, [this] {
            if (interaction_->LinkArrows()) {
@@ -159,6 +159,9 @@ void MainWindow::BindCommands() {
          if (!NetworkLoaded(application_->state(), ui_)) return;
          FrmScnSimParamSelect form(surface_, application_->state(), ui_);
          OpenForm(form);
+       })},
+      {"mnuOpt_SecOpn", after([this] {
+         if (NetworkLoaded(application_->state(), ui_)) OpenNamedForm("frmSect", 0);
        })},
       {"mnuScn_ModeleGen", after([this] { RunScenarioCommand(false); })},
       {"mnuScn_ModeleRun", after([this] { RunScenarioCommand(true); })},

@@ -6,6 +6,7 @@
 #include <QMenuBar>
 #include <QToolBar>
 
+#include "editors/editor_forms.h"
 #include "network/frm_info_calage.h"
 #include "results/view_curve_file.h"
 #include "shell/interaction_modes.h"
@@ -52,8 +53,20 @@ void MainWindow::OpenNamedForm(const std::string& form, int object) {
     OpenForm(info);
     if (calage_) calage_->PointPlaced(info.PointId());
   } else {
-    // The element editors and the general editor come with their own forms.
-    ui_.ShowStatus(kNotAvailable);
+    // The element editors and the general editor, on the current object.
+    AppState& state = application_->state();
+    if (object > 0) surface_.SetCurrentObject(object);
+    EditorContext context{surface_,
+                          state,
+                          ui_,
+                          [this](FormController& inner) { OpenForm(inner); },
+                          viewer_state_,
+                          ViewerWindow(this, ui_, state.WorkDir)};
+    if (std::unique_ptr<FormController> editor = MakeEditorForm(form, context)) {
+      OpenForm(*editor);
+    } else {
+      ui_.ShowStatus(kNotAvailable);
+    }
   }
   view_->Invalidate();
 }

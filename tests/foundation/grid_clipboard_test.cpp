@@ -93,3 +93,43 @@ TEST(IsPasteKey, ControlV) {
 
 }  // namespace
 }  // namespace pluvane
+
+namespace pluvane {
+namespace {
+
+TEST(SSCopy, TheSelectedBlockAsASpreadsheetCopiesIt) {
+  Grid grid(3, 3);
+  grid.SetText(1, 1, "a");
+  grid.SetText(2, 1, "1.5");
+  grid.SetText(1, 2, "b");
+  grid.SetText(3, 2, "z");
+  grid.AddSelection({1, 1, 2, 2});
+  EXPECT_EQ(SSCopy(grid), "a\t1.5\r\nb\t\r\n");
+}
+
+TEST(SSCopy, WithoutSelectionTheCellAtTheCursor) {
+  Grid grid(2, 2);
+  grid.SetText(2, 2, "42");
+  grid.SetActiveCell(2, 2);
+  EXPECT_EQ(SSCopy(grid), "42\r\n");
+  grid.SetActiveCell(0, 0);
+  EXPECT_EQ(SSCopy(grid), "");
+}
+
+TEST(SSCopy, ACopyPastedElsewhereGivesTheSameCells) {
+  Grid from(2, 3), to(2, 3);
+  for (int row = 1; row <= 3; ++row) {
+    from.SetText(1, row, "x" + std::to_string(row));
+    from.SetText(2, row, std::to_string(row * 10));
+  }
+  from.AddSelection({1, 1, 2, 3});
+  to.SetActiveCell(1, 1);
+  SSPaste(to, SSCopy(from));
+  for (int row = 1; row <= 3; ++row) {
+    EXPECT_EQ(to.Text(1, row), from.Text(1, row));
+    EXPECT_EQ(to.Text(2, row), from.Text(2, row));
+  }
+}
+
+}  // namespace
+}  // namespace pluvane

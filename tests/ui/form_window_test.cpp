@@ -38,7 +38,8 @@ TEST(FormWindow, ShowsThePreferencesAndRunsOk) {
   ASSERT_EQ(model->columnCount(), 1);
   EXPECT_EQ(model->headerData(0, Qt::Vertical, Qt::DisplayRole).toString(), "Taille des symboles");
   EXPECT_EQ(model->headerData(0, Qt::Horizontal, Qt::DisplayRole).toString(), "Valeur");
-  EXPECT_EQ(model->data(model->index(0, 0), Qt::DisplayRole).toString(), "120");
+  EXPECT_EQ(model->data(model->index(0, 0), Qt::DisplayRole).toString(), "120.00");
+  EXPECT_EQ(form.grid().Text(1, 1), "120");
   EXPECT_EQ(model->data(model->index(3, 0), Qt::CheckStateRole).toInt(), Qt::Unchecked);
   const QImage shot = window.grab().toImage();
   shot.save(QString::fromStdString(SnapshotPath("form_preference.png")));
