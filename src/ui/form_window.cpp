@@ -85,6 +85,10 @@ FormWindow::FormWindow(FormController& controller, QWidget* parent)
               if (!previous.isValid() || current == previous) return;
               LeaveCell(index, GridTableModel::ColOf(previous), GridTableModel::RowOf(previous));
             });
+    connect(table->gridDelegate(), &GridItemDelegate::listDroppedDown, this,
+            [this, index](int col, int row) { ListDropDown(index, col, row); });
+    connect(table->gridDelegate(), &GridItemDelegate::listClosedUp, this,
+            [this, index](int col, int row) { ListCloseUp(index, col, row); });
     layout->addWidget(table);
     tables_.push_back(table);
     models_.push_back(model);
@@ -145,6 +149,16 @@ void FormWindow::LeaveCell(int index, int col, int row) {
   leaving_ = true;
   controller_.LeaveCell(models_.at(index)->grid(), col, row);
   leaving_ = false;
+  AfterEvent();
+}
+
+void FormWindow::ListDropDown(int index, int col, int row) {
+  controller_.ListDropDown(models_.at(index)->grid(), col, row);
+  AfterEvent();
+}
+
+void FormWindow::ListCloseUp(int index, int col, int row) {
+  controller_.ListCloseUp(models_.at(index)->grid(), col, row);
   AfterEvent();
 }
 

@@ -2,7 +2,6 @@
 
 #include <QApplication>
 #include <QBrush>
-#include <QComboBox>
 #include <QDoubleValidator>
 #include <QLineEdit>
 #include <QPainter>
@@ -210,6 +209,17 @@ QStyleOptionButton ButtonOption(const Grid& grid, const QStyleOptionViewItem& op
 
 }  // namespace
 
+void GridComboBox::showPopup() {
+  emit droppedDown();
+  QComboBox::showPopup();
+}
+
+// The choice of the list reaches the combo box after the list has closed.
+void GridComboBox::hidePopup() {
+  QComboBox::hidePopup();
+  QMetaObject::invokeMethod(this, [this] { emit closedUp(); }, Qt::QueuedConnection);
+}
+
 void GridItemDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
                              const QModelIndex& index) const {
   if (!IsButton(model_->grid(), index)) return QStyledItemDelegate::paint(painter, option, index);
@@ -233,8 +243,15 @@ QWidget* GridItemDelegate::createEditor(QWidget* parent, const QStyleOptionViewI
   const int col = GridTableModel::ColOf(index), row = GridTableModel::RowOf(index);
   const CellType& type = grid.Type(col, row);
   if (type.kind == CellType::kList) {
-    auto* combo = new QComboBox(parent);
+    auto* combo = new GridComboBox(parent);
     for (const auto& entry : grid.ListEntries(col, row)) combo->addItem(Q(entry));
+    auto* self = const_cast<GridItemDelegate*>(this);
+    connect(combo, &GridComboBox::droppedDown, self,
+            [self, col, row] { emit self->listDroppedDown(col, row); });
+    connect(combo, &GridComboBox::closedUp, self, [self, combo, col, row] {
+      emit self->commitData(combo);
+      emit self->listClosedUp(col, row);
+    });
     return combo;
   }
   QWidget* editor = QStyledItemDelegate::createEditor(parent, option, index);

@@ -5,6 +5,7 @@
 #pragma once
 
 #include <QAbstractTableModel>
+#include <QComboBox>
 #include <QStyledItemDelegate>
 
 #include "foundation/grid.h"
@@ -41,10 +42,31 @@ class GridTableModel : public QAbstractTableModel {
   int listener_ = 0;
 };
 
+// The combo box of a list cell, telling when its list drops down and when it
+// closes up again (once the choice is made).
+class GridComboBox : public QComboBox {
+  Q_OBJECT
+
+ public:
+  using QComboBox::QComboBox;
+  void showPopup() override;
+  void hidePopup() override;
+
+ signals:
+  void droppedDown();
+  void closedUp();
+};
+
 // Edits list cells in a combo box of their entries, and draws button cells
-// as push buttons (an ampersand of their text marks the mnemonic).
+// as push buttons (an ampersand of their text marks the mnemonic). The list's
+// dropping down and closing up are told with the cell (columns and rows from
+// 1), the choice written to the grid before the closing up.
 class GridItemDelegate : public QStyledItemDelegate {
   Q_OBJECT
+
+ signals:
+  void listDroppedDown(int col, int row);
+  void listClosedUp(int col, int row);
 
  public:
   explicit GridItemDelegate(GridTableModel* model, QObject* parent = nullptr)

@@ -9,9 +9,11 @@
 namespace pluvane {
 
 GridTableView::GridTableView(Grid& grid, QWidget* parent)
-    : QTableView(parent), model_(new GridTableModel(grid, this)) {
+    : QTableView(parent),
+      model_(new GridTableModel(grid, this)),
+      delegate_(new GridItemDelegate(model_, this)) {
   setModel(model_);
-  setItemDelegate(new GridItemDelegate(model_, this));
+  setItemDelegate(delegate_);
   setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed |
                   QAbstractItemView::AnyKeyPressed);
   setSelectionMode(grid.RowSelect() ? QAbstractItemView::SingleSelection

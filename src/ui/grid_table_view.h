@@ -20,6 +20,7 @@ class GridTableView : public QTableView {
 
   Grid& grid() { return model_->grid(); }
   GridTableModel* gridModel() const { return model_; }
+  GridItemDelegate* gridDelegate() const { return delegate_; }
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
@@ -30,6 +31,7 @@ class GridTableView : public QTableView {
   void ReportSelection();
 
   GridTableModel* model_;
+  GridItemDelegate* delegate_;
 };
 
 }  // namespace pluvane

@@ -153,6 +153,45 @@ TEST(GridTableView, ABlockFromASpreadsheetIsPastedAndCopiedBack) {
   EXPECT_EQ(QApplication::clipboard()->text(), "n2\t0.5\t4\r\nn3\t0.75\t6\r\n");
 }
 
+// A form with one list cell that notes what its list does.
+class ListForm : public FormController {
+ public:
+  ListForm() : grid_(1, 1) {
+    grid_.SetType(1, 1, CellType::List("Horton\tSCS\tCoefficient"));
+    grid_.SetText(1, 1, "Horton");
+  }
+  std::string Caption() const override { return "Essai de liste"; }
+  std::vector<Grid*> Grids() override { return {&grid_}; }
+  std::vector<FormCommand> Commands() override { return {}; }
+  void ListDropDown(Grid& grid, int col, int row) override {
+    events.push_back("ouverte sur " + grid.Text(col, row));
+  }
+  void ListCloseUp(Grid& grid, int col, int row) override {
+    events.push_back("fermée sur " + grid.Text(col, row));
+  }
+  std::vector<std::string> events;
+
+ private:
+  Grid grid_;
+};
+
+TEST(GridTableView, AListTellsTheFormWhenItDropsDownAndClosesUpOnTheChoice) {
+  TestApp();
+  ListForm form;
+  FormWindow window(form);
+  window.show();
+  GridTableView* table = window.Table(0);
+  table->edit(table->model()->index(0, 0));
+  auto* combo = table->findChild<GridComboBox*>();
+  ASSERT_NE(combo, nullptr);
+  EXPECT_EQ(combo->count(), 3);
+  combo->showPopup();
+  combo->setCurrentIndex(1);
+  combo->hidePopup();
+  QApplication::processEvents();
+  EXPECT_EQ(form.events, (std::vector<std::string>{"ouverte sur Horton", "fermée sur SCS"}));
+}
+
 TEST(GridTableView, AFormOpensAgainWhereItWasLeft) {
   TestApp();
   TableForm form;
