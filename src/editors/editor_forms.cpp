@@ -6,6 +6,7 @@
 #include "editors/frm_cac.h"
 #include "editors/frm_caf.h"
 #include "editors/frm_cao.h"
+#include "editors/frm_sect.h"
 
 namespace pluvane {
 
@@ -24,6 +25,8 @@ const std::map<std::string, Maker>& Editors() {
       {"frmCac", Make<FrmCac>()},
       {"frmCaf", Make<FrmCaf>()},
       {"frmCao", Make<FrmCao>()},
+      // The section library, opened from the Option menu.
+      {"frmSect", Make<FrmSect>()},
   };
   return kEditors;
 }
