@@ -72,15 +72,19 @@ bool mnuOpt_SecExport(Surface& surface, const NetworkState& state, UserInterface
   const std::string file = ui.AskSaveFile(kExportTitle, "Fichier texte sec|*.sec|Autre fichier|*.*",
                                           "sec", initial);
   if (file.empty()) return false;
+  return ExportSections(surface, ui, file) >= 0;
+}
+
+int ExportSections(Surface& surface, UserInterface& ui, const std::string& file) {
   std::vector<std::string> skipped;
   const int count = WriteSecFile(surface, file, skipped);
   if (count < 0) {
     ui.ShowMessage("Impossible d'écrire le fichier " + file, kExportTitle,
                    MessageIcon::kExclamation);
-    return false;
+    return -1;
   }
   ui.ShowMessage(ExportReport(count, skipped), kExportTitle, MessageIcon::kInformation);
-  return true;
+  return count;
 }
 
 }  // namespace pluvane

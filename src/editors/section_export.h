@@ -24,6 +24,10 @@ int WriteSecFile(Surface& surface, const std::string& file, std::vector<std::str
 std::string ExportReport(int count, const std::vector<std::string>& skipped);
 inline constexpr const char* kExportTitle = "Export des sections";
 
+// Writes the file and tells the count (and the sections left out) under
+// "Export des sections"; -1, with its message, when it could not be written.
+int ExportSections(Surface& surface, UserInterface& ui, const std::string& file);
+
 // Option > Exporter des sections: the file asked (the network's name with
 // ".sec" offered), written, and the count told. False when the dialog was
 // cancelled or the file could not be written.

@@ -84,7 +84,8 @@ class ImportRun {
     lines_.push_back("");
     lines_.push_back(SectionsDone(count_));
   }
-  int Write(const std::string& report) const {
+  int Write(const std::string& report, bool* complete, bool to_the_end) const {
+    if (complete != nullptr) *complete = to_the_end;
     std::error_code ignored;
     std::filesystem::remove(report, ignored);
     WriteTextLines(report, lines_);
@@ -107,7 +108,7 @@ std::string ExistingLine(const std::string& name) {
 }
 
 int ImportSecFile(Surface& surface, const NetworkState& state, UserInterface& ui,
-                  const std::string& file, const std::string& report) {
+                  const std::string& file, const std::string& report, bool* complete) {
   ImportRun run(surface, state);
   TextReader reader(file);
   while (!reader.AtEnd()) {
@@ -126,14 +127,14 @@ int ImportSecFile(Surface& surface, const NetworkState& state, UserInterface& ui
       points.widths.resize(count);
       return points;
     });
-    if (!going_on) return run.Write(report);
+    if (!going_on) return run.Write(report, complete, false);
   }
   run.Finish();
-  return run.Write(report);
+  return run.Write(report, complete, true);
 }
 
 int ImportCrbFile(Surface& surface, const NetworkState& state, const std::string& file,
-                  const std::string& report) {
+                  const std::string& report, bool* complete) {
   ImportRun run(surface, state);
   std::vector<std::string> lines;
   ReadTextLines(file, lines);
@@ -155,20 +156,25 @@ int ImportCrbFile(Surface& surface, const NetworkState& state, const std::string
       }
       return points;
     });
-    if (!going_on) return run.Write(report);
+    if (!going_on) return run.Write(report, complete, false);
     at = end;
   }
   run.Finish();
-  return run.Write(report);
+  return run.Write(report, complete, true);
+}
+
+std::string SectionReportPath(const std::string& file) {
+  std::string folder, name, base, extension;
+  SplitPath(file, folder, name, base, extension);
+  return JoinPath(folder, base + ".msg");
 }
 
 int ImportSectionFile(Surface& surface, const NetworkState& state, UserInterface& ui,
-                      const std::string& file, std::string& report) {
+                      const std::string& file, const std::string& report, bool* complete) {
   std::string folder, name, base, extension;
   SplitPath(file, folder, name, base, extension);
-  report = JoinPath(folder, base + ".msg");
-  if (UCase(extension) == "SEC") return ImportSecFile(surface, state, ui, file, report);
-  return ImportCrbFile(surface, state, file, report);
+  if (UCase(extension) == "SEC") return ImportSecFile(surface, state, ui, file, report, complete);
+  return ImportCrbFile(surface, state, file, report, complete);
 }
 
 bool mnuOpt_SecImport(Surface& surface, const NetworkState& state, UserInterface& ui,
@@ -178,7 +184,7 @@ bool mnuOpt_SecImport(Surface& surface, const NetworkState& state, UserInterface
                      "Fichier texte sec|*.sec|crb|*.crb|Autre fichier|*.*", "sec",
                      "*.sec;*.crb;*.txt");
   if (file.empty()) return false;
-  std::string report;
+  const std::string report = SectionReportPath(file);
   ImportSectionFile(surface, state, ui, file, report);
   std::vector<std::string> lines;
   ReadTextLines(report, lines);

@@ -22,17 +22,21 @@ std::string ExistingLine(const std::string& name);
 // Both return the number of sections handled (those already in the library
 // and the one whose heights stopped the import included) and write `report`
 // anew. The file's lines are read as they come: a missing file reads as
-// empty. `ui` hears of a quote left open in a line of numbers.
+// empty. `ui` hears of a quote left open in a line of numbers. `complete`,
+// when given, tells whether the file was read to its end.
 int ImportSecFile(Surface& surface, const NetworkState& state, UserInterface& ui,
-                  const std::string& file, const std::string& report);
+                  const std::string& file, const std::string& report, bool* complete = nullptr);
 int ImportCrbFile(Surface& surface, const NetworkState& state, const std::string& file,
-                  const std::string& report);
+                  const std::string& report, bool* complete = nullptr);
+
+// The report of the menu: beside the file, its base name and ".msg".
+std::string SectionReportPath(const std::string& file);
 
 // The import by the file's extension: "sec" in any case reads the text
-// format, anything else the curve format. The report is written beside the
-// file (its base name and ".msg") and its path returned in `report`.
+// format, anything else the curve format.
 int ImportSectionFile(Surface& surface, const NetworkState& state, UserInterface& ui,
-                      const std::string& file, std::string& report);
+                      const std::string& file, const std::string& report,
+                      bool* complete = nullptr);
 
 // Option > Importer des sections: the file asked, imported, the report shown
 // in the console under "import de section" and then deleted. False when the

@@ -239,15 +239,20 @@ TEST_F(SectionImport, TheMenuShowsTheReportInTheConsole) {
 }
 
 TEST_F(SectionImport, TheExtensionChoosesTheFormat) {
-  std::string report;
+  const std::string report = folder.File("r.msg");
+  bool complete = false;
   WriteBytes(folder.File("a.SEC"), "'T'\n0 1\n1 1\n");
-  EXPECT_EQ(ImportSectionFile(surface, state, ui, folder.File("a.SEC"), report), 1);
-  EXPECT_EQ(report, folder.File("a.msg"));
+  EXPECT_EQ(ImportSectionFile(surface, state, ui, folder.File("a.SEC"), report, &complete), 1);
+  EXPECT_TRUE(complete);
+  EXPECT_EQ(SectionReportPath(folder.File("a.SEC")), folder.File("a.msg"));
   EXPECT_EQ(TagsOf("T").size(), 7u);
   // The same text read as curves: "0 1" gives height 0 (the first ten characters hold "0 1").
   WriteBytes(folder.File("b.txt"), "'C'\n         0         1\n         1         1\n");
-  EXPECT_EQ(ImportSectionFile(surface, state, ui, folder.File("b.txt"), report), 1);
-  EXPECT_EQ(report, folder.File("b.msg"));
+  EXPECT_EQ(ImportSectionFile(surface, state, ui, folder.File("b.txt"), report, &complete), 1);
+  EXPECT_TRUE(complete);
+  WriteBytes(folder.File("c.crb"), "'Plat'\n         0         1\n         0         1\n");
+  EXPECT_EQ(ImportSectionFile(surface, state, ui, folder.File("c.crb"), report, &complete), 1);
+  EXPECT_FALSE(complete);
   EXPECT_EQ(TagsOf("C")[4], (std::pair<std::string, std::string>{"Y1", "0"}));
   EXPECT_EQ(TagsOf("C")[3], (std::pair<std::string, std::string>{"X1", "1"}));
 }
