@@ -3,6 +3,11 @@
 #include <functional>
 #include <map>
 
+#include "editors/frm_cac.h"
+#include "editors/frm_caf.h"
+#include "editors/frm_cao.h"
+#include "editors/frm_sect.h"
+
 namespace pluvane {
 
 namespace {
@@ -17,6 +22,11 @@ Maker Make() {
 const std::map<std::string, Maker>& Editors() {
   // One line per form, in the order of the element kinds.
   static const std::map<std::string, Maker> kEditors = {
+      {"frmCac", Make<FrmCac>()},
+      {"frmCaf", Make<FrmCaf>()},
+      {"frmCao", Make<FrmCao>()},
+      // The section library, opened from the Option menu.
+      {"frmSect", Make<FrmSect>()},
   };
   return kEditors;
 }
