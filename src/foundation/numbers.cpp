@@ -106,6 +106,12 @@ std::int32_t ValLong(std::string_view text) { return ToLong(Val(text)); }
 
 std::int16_t ValInt(std::string_view text) { return ToInt(Val(text)); }
 
+std::int32_t ValRoundLong(std::string_view text) { return RoundLong(Val(text)); }
+
+std::int16_t ValRoundInt(std::string_view text) {
+  return ClampTo<std::int16_t>(std::nearbyint(Val(text)));
+}
+
 std::int32_t ToLong(double value) { return ClampTo<std::int32_t>(std::trunc(value)); }
 
 std::int16_t ToInt(double value) { return ClampTo<std::int16_t>(std::trunc(value)); }

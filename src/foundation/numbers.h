@@ -18,6 +18,11 @@ double Val(std::string_view text);
 std::int32_t ValLong(std::string_view text);
 std::int16_t ValInt(std::string_view text);
 
+// Val rounded half to even to a 32- or 16-bit integer, clamped: a tag's
+// number read as an integer ("3.5" gives 4, "2.5" gives 2).
+std::int32_t ValRoundLong(std::string_view text);
+std::int16_t ValRoundInt(std::string_view text);
+
 // Truncates toward zero and clamps to the 32-bit range (NaN gives 0).
 std::int32_t ToLong(double value);
 std::int16_t ToInt(double value);

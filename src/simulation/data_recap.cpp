@@ -1,5 +1,7 @@
 #include "simulation/data_recap.h"
 
+#include "simulation/scenario_records.h"
+
 #include <algorithm>
 #include <cstdio>
 #include <functional>
@@ -11,6 +13,7 @@
 #include "foundation/text.h"
 #include "drawing/surface_guards.h"
 #include "drawing/surface_helpers.h"
+#include "simulation/scenario_records.h"
 
 namespace pluvane {
 
@@ -37,7 +40,7 @@ class RecapWriter {
     std::string head;
     for (const auto& h : heads) head += "\t" + h;
     Line(head);
-    const int count = ValLong(s_.ObjTag(count_tag));
+    const int count = ValRoundLong(s_.ObjTag(count_tag));
     for (int i = 1; i <= count; ++i) {
       std::string row;
       for (std::size_t k = 0; k < prefixes.size(); ++k) {
@@ -84,10 +87,11 @@ class RecapWriter {
   void Rain() {
     CursorKeeper keeper(s_);
     const int scenario = FindObject2(s_, "iName", 111, "Id", state_.ScenarioName);
-    const int kind = scenario > 10 ? ValLong(s_.ObjTag("iPluie")) : 0;
+    const int kind = scenario > 10 ? ValRoundLong(s_.ObjTag("iPluie")) : 0;
     const std::string rain_id = scenario > 10 ? Trim(s_.ObjTag("IdPluie")) : "";
     const std::string radar_name = scenario > 10 ? s_.ObjTag("UsIdPluie") : "";
-    const int rain = kind > 0 ? FindObject2(s_, "iName", kind, "Id", rain_id) : 0;
+    // The rain is found as the rain file finds it: Id trimmed, in any case.
+    const int rain = kind > 0 ? FindRecord(s_, kind, rain_id) : 0;
     if (rain < 11 && kind != 108) {
       Line("Scénario de pluie non renseigné.");
       return;
@@ -120,7 +124,7 @@ class RecapWriter {
       case 107: {
         Line("Hyétogramme PPHYE");
         Line("Temps (mn)\tI (mm/h)");
-        const int count = ValLong(s_.ObjTag("NbPt"));
+        const int count = ValRoundLong(s_.ObjTag("NbPt"));
         for (int i = 1; i <= count; ++i) {
           Line(Num("X" + std::to_string(i)) + "\t" + Num("Y" + std::to_string(i)));
         }
@@ -143,7 +147,7 @@ class RecapWriter {
   void Recorded() {
     const int event = s_.CurrentObject();
     Line("Désignation de l'événement : " + Text("Design") + " (" + s_.ObjTag("Id") + ")");
-    Line(ValLong(s_.ObjTag("iModePluie")) == 2 ? "Méthode d'abattement : distance pondérée"
+    Line(ValRoundLong(s_.ObjTag("iModePluie")) == 2 ? "Méthode d'abattement : distance pondérée"
                                               : "Méthode d'abattement : Thiessen");
     const std::vector<int> gauges = FindObjectList(s_, "iName", 12);
     Line("Nombre de pluviographes = " + std::to_string(gauges.size()));
@@ -154,7 +158,7 @@ class RecapWriter {
     }
     s_.SetCurrentObject(event);
     Line("Temps (mn)\tHauteur cumulée (mm)");
-    const int rows = ValLong(s_.ObjTag("NbPt"));
+    const int rows = ValRoundLong(s_.ObjTag("NbPt"));
     for (int i = 2; i <= rows; ++i) Line(s_.ObjTag("Pt" + std::to_string(i)));
   }
 
@@ -186,7 +190,7 @@ void Catchment(RecapWriter& w, Surface& s) {
        "  Vitesse d'infiltration à sec          A(mm/h) = ",
        "  Capacité de Stockage potentiel du sol   T(mm) = "},
       {"  Capacité d'interception     J(mm) = ", "  Temps de ressuyage du sol (jours) = "}};
-  const int function = ValLong(s.ObjTag("Fpluie"));
+  const int function = ValRoundLong(s.ObjTag("Fpluie"));
   if (function >= 1 && function <= 4) {
     const auto& labels = kParameters[function - 1];
     for (std::size_t k = 0; k < labels.size(); ++k) {
@@ -212,7 +216,7 @@ void RoadHeight(RecapWriter& w) {
 // The parameters of one outlet of a QZ divider, by its type.
 void QzOutlet(RecapWriter& w, Surface& s, const std::string& type_tag, const std::string& x,
               const std::string& y, const std::string& count, bool branch) {
-  switch (ValLong(s.ObjTag(type_tag))) {
+  switch (ValRoundLong(s.ObjTag(type_tag))) {
     case 1:
       w.Field("  Cote du seuil     (m) = ", x + "1");
       w.Field("  Largeur du seuil  (m) = ", x + "2");
@@ -242,7 +246,7 @@ void QzDivider(RecapWriter& w, Surface& s) {
   w.TextField("  Type de l'élément aval        = ", "TypeAval");
   QzOutlet(w, s, "TypeAval", "Xav", "Yav", "NbPtAv", false);
   w.Field("  Nombre de dérivation          = ", "NbDer");
-  const int branches = ValLong(s.ObjTag("NbDer"));
+  const int branches = ValRoundLong(s.ObjTag("NbDer"));
   const char letters[] = {'a', 'b', 'c'};
   const char* prefixes[] = {"da", "db", "dc"};
   const char* counts[] = {"NbPtDa", "NbPtDb", "NbPtDc"};
@@ -355,8 +359,9 @@ void WriteSections(RecapWriter& w, Surface& s, UserInterface& ui) {
       [&] {
         w.Section({100}, "BIEFS DE COLLECTEUR : ", "", [&] {
           w.Line("\t* Bief " + s.ObjTag("Id"));
-          const int count = ValLong(s.ObjTag("NbColl"));
+          const int count = ValRoundLong(s.ObjTag("NbColl"));
           for (int i = 1; i <= count; ++i) w.Line("\t  " + s.ObjTag("IdColl" + std::to_string(i)));
+          w.Line("");
         }, true);
       },
   };

@@ -80,12 +80,12 @@ void LevelLaw(Record& r, const Surface& surface, const char* count_tag, int firs
   const std::array<int, 2> first = {first_x, first_x + 10};
   const std::array<const char*, 2> names = {x_tag, y_tag};
   PointTable(r, 10, 10, first, names);
-  const int count = ValInt(surface.ObjTag(count_tag));
+  const int count = ValRoundInt(surface.ObjTag(count_tag));
   if (count > 0) PointTable(r, count, 10, first, names);
 }
 
 void FillRecord(Record& r, const Surface& surface, int kind) {
-  const auto nb_pt = [&] { return ValInt(surface.ObjTag("NbPt")); };
+  const auto nb_pt = [&] { return ValRoundInt(surface.ObjTag("NbPt")); };
   switch (kind) {
     case 1:
     case 21:

@@ -29,7 +29,7 @@ LinkWalk::LinkWalk(Surface& surface) {
   CursorKeeper keeper(surface);
   drawing_empty_ = surface.ObjectCount(kAllObjects) == 0;
   for (int n = surface.FirstObject(); n > 0; n = surface.NextObject()) {
-    const int kind = ValInt(surface.ObjTag("iName"));
+    const int kind = ValRoundInt(surface.ObjTag("iName"));
     if (!IsLinkElement(kind)) continue;
     elements_.push_back({n, kind});
     ranks_.try_emplace(surface.ObjTag("libell"), count());

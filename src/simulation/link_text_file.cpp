@@ -34,7 +34,7 @@ LinkTargets TargetsOf(Surface& surface, const LinkElement& element, const LinkWa
   switch (element.kind) {
     case 1:
     case 21:
-      t.upstream = ValLong(surface.ObjTag("sNodAm"));
+      t.upstream = ValRoundLong(surface.ObjTag("sNodAm"));
       break;
     case 2: {
       t.upstream = node("sNodAm");
@@ -43,7 +43,7 @@ LinkTargets TargetsOf(Surface& surface, const LinkElement& element, const LinkWa
       const int start = surface.LinkEndObject(0);
       surface.SetCurrentObject(start);
       if (surface.CurrentObject() == start && start > 0 && surface.ObjTag("iName") == "1") {
-        t.upstream = ValLong(surface.ObjTag("sNodAm"));
+        t.upstream = ValRoundLong(surface.ObjTag("sNodAm"));
       }
       surface.SetCurrentObject(handle);
       break;
@@ -65,7 +65,7 @@ LinkTargets TargetsOf(Surface& surface, const LinkElement& element, const LinkWa
     case 9: {
       t.upstream = node("sNodAm");
       t.ranks[0] = rank("IdAval");
-      const int branches = ValInt(surface.ObjTag("NbDer"));
+      const int branches = ValRoundInt(surface.ObjTag("NbDer"));
       for (int i = 0; i < 3 && i < branches; ++i) t.ranks[i + 1] = rank(kBranchTags[i]);
       break;
     }
@@ -97,7 +97,7 @@ int GenFicLi1(ModelContext& context, const std::string& path) {
     for (const LinkElement& element : walk.elements()) {
       surface.SetCurrentObject(element.number);
       const std::string name = Trim(surface.ObjTag(element.kind == 7 ? "Id" : "libell"));
-      const std::int32_t group = ValLong(surface.ObjTag("iGroup"));
+      const std::int32_t group = ValRoundLong(surface.ObjTag("iGroup"));
       const LinkTargets t = TargetsOf(surface, element, walk, nodes);
       std::string line = PadLong(++rank, 5) + PadText(name, 20, 2) + PadLong(group, 5) +
                          PadLong(LinkKindCode(element.kind), 5) + PadLong(t.upstream, 10) +

@@ -82,7 +82,7 @@ int GenFicNod(ModelContext& context, const std::string& path) {
   file.Line(PadLong(node_count, 10) + PadLong(static_cast<std::int32_t>(catchments.size()), 10));
   for (std::int32_t i = 0; i < node_count; ++i) {
     surface.SetCurrentObject(nodes[i]);
-    file.Line(NodLine(i + 1, ValLong(surface.ObjTag("iLink")), node_points[i], context.YShift,
+    file.Line(NodLine(i + 1, ValRoundLong(surface.ObjTag("iLink")), node_points[i], context.YShift,
                       surface.ObjTag("libell")));
   }
   // The catchments' numbers are part of the drawing from now on: one undo

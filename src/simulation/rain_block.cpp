@@ -38,15 +38,16 @@ bool ExtractRainBlock(UserInterface& ui, const std::string& keyword, const std::
   while (reader.ReadLine(line)) {
     line = Trim(line);
     if (!IsHead(ui, line, keyword, rain_name)) continue;
-    found = true;
     std::vector<std::string> block{line};
-    while (!reader.AtEnd()) {
+    // Once a block was found, a later one of the same name leaves its head line alone.
+    while (!found && !reader.AtEnd()) {
       reader.ReadLine(line);
       line = Trim(line);
       if (reader.AtEnd() || EndsBlock(line)) break;
       block.push_back(line);
     }
     if (!WriteTextLines(destination, block)) throw FileError(errno != 0 ? errno : EACCES);
+    found = true;
   }
   return found;
 }

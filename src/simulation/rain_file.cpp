@@ -70,7 +70,7 @@ void MapCentre(Surface& surface, const Calibration& calibration, double& x, doub
 void WriteGaugeSeries(Surface& surface, int table, int gauge, double y_shift, Lines& out) {
   CursorKeeper keeper(surface);
   surface.SetCurrentObject(table);
-  const std::int32_t rows = ValLong(surface.ObjTag("NbPt"));
+  const std::int32_t rows = ValRoundLong(surface.ObjTag("NbPt"));
   out.push_back(PadLong(rows - 1, 5));
   for (std::int32_t j = 2; j <= rows; ++j) {
     const std::vector<std::string> fields = TabFields(surface.ObjTag("Pt" + std::to_string(j)));
@@ -123,7 +123,7 @@ void WriteRainBlock(int i_pluie, const RainContext& c, Lines& out) {
       break;
     case 107: {
       out.push_back(CentreLine(c));
-      const std::int32_t points = ValLong(s.ObjTag("NbPt"));
+      const std::int32_t points = ValRoundLong(s.ObjTag("NbPt"));
       out.push_back(PadLong(points, 5));
       for (std::int32_t i = 1; i <= points; ++i) {
         const std::string n = std::to_string(i);
@@ -174,8 +174,8 @@ void LocateRainCentre(Surface& surface, const Calibration& calibration, int radi
   CursorKeeper keeper(surface);
   if (FindObject(surface, "iName", radius_kind) > 10) {
     r = Val(surface.ObjTag("Rayon"));
-    const double x_log = ValLong(surface.ObjTag("Xlog"));
-    const double y_log = ValLong(surface.ObjTag("Ylog"));
+    const double x_log = ValRoundLong(surface.ObjTag("Xlog"));
+    const double y_log = ValRoundLong(surface.ObjTag("Ylog"));
     x = LogicToUserX(calibration, x_log, y_log);
     y = LogicToUserY(calibration, x_log, y_log);
     return;
@@ -199,7 +199,7 @@ int GenFicPlu(Surface& surface, UserInterface& ui, const Calibration& calibratio
     ui.ShowMessage("scenario de pluie non trouvé !", "", MessageIcon::kNone);
     return 0;
   }
-  const int i_pluie = ValInt(surface.ObjTag("iPluie"));
+  const int i_pluie = ValRoundInt(surface.ObjTag("iPluie"));
   std::string name = surface.ObjTag("IdPluie");
   const std::string id = surface.ObjTag("Id");
   const std::string design = surface.ObjTag("Design");

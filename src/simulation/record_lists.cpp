@@ -51,7 +51,7 @@ int GenFicBrn(ModelContext& context, const std::string& path) {
   return WriteRecords(surface, path, FindObjectList(surface, "iName", kReachKind), true,
                       [&](ModelTextFile& file) {
                         std::string line = PadText(surface.ObjTag("Id"), 10, 2);
-                        const int count = ValInt(surface.ObjTag("NbColl"));
+                        const int count = ValRoundInt(surface.ObjTag("NbColl"));
                         for (int i = 1; i <= count; ++i) {
                           line += PadText(surface.ObjTag(Numbered("IdColl", i)), 10, 2);
                         }
@@ -63,7 +63,7 @@ int GenFicSec(ModelContext& context, const std::string& path) {
   Surface& surface = context.surface;
   return WriteRecords(surface, path, FindObjectList(surface, "iName", kSectionKind), false,
                       [&](ModelTextFile& file) {
-                        const int count = ValInt(surface.ObjTag("NbPt"));
+                        const int count = ValRoundInt(surface.ObjTag("NbPt"));
                         file.Line("'" + surface.ObjTag("Id") + "'");
                         file.Line(SectionRow(surface, "X", count));
                         file.Line(SectionRow(surface, "Y", count));
@@ -75,7 +75,7 @@ int GenFicApp(ModelContext& context, const std::string& path) {
   const double y_shift = context.YShift;
   return WriteRecords(
       surface, path, FindObjectList(surface, "iName", "4"), false, [&](ModelTextFile& file) {
-        const int count = ValInt(surface.ObjTag("NbPt"));
+        const int count = ValRoundInt(surface.ObjTag("NbPt"));
         file.Line("'" + surface.ObjTag("libell") + "'");
         for (int i = 1; i <= count; ++i) {
           std::string line = FormatFixed(NumberedVal(surface, "X", i), 10, 0) +

@@ -111,3 +111,21 @@ TEST(NumToText, ReadsBackThroughVal) {
 
 }  // namespace
 }  // namespace pluvane
+
+namespace pluvane {
+namespace {
+
+TEST(ValRoundLong, ATagsNumberIsRoundedHalfToEven) {
+  EXPECT_EQ(ValRoundLong("3.5"), 4);
+  EXPECT_EQ(ValRoundLong("2.5"), 2);
+  EXPECT_EQ(ValRoundLong("-2.5"), -2);
+  EXPECT_EQ(ValRoundLong("2.51"), 3);
+  EXPECT_EQ(ValRoundLong("abc"), 0);
+  EXPECT_EQ(ValRoundLong("1E12"), 2147483647);
+  EXPECT_EQ(ValRoundInt("0.5"), 0);
+  EXPECT_EQ(ValRoundInt("1.5"), 2);
+  EXPECT_EQ(ValRoundInt("40000"), 32767);
+}
+
+}  // namespace
+}  // namespace pluvane

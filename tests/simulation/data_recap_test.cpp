@@ -153,6 +153,32 @@ TEST_F(DataRecapTest, ADesignStormTellsItsPlace) {
   EXPECT_TRUE(Has(lines, "Rayon d'action (m) = 1500"));
 }
 
+TEST_F(DataRecapTest, TheRainIsFoundWhateverTheCaseAndBlanksOfItsName) {
+  Scenario(104, " caquot10 ");
+  AddHiddenRecord(surface, state);
+  surface.SetObjTag("iName", 104);
+  surface.SetObjTag("Id", "Caquot10");
+  surface.SetObjTag("Design", "Décennale");
+  const std::vector<std::string> lines = Report();
+  EXPECT_EQ(lines[3], "Pluie Caquot Décennale (Caquot10)");
+}
+
+TEST_F(DataRecapTest, EachReachEndsWithAnEmptyLine) {
+  for (const char* reach : {"1", "2"}) {
+    AddHiddenRecord(surface, state);
+    surface.SetObjTag("iName", 100);
+    surface.SetObjTag("Id", reach);
+    surface.SetObjTag("NbColl", "1");
+    surface.SetObjTag("IdColl1", std::string("Cac_") + reach);
+  }
+  const std::vector<std::string> lines = Report();
+  const std::vector<std::string> tail(lines.end() - 8, lines.end());
+  EXPECT_EQ(tail, (std::vector<std::string>{"BIEFS DE COLLECTEUR : 2", "", "\t* Bief 1",
+                                            "\t  Cac_1", "", "\t* Bief 2", "\t  Cac_2", ""}));
+  // The file itself ends with the empty line after the last reach.
+  EXPECT_TRUE(ReadBytes(folder.File("Crue10_Quartier.Txt")).ends_with("\t  Cac_2\r\n\r\n"));
+}
+
 TEST_F(DataRecapTest, NoScenarioMeansNoReport) {
   state.ScenarioName.clear();
   EXPECT_EQ(WriteDataRecap(surface, state, ui), "");

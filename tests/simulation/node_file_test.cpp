@@ -29,6 +29,17 @@ TEST_F(NodeFile, WithoutCatchmentsTheSecondCountIsZero) {
   EXPECT_EQ(count, 2);
 }
 
+TEST_F(NodeFile, TheLinkNumberIsRoundedHalfToEven) {
+  Set(Node(1000, 1000), {{"libell", "A"}, {"iLink", "3.5"}});
+  Set(Node(2000, 500), {{"libell", "B"}, {"iLink", "2.5"}});
+  Set(Node(3000, 500), {{"libell", "C"}, {"iLink", "2.6"}});
+  EXPECT_EQ(Generate(),
+            "         3         0\r\n"
+            "         1         4     1000.     9000.                   A\r\n"
+            "         2         2     2000.     9500.                   B\r\n"
+            "         3         3     3000.     9500.                   C\r\n");
+}
+
 TEST_F(NodeFile, AnEmptyLabelEndsTheLineWithOneBlankAtColumn41) {
   Set(Node(1000, 1000), {{"libell", "   "}});
   const std::string nod = Generate();

@@ -355,6 +355,14 @@ TEST_F(ExternalRainTest, LaterBlockOfTheSameNameReplacesTheFirst) {
   EXPECT_EQ(ReadBytes(out), "PR 'Ev1'\r\n");
 }
 
+TEST_F(ExternalRainTest, LaterBlockOfTheSameNameLeavesItsHeadLineAlone) {
+  const std::string source =
+      Source("PR 'Ev1'\r\n1\r\n2\r\nPPHY 'h'\r\n5\r\nPR 'Ev1'\r\n6\r\n7\r\n8\r\nPR 'x'\r\n");
+  const std::string out = folder_.File("out.PLU");
+  EXPECT_TRUE(ExtractRainBlock(ui_, "PR", source, out, "Ev1"));
+  EXPECT_EQ(ReadBytes(out), "PR 'Ev1'\r\n");
+}
+
 TEST_F(ExternalRainTest, HeadThatEndsAFoundBlockIsNeverTested) {
   const std::string source = Source("PR 'Ev1'\r\n1\r\nPR 'Ev1'\r\n2\r\n3\r\n");
   const std::string out = folder_.File("out.PLU");
