@@ -3,6 +3,8 @@
 #include <functional>
 #include <map>
 
+#include "editors/frm_bv.h"
+
 namespace pluvane {
 
 namespace {
@@ -17,6 +19,7 @@ Maker Make() {
 const std::map<std::string, Maker>& Editors() {
   // One line per form, in the order of the element kinds.
   static const std::map<std::string, Maker> kEditors = {
+      {"frmBV", Make<FrmBV>()},
   };
   return kEditors;
 }
