@@ -4,6 +4,14 @@
 #include <map>
 
 #include "editors/frm_bv.h"
+#include "editors/frm_clav.h"
+#include "editors/frm_hy.h"
+#include "editors/frm_hy_bv.h"
+#include "editors/frm_mark.h"
+#include "editors/frm_rout.h"
+#include "editors/frm_rs.h"
+#include "editors/frm_rsp.h"
+#include "editors/frm_trans.h"
 
 namespace pluvane {
 
@@ -20,6 +28,14 @@ const std::map<std::string, Maker>& Editors() {
   // One line per form, in the order of the element kinds.
   static const std::map<std::string, Maker> kEditors = {
       {"frmBV", Make<FrmBV>()},
+      {"frmRout", Make<FrmRout>()},
+      {"frmHyBv", Make<FrmHyBv>()},
+      {"frmHy", Make<FrmHy>()},
+      {"frmRs", Make<FrmRs>()},
+      {"frmRsp", Make<FrmRsp>()},
+      {"frmTrans", Make<FrmTrans>()},
+      {"frmClav", Make<FrmClav>()},
+      {"frmMark", Make<FrmMark>()},
   };
   return kEditors;
 }
