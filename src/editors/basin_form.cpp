@@ -18,7 +18,7 @@ BasinForm::BasinForm(EditorContext& context, std::string caption, std::vector<Ta
       z0_row_(z0_row) {
   {
     CursorKeeper keeper(context_.surface);
-    const int node = NodeUnder(context_.surface, element_);
+    const int node = NodeUnder(context_.surface, Element());
     if (node > 0) links_ = DownstreamCollectors(context_.surface, node);
   }
   std::string list;
@@ -27,9 +27,12 @@ BasinForm::BasinForm(EditorContext& context, std::string caption, std::vector<Ta
     if (!list.empty()) list += '\t';
     list += labels_.back();
   }
-  spread1_.SetType(kValueCol, kRowAval, CellType::List(list));
-  spread1_.SetType(kValueCol, kRowSurv, CellType::List(list));
-  LoadRows();
+  for (int row : {kRowAval, kRowSurv}) {
+    // The text again, so that the list selects its entry.
+    const std::string chosen = grid().Text(kValueCol, row);
+    grid().SetType(kValueCol, row, CellType::List(list));
+    grid().SetText(kValueCol, row, chosen);
+  }
   int count = ValLong(Tag("NbPt"));
   if (count > kPointLimit) {
     Tell("Attention la courbe de remplissage du bassin est limitée à 10 points");
@@ -38,20 +41,20 @@ BasinForm::BasinForm(EditorContext& context, std::string caption, std::vector<Ta
   LoadPoints(std::max(count, 0));
 }
 
-void BasinForm::ClickCell(Grid& grid, int col, int row) {
-  PointForm::ClickCell(grid, col, row);
-  if (&grid == &spread1_ && col == kValueCol && (row == kRowAval || row == kRowSurv)) {
-    Highlight(grid.Text(col, row));
+void BasinForm::ClickCell(Grid& g, int col, int row) {
+  PointForm::ClickCell(g, col, row);
+  if (&g == &grid() && col == kValueCol && (row == kRowAval || row == kRowSurv)) {
+    Highlight(g.Text(col, row));
   }
 }
 
-void BasinForm::ListCloseUp(Grid& grid, int col, int row) {
-  if (&grid != &spread1_ || col != kValueCol) return;
+void BasinForm::ListCloseUp(Grid& g, int col, int row) {
+  if (&g != &grid() || col != kValueCol) return;
   if (row != kRowAval && row != kRowSurv) return;
-  const std::string chosen = grid.Text(col, row);
+  const std::string chosen = g.Text(col, row);
   if (Trim(chosen).empty()) return;
   const int other = row == kRowAval ? kRowSurv : kRowAval;
-  if (EqualsNoCase(grid.Text(col, other), chosen)) grid.SetText(col, other, "");
+  if (EqualsNoCase(g.Text(col, other), chosen)) g.SetText(col, other, "");
   Highlight(chosen);
 }
 
@@ -72,15 +75,15 @@ void BasinForm::cmdOk() {
   }
   const int n = spread2_.MaxRows();
   const double z1 = spread2_.Value(1, 1), zn = spread2_.Value(1, n);
-  const double z0 = spread1_.Value(kValueCol, z0_row_);
+  const double z0 = grid().Value(kValueCol, z0_row_);
   if (z0 < z1 || z0 > zn) {
     Tell(LevelMessage(z1, zn, n));
-    spread1_.SetActiveCell(kValueCol, z0_row_);
+    grid().SetActiveCell(kValueCol, z0_row_);
     return;
   }
-  if (!LabelAccepted()) return;
-  StoreRows(1, static_cast<int>(rows_.size()));
-  ClearPoints(ValLong(Tag("NbPt")));
+  const int former = ValLong(Tag("NbPt"));
+  if (!StoreRows()) return;
+  ClearPoints(former);
   StorePoints();
   Close();
 }

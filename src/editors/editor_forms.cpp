@@ -4,6 +4,9 @@
 #include <map>
 
 #include "editors/frm_bv.h"
+#include "editors/frm_cac.h"
+#include "editors/frm_caf.h"
+#include "editors/frm_cao.h"
 #include "editors/frm_clav.h"
 #include "editors/frm_hy.h"
 #include "editors/frm_hy_bv.h"
@@ -11,6 +14,7 @@
 #include "editors/frm_rout.h"
 #include "editors/frm_rs.h"
 #include "editors/frm_rsp.h"
+#include "editors/frm_sect.h"
 #include "editors/frm_trans.h"
 
 namespace pluvane {
@@ -31,11 +35,16 @@ const std::map<std::string, Maker>& Editors() {
       {"frmRout", Make<FrmRout>()},
       {"frmHyBv", Make<FrmHyBv>()},
       {"frmHy", Make<FrmHy>()},
+      {"frmCac", Make<FrmCac>()},
+      {"frmCaf", Make<FrmCaf>()},
+      {"frmCao", Make<FrmCao>()},
       {"frmRs", Make<FrmRs>()},
       {"frmRsp", Make<FrmRsp>()},
       {"frmTrans", Make<FrmTrans>()},
       {"frmClav", Make<FrmClav>()},
       {"frmMark", Make<FrmMark>()},
+      // The section library, opened from the Option menu.
+      {"frmSect", Make<FrmSect>()},
   };
   return kEditors;
 }

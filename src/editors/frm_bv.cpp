@@ -3,6 +3,8 @@
 #include <array>
 #include <string_view>
 
+#include "drawing/surface_helpers.h"
+#include "editors/element_tags.h"
 #include "foundation/numbers.h"
 #include "foundation/text.h"
 
@@ -10,7 +12,6 @@ namespace pluvane {
 
 namespace {
 
-constexpr const char* kInputError = "Erreur de saisie";
 // The smallest surface, length and slope that count as given.
 constexpr double kSmallest = 0.00001;
 
@@ -101,50 +102,64 @@ std::vector<TagRow> BvRows() {
 }  // namespace
 
 FrmBV::FrmBV(EditorContext& context)
-    : ElementForm(context, "BV du complexe hydrologique", BvRows()),
-      grey_(spread1_.BackColour(kLabelCol, kRowK)) {
-  for (int row = kRowLabel; row <= kRowCi; ++row) {
-    spread1_.SetText(kValueCol, row, Tag(rows_[static_cast<std::size_t>(row - 1)].tag));
-  }
+    : TagGridForm(context, "BV du complexe hydrologique", BvRows()),
+      grey_(grid().BackColour(kLabelCol, kRowK)) {
   const int production = NumberOf(Tag("Fpluie"));
-  spread1_.SetListIndex(kValueCol, kRowFpluie, ProductionOf(production) ? production - 1 : -1);
+  grid().SetListIndex(kValueCol, kRowFpluie, ProductionOf(production) ? production - 1 : -1);
   FpluieDisplay(production);
   // The element's own values win over the remembered ones.
-  spread1_.SetText(kValueCol, kRowFpluie1, Tag("Fpluie1"));
-  if (production != 1) spread1_.SetText(kValueCol, kRowFpluie2, Tag("Fpluie2"));
-  if (production == 3) spread1_.SetText(kValueCol, kRowFpluie3, Tag("Fpluie3"));
+  ShowTag(kRowFpluie1, "Fpluie1");
+  if (production != 1) ShowTag(kRowFpluie2, "Fpluie2");
+  if (production == 3) ShowTag(kRowFpluie3, "Fpluie3");
 
   const int transfer = NumberOf(Tag("Fruissel"));
   const bool listed = transfer >= 1 && transfer <= static_cast<int>(kTransfers.size());
-  spread1_.SetListIndex(kValueCol, kRowFruissel, listed ? transfer - 1 : -1);
-  spread1_.SetText(kValueCol, kRowK, Tag("K"));
+  grid().SetListIndex(kValueCol, kRowFruissel, listed ? transfer - 1 : -1);
+  ShowTag(kRowK, "K");
   if (const ImposedTime* time = ImposedTimeOf(transfer)) {
-    spread1_.SetText(kLabelCol, kRowK, time->label);
+    grid().SetText(kLabelCol, kRowK, time->label);
     Unlock(kRowK);
   } else {
     Lock(kRowK);
   }
-  spread1_.SetActiveCell(kValueCol, kRowS);
 }
 
-int FrmBV::FunctionOf(int row) const { return NumberOf(spread1_.Text(kValueCol, row)); }
+int FrmBV::FunctionOf(int row) { return NumberOf(grid().Text(kValueCol, row)); }
+
+std::string FrmBV::Tag(std::string_view name) const {
+  return TagOfObject(context_.surface, Element(), name);
+}
+
+void FrmBV::SetTag(std::string_view name, std::string_view value) {
+  SetTagOfObject(context_.surface, Element(), name, value);
+}
+
+std::string FrmBV::NumberOfRow(int row) {
+  return grid().IsBlank(kValueCol, row) ? "" : NumToText(grid().Value(kValueCol, row));
+}
+
+void FrmBV::ShowTag(int row, std::string_view name) {
+  const std::string value = Tag(name);
+  const int decimals = grid().Type(kValueCol, row).decimals;
+  grid().SetText(kValueCol, row, Trim(value).empty() ? "" : CellNumber(Val(value), decimals));
+}
 
 void FrmBV::Lock(int row) {
-  spread1_.SetBackColour(kValueCol, row, grey_);
-  spread1_.SetForeColour(kValueCol, row, grey_);
-  spread1_.SetLocked(kValueCol, row, true);
+  grid().SetBackColour(kValueCol, row, grey_);
+  grid().SetForeColour(kValueCol, row, grey_);
+  grid().SetLocked(kValueCol, row, true);
 }
 
 void FrmBV::Unlock(int row) {
-  spread1_.SetBackColour(kValueCol, row, kWhite);
-  spread1_.SetForeColour(kValueCol, row, kBlack);
-  spread1_.SetLocked(kValueCol, row, false);
+  grid().SetBackColour(kValueCol, row, kWhite);
+  grid().SetForeColour(kValueCol, row, kBlack);
+  grid().SetLocked(kValueCol, row, false);
 }
 
 void FrmBV::pReinitRow7_9() {
   for (int row = kRowFpluie1; row <= kRowFpluie3; ++row) {
-    spread1_.SetText(kLabelCol, row, "");
-    spread1_.SetText(kValueCol, row, "");
+    grid().SetText(kLabelCol, row, "");
+    grid().SetText(kValueCol, row, "");
     Unlock(row);
   }
 }
@@ -160,8 +175,8 @@ void FrmBV::FpluieDisplay(int number) {
       Lock(row);
       continue;
     }
-    spread1_.SetText(kLabelCol, row, production->labels[static_cast<std::size_t>(i)]);
-    spread1_.SetText(kValueCol, row, Tag(tag));
+    grid().SetText(kLabelCol, row, production->labels[static_cast<std::size_t>(i)]);
+    ShowTag(row, tag);
   }
 }
 
@@ -170,39 +185,37 @@ void FrmBV::FpluieSave(int number) {
   if (!production) return;
   for (int i = 0; i < 3; ++i) {
     const std::string_view tag = production->tags[static_cast<std::size_t>(i)];
-    if (!tag.empty()) SetTag(tag, spread1_.Text(kValueCol, kRowFpluie1 + i));
+    if (!tag.empty()) SetTag(tag, NumberOfRow(kRowFpluie1 + i));
   }
 }
 
 void FrmBV::FruisselDisplay(int number) {
   const ImposedTime* time = ImposedTimeOf(number);
   if (!time) {
-    spread1_.SetText(kLabelCol, kRowK, "");
-    spread1_.SetText(kValueCol, kRowK, "");
+    grid().SetText(kLabelCol, kRowK, "");
+    grid().SetText(kValueCol, kRowK, "");
     Lock(kRowK);
     return;
   }
-  spread1_.SetText(kLabelCol, kRowK, time->label);
-  spread1_.SetText(kValueCol, kRowK, Tag(time->tag));
+  grid().SetText(kLabelCol, kRowK, time->label);
+  ShowTag(kRowK, time->tag);
   Unlock(kRowK);
 }
 
 void FrmBV::FruisselSave(int number) {
   if (const ImposedTime* time = ImposedTimeOf(number)) {
-    SetTag(time->tag, spread1_.Text(kValueCol, kRowK));
+    SetTag(time->tag, NumberOfRow(kRowK));
   }
 }
 
-void FrmBV::ListDropDown(Grid& grid, int col, int row) {
-  if (&grid != &spread1_ || col != kValueCol) return;
-  if (spread1_.Text(col, row).empty()) return;
+void FrmBV::ListDropDown(Grid& g, int col, int row) {
+  if (&g != &grid() || col != kValueCol || g.Text(col, row).empty()) return;
   if (row == kRowFpluie) FpluieSave(FunctionOf(row));
   if (row == kRowFruissel) FruisselSave(FunctionOf(row));
 }
 
-void FrmBV::ListCloseUp(Grid& grid, int col, int row) {
-  if (&grid != &spread1_ || col != kValueCol) return;
-  if (spread1_.Text(col, row).empty()) return;
+void FrmBV::ListCloseUp(Grid& g, int col, int row) {
+  if (&g != &grid() || col != kValueCol || g.Text(col, row).empty()) return;
   if (row == kRowFpluie) FpluieDisplay(FunctionOf(row));
   if (row == kRowFruissel) FruisselDisplay(FunctionOf(row));
 }
@@ -218,13 +231,11 @@ void FrmBV::cmdOk() {
       {kRowSlope, "La pente du BV doit être non nulle!"},
   }};
   for (const Required& required : kRequired) {
-    if (spread1_.Value(kValueCol, required.row) >= kSmallest) continue;
-    context_.ui.ShowMessage(required.message, kInputError, MessageIcon::kInformation);
-    spread1_.SetActiveCell(kValueCol, required.row);
+    if (grid().Value(kValueCol, required.row) >= kSmallest) continue;
+    Refuse(required.row, required.message);
     return;
   }
-  if (!LabelAccepted()) return;
-  StoreRows(kRowLabel, kRowK);
+  if (!StoreRows()) return;
   // Parameters past the function's count are not kept on the element.
   const int production = NumberOf(Tag("Fpluie"));
   if (production == 1) SetTag("Fpluie2", "");

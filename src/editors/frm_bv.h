@@ -8,12 +8,13 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 
-#include "editors/element_form.h"
+#include "editors/tag_grid_form.h"
 
 namespace pluvane {
 
-class FrmBV : public ElementForm {
+class FrmBV : public TagGridForm {
  public:
   // Rows of the grid.
   static constexpr int kRowLabel = 1;
@@ -58,7 +59,14 @@ class FrmBV : public ElementForm {
 
  private:
   // The function number of a list cell: its first character.
-  int FunctionOf(int row) const;
+  int FunctionOf(int row);
+  // A tag of the catchment, and writing one at once.
+  std::string Tag(std::string_view name) const;
+  void SetTag(std::string_view name, std::string_view value);
+  // Shows a tag in a parameter row as its cell shows numbers, blank when empty.
+  void ShowTag(int row, std::string_view name);
+  // The number of a parameter row as a tag keeps it, blank when the cell is.
+  std::string NumberOfRow(int row);
   void Lock(int row);
   void Unlock(int row);
 

@@ -2,11 +2,11 @@
 // leaves the network there is exported.
 #pragma once
 
-#include "editors/element_form.h"
+#include "editors/tag_grid_form.h"
 
 namespace pluvane {
 
-class FrmClav : public ElementForm {
+class FrmClav : public TagGridForm {
  public:
   explicit FrmClav(EditorContext& context);
 };

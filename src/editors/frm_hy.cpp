@@ -19,14 +19,12 @@ FrmHy::FrmHy(EditorContext& context)
                     {"Y", "Débit (m3/s)", CellType::Float(-9999999999.999, 9999999999.999, 3)},
                 },
                 kPointLimit, {"", " hydrogramme d'apport ", "HY"}) {
-  LoadRows();
   LoadPoints(std::clamp(static_cast<int>(ValLong(Tag("NbPt"))), 0, kPointLimit));
 }
 
 void FrmHy::cmdOk() {
   if (!TableAccepted("Les temps doivent être croissants !")) return;
-  if (!LabelAccepted()) return;
-  StoreRows(1, 3);
+  if (!StoreRows()) return;
   StorePoints();
   Close();
 }

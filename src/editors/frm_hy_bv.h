@@ -2,11 +2,11 @@
 // free surface of the network upstream.
 #pragma once
 
-#include "editors/element_form.h"
+#include "editors/tag_grid_form.h"
 
 namespace pluvane {
 
-class FrmHyBv : public ElementForm {
+class FrmHyBv : public TagGridForm {
  public:
   explicit FrmHyBv(EditorContext& context);
 };

@@ -3,12 +3,10 @@
 namespace pluvane {
 
 FrmMark::FrmMark(EditorContext& context)
-    : ElementForm(context, "Marquage de sortie du résultat",
+    : TagGridForm(context, "Marquage de sortie du résultat",
                   {
       {"libell", "Identificateur (16 car. maxi)=", CellType::Text()},
       {"Export", "Export de l'hydrogramme=", CellType::CheckBox()},
-                  }) {
-  LoadRows();
-}
+                  }) {}
 
 }  // namespace pluvane

@@ -2,11 +2,11 @@
 // exported.
 #pragma once
 
-#include "editors/element_form.h"
+#include "editors/tag_grid_form.h"
 
 namespace pluvane {
 
-class FrmMark : public ElementForm {
+class FrmMark : public TagGridForm {
  public:
   explicit FrmMark(EditorContext& context);
 };

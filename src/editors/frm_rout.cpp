@@ -3,14 +3,12 @@
 namespace pluvane {
 
 FrmRout::FrmRout(EditorContext& context)
-    : ElementForm(context, "Routage hydrologique",
+    : TagGridForm(context, "Routage hydrologique",
                   {
       {"libell", "Identificateur (16 car maxi)=", CellType::Text()},
       {"S", "Section moyenne du collecteur (m2)=", CellType::Float(0, 99999999.99, 2)},
       {"L", "Longueur de routage (m)=", CellType::Float(0, 99999999.99, 2)},
       {"m", "Pente moyenne du collecteur (-)=", CellType::Float(-9.99999, 9.99999, 5)},
-                  }) {
-  LoadRows();
-}
+                  }) {}
 
 }  // namespace pluvane

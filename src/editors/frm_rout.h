@@ -2,11 +2,11 @@
 // slope of the collector that the hydrograph is routed along.
 #pragma once
 
-#include "editors/element_form.h"
+#include "editors/tag_grid_form.h"
 
 namespace pluvane {
 
-class FrmRout : public ElementForm {
+class FrmRout : public TagGridForm {
  public:
   explicit FrmRout(EditorContext& context);
 };

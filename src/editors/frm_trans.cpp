@@ -2,23 +2,22 @@
 
 #include <string>
 
+#include "editors/element_tags.h"
+
 namespace pluvane {
 
 FrmTrans::FrmTrans(EditorContext& context)
-    : ElementForm(context, "Translateur d'hydrogramme",
-                  {{"libell", "Identificateur (16 car. maxi)=", CellType::Text()}}) {
-  LoadRows();
-}
+    : TagGridForm(context, "Translateur d'hydrogramme",
+                  {{"libell", "Identificateur (16 car. maxi)=", CellType::Text()}}) {}
 
 void FrmTrans::cmdOk() {
-  const std::string label = spread1_.Text(kValueCol, 1);
-  if (!LabelAccepted()) {
-    SetTag("libell", label);
-    SetTag("Id", old_label_);
+  const std::string label = grid().Text(kValueCol, kLabelRow);
+  if (StoreRows()) {
+    Close();
     return;
   }
-  StoreRows(1, 1);
-  Close();
+  SetTagOfObject(context_.surface, Element(), "libell", label);
+  SetTagOfObject(context_.surface, Element(), "Id", OldLabel());
 }
 
 }  // namespace pluvane

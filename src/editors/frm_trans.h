@@ -4,11 +4,11 @@
 // the tag Id, while libell keeps the refused one.
 #pragma once
 
-#include "editors/element_form.h"
+#include "editors/tag_grid_form.h"
 
 namespace pluvane {
 
-class FrmTrans : public ElementForm {
+class FrmTrans : public TagGridForm {
  public:
   explicit FrmTrans(EditorContext& context);
 

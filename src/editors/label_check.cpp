@@ -1,30 +1,25 @@
 #include "editors/label_check.h"
 
-#include "drawing/surface_guards.h"
 #include "drawing/surface_helpers.h"
 #include "foundation/numbers.h"
-#include "foundation/text.h"
 
 namespace pluvane {
 
-int LabelCount(Surface& surface, int i_name, int element, std::string_view label) {
-  int count = CountLabel(surface, i_name, label);
-  // The element is counted as holding the label, whatever it holds now.
-  if (!EqualsNoCase(TagOfObject(surface, element, "libell"), label) ||
-      ValInt(TagOfObject(surface, element, "iName")) != i_name) {
-    ++count;
-  }
-  return count;
+int LabelCount(Surface& surface, int i_name, std::string_view label) {
+  return CountLabel(surface, i_name, label);
 }
 
-std::string LabelTakenMessage(std::string_view label) {
+std::string DuplicateLabelMessage(std::string_view label) {
   return std::string(label) + " existe déjà.";
 }
 
-bool CheckLabel(Surface& surface, UserInterface& ui, int element, std::string_view label) {
-  const int i_name = ValInt(TagOfObject(surface, element, "iName"));
-  if (LabelCount(surface, i_name, element, label) < 2) return true;
-  ui.ShowMessage(LabelTakenMessage(label), kLabelCheckTitle, MessageIcon::kInformation);
+bool WriteUniqueLabel(Surface& surface, UserInterface& ui, const std::string& label,
+                      const std::string& old_label) {
+  surface.SetObjTag("libell", label);
+  const int i_name = ValInt(surface.ObjTag("iName"));
+  if (!IsDuplicateLabel(LabelCount(surface, i_name, label))) return true;
+  surface.SetObjTag("libell", old_label);
+  ui.ShowMessage(DuplicateLabelMessage(label), kInputErrorTitle, MessageIcon::kNone);
   return false;
 }
 

@@ -1,5 +1,7 @@
-// The rule that a label (tag libell) names one element only among those of
-// its kind, as every element editor checks it before it stores a new label.
+// The rule that keeps the user's labels apart: no two elements of one kind
+// (iName) may share a libell, compared without regard to case. An editor
+// writes the new label first and counts: the element itself counts once, so
+// two or more is a duplicate, which is refused with the old label put back.
 #pragma once
 
 #include <string>
@@ -10,21 +12,23 @@
 
 namespace pluvane {
 
-// The title of the message of a label already taken.
-inline constexpr const char* kLabelCheckTitle = "Erreur de saisie";
+inline constexpr const char* kInputErrorTitle = "Erreur de saisie";
 
-// How many elements of the kind `i_name` (from the fifth object of the
-// surface on) would hold `label`, compared without regard to case, once the
-// object `element` holds it: the element counts once whatever its label now.
-// The cursor is kept.
-int LabelCount(Surface& surface, int i_name, int element, std::string_view label);
+// How many elements of kind `i_name` have `label` as libell, case-blind, over
+// the whole drawing.
+int LabelCount(Surface& surface, int i_name, std::string_view label);
 
-// True when the object `element` may take `label` within its kind (its tag
-// iName); otherwise the message "<label> existe déjà." titled "Erreur de
-// saisie" is shown and the result is false. Nothing is written.
-bool CheckLabel(Surface& surface, UserInterface& ui, int element, std::string_view label);
+// True when `count` elements with one label make a duplicate.
+inline bool IsDuplicateLabel(int count) { return count >= 2; }
 
-// The message of a label already taken.
-std::string LabelTakenMessage(std::string_view label);
+// The message of a duplicate: the label and " existe déjà.", titled
+// "Erreur de saisie".
+std::string DuplicateLabelMessage(std::string_view label);
+
+// Writes `label` to the current object's libell and checks it against the
+// other elements of the object's kind. On a duplicate the message is shown,
+// `old_label` goes back into libell, and the result is false.
+bool WriteUniqueLabel(Surface& surface, UserInterface& ui, const std::string& label,
+                      const std::string& old_label);
 
 }  // namespace pluvane

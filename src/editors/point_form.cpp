@@ -4,6 +4,8 @@
 #include <filesystem>
 #include <utility>
 
+#include "drawing/surface_helpers.h"
+#include "editors/element_tags.h"
 #include "foundation/grid_rows.h"
 #include "foundation/numbers.h"
 #include "foundation/paths.h"
@@ -30,7 +32,7 @@ bool CheckColumn(Grid& grid, int col, int& row) {
 
 PointForm::PointForm(EditorContext& context, std::string caption, std::vector<TagRow> rows,
                      std::vector<PointColumn> columns, int limit, Plot plot)
-    : ElementForm(context, std::move(caption), std::move(rows)),
+    : TagGridForm(context, std::move(caption), std::move(rows)),
       spread2_(static_cast<int>(columns.size()), 0),
       columns_(std::move(columns)),
       limit_(limit),
@@ -43,11 +45,21 @@ PointForm::PointForm(EditorContext& context, std::string caption, std::vector<Ta
   }
 }
 
-std::vector<FormCommand> PointForm::MoreCommands() {
-  return {{"cmdAddLine", "&Ajouter une ligne", [this] { cmdAddLine(); }},
-          {"cmdInsLine", "&Insérer une ligne", [this] { cmdInsLine(); }},
-          {"cmdDelLine", "&Supprimer une ligne", [this] { cmdDelLine(); }},
-          {"cmdVisu", "&Visu", [this] { cmdVisu(); }}};
+std::vector<FormCommand> PointForm::Commands() {
+  std::vector<FormCommand> commands = TagGridForm::Commands();
+  commands.push_back({"cmdAddLine", "&Ajouter une ligne", [this] { cmdAddLine(); }});
+  commands.push_back({"cmdInsLine", "&Insérer une ligne", [this] { cmdInsLine(); }});
+  commands.push_back({"cmdDelLine", "&Supprimer une ligne", [this] { cmdDelLine(); }});
+  commands.push_back({"cmdVisu", "&Visu", [this] { cmdVisu(); }});
+  return commands;
+}
+
+std::string PointForm::Tag(std::string_view name) const {
+  return TagOfObject(context_.surface, Element(), name);
+}
+
+void PointForm::SetTag(std::string_view name, std::string_view value) {
+  SetTagOfObject(context_.surface, Element(), name, value);
 }
 
 void PointForm::cmdAddLine() { SSAddRow(spread2_); }

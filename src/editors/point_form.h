@@ -6,9 +6,10 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
-#include "editors/element_form.h"
+#include "editors/tag_grid_form.h"
 
 namespace pluvane {
 
@@ -25,7 +26,7 @@ struct PointColumn {
 // result is false.
 bool CheckColumn(Grid& grid, int col, int& row);
 
-class PointForm : public ElementForm {
+class PointForm : public TagGridForm {
  public:
   // What the table is shown as in the plot viewer.
   // What the table is shown as in the plot viewer: the page title is the
@@ -39,7 +40,9 @@ class PointForm : public ElementForm {
   PointForm(EditorContext& context, std::string caption, std::vector<TagRow> rows,
             std::vector<PointColumn> columns, int limit, Plot plot);
 
-  std::vector<Grid*> Grids() override { return {&spread1_, &spread2_}; }
+  std::vector<Grid*> Grids() override { return {&grid(), &spread2_}; }
+  // cmdOk, cmdAnnul, then the table's commands.
+  std::vector<FormCommand> Commands() override;
 
   Grid& spread2() { return spread2_; }
   int Limit() const { return limit_; }
@@ -54,7 +57,9 @@ class PointForm : public ElementForm {
   void cmdVisu();
 
  protected:
-  std::vector<FormCommand> MoreCommands() override;
+  // A tag of the element, and writing one.
+  std::string Tag(std::string_view name) const;
+  void SetTag(std::string_view name, std::string_view value);
   // Fills the table with the stored points, the first `count` of them.
   void LoadPoints(int count);
   // The checks every table passes at Ok: at least 2 rows ("Il faut au moins 2

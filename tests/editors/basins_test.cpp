@@ -2,7 +2,7 @@
 // (frmHy): their rows, their tables of points and the checks of Ok.
 #include <gtest/gtest.h>
 
-#include "editor_fixture.h"
+#include "element_fixture.h"
 #include "editors/editor_forms.h"
 #include "editors/frm_hy.h"
 #include "editors/frm_rs.h"
@@ -18,7 +18,7 @@ namespace {
 
 constexpr int kValue = 2;
 
-class Basins : public EditorTest {
+class Basins : public ElementEditorTest {
  protected:
   Basins() {
     n1 = Node(1000, 1000);
@@ -82,7 +82,7 @@ TEST_F(Basins, ABasinOffersTheLinksLeavingItsNode) {
   const int rs = Symbol("X_RS", 0, 0, n1);
   Set(rs, {{"IdAval", "Fosse"}});
   auto form = Open<FrmRs>(rs);
-  Grid& g = form->spread1();
+  Grid& g = form->grid();
   ASSERT_EQ(g.MaxRows(), 5);
   EXPECT_EQ(g.Text(1, 1), "Identificateur (16 car maxi)=");
   EXPECT_EQ(g.Text(1, 2), "Id. de la restitution aval=");
@@ -108,7 +108,7 @@ TEST_F(Basins, ClickingALinkRowHighlightsTheLink) {
   const int rs = Symbol("X_RS", 0, 0, n1);
   Set(rs, {{"IdAval", "Fosse"}});
   auto form = Open<FrmRs>(rs);
-  form->ClickCell(form->spread1(), kValue, 2);
+  form->ClickCell(form->grid(), kValue, 2);
   EXPECT_EQ(ui.Statuses().back(), "Fosse");
   EXPECT_EQ(SelectedObjects(surface), std::vector<int>{out2});
   EXPECT_EQ(surface.CurrentObject(), rs);
@@ -117,7 +117,7 @@ TEST_F(Basins, ClickingALinkRowHighlightsTheLink) {
 TEST_F(Basins, ChoosingTheSameLinkInBothRowsEmptiesTheOther) {
   const int rs = Symbol("X_RSP", 0, 0, n1);
   auto form = Open<FrmRsp>(rs);
-  Grid& g = form->spread1();
+  Grid& g = form->grid();
   Choose(*form, g, kValue, 2, 0);
   Choose(*form, g, kValue, 3, 1);
   EXPECT_EQ(g.Text(kValue, 2), "Cac_1");
@@ -145,7 +145,7 @@ TEST_F(Basins, ElevenStoredPointsWarnOnceAndShowTen) {
   EXPECT_EQ(t.Text(1, 10), "110");
   EXPECT_EQ(t.Text(2, 10), "100");
   // Ok keeps the ten: the eleventh is lost.
-  form->spread1().SetText(kValue, 5, "105");
+  form->grid().SetText(kValue, 5, "105");
   form->Run("cmdOk");
   ASSERT_TRUE(form->Closed());
   EXPECT_EQ(TagOf(rs, "NbPt"), "10");
@@ -158,12 +158,12 @@ TEST_F(Basins, EqualLevelsPassAndTheInitialLevelMayBeEitherEnd) {
   const int rs = Symbol("X_RS", 0, 0, n1);
   auto form = Open<FrmRs>(rs);
   Fill(form->spread2(), {{"100", "10"}, {"100", "20"}, {"102.5", "40"}});
-  form->spread1().SetText(kValue, 5, "100");
+  form->grid().SetText(kValue, 5, "100");
   form->Run("cmdOk");
   EXPECT_TRUE(form->Closed());
   EXPECT_TRUE(ui.Empty());
   auto again = Open<FrmRs>(rs);
-  again->spread1().SetText(kValue, 5, "102.5");
+  again->grid().SetText(kValue, 5, "102.5");
   again->Run("cmdOk");
   EXPECT_TRUE(again->Closed());
   EXPECT_TRUE(ui.Empty());
@@ -177,14 +177,14 @@ TEST_F(Basins, OneRowIsRefusedInAllThreeFormsEvenWithTheRightLevel) {
   const TagList rs_before = Tags(rs), rsp_before = Tags(rsp), hy_before = Tags(hy);
   auto a = Open<FrmRs>(rs);
   Fill(a->spread2(), {{"100", "10"}});
-  a->spread1().SetText(kValue, 5, "100");
+  a->grid().SetText(kValue, 5, "100");
   a->Run("cmdOk");
   ExpectLastMessage(ui, "Il faut au moins 2 lignes dans une courbe !",
                     "Bassin à Qf et Qs constants", MessageIcon::kInformation);
   EXPECT_FALSE(a->Closed());
   auto b = Open<FrmRsp>(rsp);
   Fill(b->spread2(), {{"100", "10", "0.1", "0"}});
-  b->spread1().SetText(kValue, 4, "100");
+  b->grid().SetText(kValue, 4, "100");
   b->Run("cmdOk");
   ExpectLastMessage(ui, "Il faut au moins 2 lignes dans une courbe !",
                     "Bassin à Qf et Qs paramétriques", MessageIcon::kInformation);
@@ -204,7 +204,7 @@ TEST_F(Basins, FallingLevelsAreRefusedWithTheRowBeforeTheDrop) {
   const int rs = Symbol("X_RS", 0, 0, n1);
   const TagList before = Tags(rs);
   auto form = Open<FrmRs>(rs);
-  form->spread1().SetText(kValue, 1, "Bassin 1");
+  form->grid().SetText(kValue, 1, "Bassin 1");
   Fill(form->spread2(), {{"100", "10"}, {"101", "20"}, {"100.5", "30"}});
   form->spread2().SetActiveCell(2, 1);
   form->Run("cmdOk");
@@ -222,26 +222,26 @@ TEST_F(Basins, AnInitialLevelOutsideTheCurveIsRefusedWithItsLimits) {
   const TagList before = Tags(rs);
   auto form = Open<FrmRs>(rs);
   Fill(form->spread2(), {{"100", "10"}, {"101", "20"}, {"102.5", "30"}});
-  form->spread1().SetText(kValue, 5, "99.99");
+  form->grid().SetText(kValue, 5, "99.99");
   form->Run("cmdOk");
   ExpectLastMessage(ui,
                     "La cote retenue initiale doit être rentrée entre Z1 et Z3\r\n"
                     " càd (    100.00 et    102.50).",
                     "Bassin à Qf et Qs constants", MessageIcon::kInformation);
-  EXPECT_EQ(form->spread1().ActiveRow(), 5);
-  EXPECT_EQ(form->spread1().ActiveCol(), kValue);
+  EXPECT_EQ(form->grid().ActiveRow(), 5);
+  EXPECT_EQ(form->grid().ActiveCol(), kValue);
   EXPECT_EQ(Tags(rs), before);
 
   const int rsp = Symbol("X_RSP", 0, 0, n2);
   auto param = Open<FrmRsp>(rsp);
   Fill(param->spread2(), {{"100", "10", "0", "0"}, {"102.5", "30", "1", "0"}});
-  param->spread1().SetText(kValue, 4, "103");
+  param->grid().SetText(kValue, 4, "103");
   param->Run("cmdOk");
   ExpectLastMessage(ui,
                     "La cote retenue initiale doit être rentrée\r\n"
                     "entre Z1 et Z2 càd (100 et 102.5).",
                     "Bassin à Qf et Qs paramétriques", MessageIcon::kInformation);
-  EXPECT_EQ(param->spread1().ActiveRow(), 4);
+  EXPECT_EQ(param->grid().ActiveRow(), 4);
   EXPECT_FALSE(param->Closed());
 }
 
@@ -251,13 +251,13 @@ TEST_F(Basins, ALabelTakenByAnotherBasinIsRefusedAfterTheTableChecks) {
   const int rsp = Symbol("X_RSP", 0, 0, n1);
   const TagList before = Tags(rsp);
   auto form = Open<FrmRsp>(rsp);
-  form->spread1().SetText(kValue, 1, "ETANG");
+  form->grid().SetText(kValue, 1, "ETANG");
   Fill(form->spread2(), {{"1", "10", "0", "0"}, {"2", "30", "1", "0"}});
-  form->spread1().SetText(kValue, 4, "1.5");
+  form->grid().SetText(kValue, 4, "1.5");
   form->Run("cmdOk");
-  ExpectLastMessage(ui, "ETANG existe déjà.", "Erreur de saisie", MessageIcon::kInformation);
-  EXPECT_EQ(form->spread1().Text(kValue, 1), "Rsp_2");
-  EXPECT_EQ(form->spread1().ActiveRow(), 1);
+  ExpectLastMessage(ui, "ETANG existe déjà.", "Erreur de saisie", MessageIcon::kNone);
+  EXPECT_EQ(form->grid().Text(kValue, 1), "Rsp_2");
+  EXPECT_EQ(form->grid().ActiveRow(), 1);
   EXPECT_FALSE(form->Closed());
   EXPECT_EQ(Tags(rsp), before);
 }
@@ -301,7 +301,7 @@ TEST_F(Basins, OkClearsTheFormerPointsAndCountsAnEmptyLastRow) {
   auto form = Open<FrmRs>(rs);
   Grid& t = form->spread2();
   ASSERT_EQ(t.MaxRows(), 4);
-  form->spread1().SetText(kValue, 5, "1");
+  form->grid().SetText(kValue, 5, "1");
   t.SetActiveCell(1, 4);
   form->Run("cmdDelLine");
   form->Run("cmdDelLine");
@@ -325,7 +325,7 @@ TEST_F(Basins, OkClearsTheFormerPointsAndCountsAnEmptyLastRow) {
 TEST_F(Basins, TheEditedConstantBasinReachesItsLinkRecord) {
   const int rs = Symbol("X_RS", 0, 0, n1);
   auto form = Open<FrmRs>(rs);
-  Grid& g = form->spread1();
+  Grid& g = form->grid();
   g.SetText(kValue, 1, "Bassin Nord");
   Choose(*form, g, kValue, 2, 0);
   Choose(*form, g, kValue, 3, 1);
@@ -352,17 +352,17 @@ TEST_F(Basins, TheEditedConstantBasinReachesItsLinkRecord) {
 TEST_F(Basins, TheEditedParametricBasinReachesItsLinkRecord) {
   const int rsp = Symbol("X_RSP", 0, 0, n1);
   auto form = Open<FrmRsp>(rsp);
-  ASSERT_EQ(form->spread1().MaxRows(), 4);
-  EXPECT_EQ(form->spread1().Text(1, 2), "Id. de la restitution aval (16 car maxi)=");
-  EXPECT_EQ(form->spread1().Text(1, 3), "Id. du surverse (16 car maxi)=");
-  EXPECT_EQ(form->spread1().Text(1, 4), "Z initiale dans le bassin entre Z1 et Z10 (ngf)=");
+  ASSERT_EQ(form->grid().MaxRows(), 4);
+  EXPECT_EQ(form->grid().Text(1, 2), "Id. de la restitution aval (16 car maxi)=");
+  EXPECT_EQ(form->grid().Text(1, 3), "Id. du surverse (16 car maxi)=");
+  EXPECT_EQ(form->grid().Text(1, 4), "Z initiale dans le bassin entre Z1 et Z10 (ngf)=");
   EXPECT_EQ(Heads(form->spread2()),
             (std::vector<std::string>{"Cote retenue (ngf)", "Surface au miroir (m2)",
                                       "Débit de fuite (m3/s)", "Débit de surverse (m3/s)"}));
   form->cmdAddLine();
   EXPECT_EQ(form->spread2().Type(2, 1), CellType::Float(0, 999999999999.99, 2));
   EXPECT_EQ(form->spread2().Type(4, 1), CellType::Float(-9999999999.999, 9999999999.999, 3));
-  Grid& g = form->spread1();
+  Grid& g = form->grid();
   Choose(*form, g, kValue, 2, 1);
   g.SetText(kValue, 4, "12");
   Fill(form->spread2(), {{"10", "100", "0.05", "0"}, {"12", "150", "0.1", "0"},
@@ -434,7 +434,7 @@ TEST_F(Hydrograph, OpensOnItsRowsAndPoints) {
   const int hy = Symbol("X_HY", 0, 0, n2);
   Set(hy, {{"NbPt", "2"}, {"X1", "0"}, {"Y1", "0.5"}, {"X2", "30"}, {"Y2", "1.25"}});
   auto form = Open<FrmHy>(hy);
-  Grid& g = form->spread1();
+  Grid& g = form->grid();
   ASSERT_EQ(g.MaxRows(), 3);
   EXPECT_EQ(g.Text(1, 1), "Identificateur (16 car maxi)=");
   EXPECT_EQ(g.Text(1, 2), "Débit de temps sec (m3/s)=");
@@ -494,7 +494,7 @@ TEST_F(Hydrograph, VisuTitlesTheCurveByItsId) {
 TEST_F(Hydrograph, TheEditedHydrographReachesItsRecordAndTheInflowFile) {
   const int hy = Symbol("X_HY", 0, 0, n2);
   auto form = Open<FrmHy>(hy);
-  Grid& g = form->spread1();
+  Grid& g = form->grid();
   g.SetText(kValue, 1, "Rejet");
   g.SetText(kValue, 2, "0.05");
   g.SetText(kValue, 3, "2");

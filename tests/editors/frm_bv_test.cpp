@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "editor_fixture.h"
+#include "element_fixture.h"
 #include "editors/editor_forms.h"
 #include "foundation/expect_message.h"
 
@@ -11,7 +11,7 @@ namespace {
 
 constexpr int kValue = 2;
 
-class FrmBVTest : public EditorTest {
+class FrmBVTest : public ElementEditorTest {
  protected:
   FrmBVTest() { bv = Symbol("X_BV", 1000, 4000); }
 
@@ -27,7 +27,7 @@ class FrmBVTest : public EditorTest {
     EXPECT_EQ(g.ForeColour(kValue, row), FrmBV::kBlack) << "row " << row;
   }
   void ExpectLocked(FrmBV& form, int row) {
-    Grid& g = form.spread1();
+    Grid& g = form.grid();
     EXPECT_TRUE(g.Locked(kValue, row)) << "row " << row;
     EXPECT_EQ(g.BackColour(kValue, row), form.LockedColour()) << "row " << row;
     EXPECT_EQ(g.ForeColour(kValue, row), form.LockedColour()) << "row " << row;
@@ -39,17 +39,17 @@ class FrmBVTest : public EditorTest {
 TEST_F(FrmBVTest, OpensOnTheDefaultsOfANewCatchment) {
   auto form = Open<FrmBV>(bv);
   EXPECT_EQ(form->Caption(), "BV du complexe hydrologique");
-  Grid& g = form->spread1();
+  Grid& g = form->grid();
   ASSERT_EQ(g.MaxRows(), 11);
   EXPECT_EQ(g.Text(1, 1), "Identificateur (16 car. maxi) =");
   EXPECT_EQ(g.Text(kValue, 1), "Bv_1");
   EXPECT_EQ(g.Text(1, 2), "Surface (ha)=");
-  EXPECT_EQ(g.Text(kValue, 2), "5");
+  EXPECT_EQ(g.Text(kValue, 2), "5.00");
   EXPECT_EQ(g.Type(kValue, 2), CellType::Float(0, 9999999999.99, 2));
   EXPECT_EQ(g.Text(1, 3), "Longueur de cheminement (m)=");
-  EXPECT_EQ(g.Text(kValue, 3), "50");
+  EXPECT_EQ(g.Text(kValue, 3), "50.00");
   EXPECT_EQ(g.Text(1, 4), "Pente moyenne (-)=");
-  EXPECT_EQ(g.Text(kValue, 4), "0.005");
+  EXPECT_EQ(g.Text(kValue, 4), "0.00500");
   EXPECT_EQ(g.Type(kValue, 4), CellType::Float(-99.99999, 99.99999, 5));
   EXPECT_EQ(g.Text(1, 5), "Coef. imperméabilisation (-)=");
   EXPECT_EQ(g.Text(kValue, 5), "0.60");
@@ -59,7 +59,7 @@ TEST_F(FrmBVTest, OpensOnTheDefaultsOfANewCatchment) {
             (std::vector<std::string>{"1. CR constant (Coef. de Ruissellement)", "2. selon Horner",
                                       "3. selon Holtan", "4. Selon SCS"}));
   EXPECT_EQ(g.ListIndex(kValue, 6), 0);
-  ExpectRow(g, 7, "Coef de ruissellement =", "0.50");
+  ExpectRow(g, 7, "Coef de ruissellement =", "0.500");
   EXPECT_EQ(g.Type(kValue, 7), CellType::Float(-999.999, 999.999, 3));
   EXPECT_EQ(g.Type(kValue, 9), CellType::Float(0, 99999999.999, 3));
   ExpectLocked(*form, 8);
@@ -93,7 +93,7 @@ TEST_F(FrmBVTest, TheFormIsMadeByItsName) {
 TEST_F(FrmBVTest, ASurfaceBelowTheSmallestIsRefusedAndNoTagChanges) {
   const TagList before = Tags(bv);
   auto form = Open<FrmBV>(bv);
-  Grid& g = form->spread1();
+  Grid& g = form->grid();
   g.SetText(kValue, 1, "Nouveau nom");
   g.SetText(kValue, 2, "0.000009");
   g.SetText(kValue, 7, "0.9");
@@ -108,14 +108,15 @@ TEST_F(FrmBVTest, ASurfaceBelowTheSmallestIsRefusedAndNoTagChanges) {
   g.SetText(kValue, 2, "0.00001");
   form->Run("cmdOk");
   EXPECT_TRUE(form->Closed());
-  EXPECT_EQ(TagOf(bv, "S"), "0.00001");
+  // Numbers are stored as numbers.
+  EXPECT_EQ(TagOf(bv, "S"), "1E-05");
   EXPECT_EQ(TagOf(bv, "libell"), "Nouveau nom");
   EXPECT_EQ(TagOf(bv, "Fpluie1"), "0.9");
 }
 
 TEST_F(FrmBVTest, LengthAndSlopeMustBeGivenInThatOrder) {
   auto form = Open<FrmBV>(bv);
-  Grid& g = form->spread1();
+  Grid& g = form->grid();
   g.SetText(kValue, 3, "0");
   g.SetText(kValue, 4, "-0.01");
   form->Run("cmdOk");
@@ -139,11 +140,11 @@ TEST_F(FrmBVTest, LengthAndSlopeMustBeGivenInThatOrder) {
 TEST_F(FrmBVTest, SavingUnderFunctionTwoAfterThreeEmptiesTheThirdParameterButKeepsItsMemory) {
   Holtan();
   auto form = Open<FrmBV>(bv);
-  Grid& g = form->spread1();
+  Grid& g = form->grid();
   EXPECT_EQ(g.ListIndex(kValue, 6), 2);
-  ExpectRow(g, 7, "Infiltration à saturation fc(mm/h) =", "10");
-  ExpectRow(g, 8, "Infiltration à sec A(mm/h) =", "20");
-  ExpectRow(g, 9, "Stockage potentiel du sol T(mm) =", "30");
+  ExpectRow(g, 7, "Infiltration à saturation fc(mm/h) =", "10.000");
+  ExpectRow(g, 8, "Infiltration à sec A(mm/h) =", "20.000");
+  ExpectRow(g, 9, "Stockage potentiel du sol T(mm) =", "30.000");
   Choose(*form, g, kValue, 6, 1);
   ExpectRow(g, 7, "Coef de perte initiale (alpha) =", "");
   ExpectRow(g, 8, "Coef de recharge (beta) =", "");
@@ -168,7 +169,7 @@ TEST_F(FrmBVTest, SavingUnderFunctionTwoAfterThreeEmptiesTheThirdParameterButKee
 TEST_F(FrmBVTest, FunctionOneClearsTheSecondAndThirdParameters) {
   Holtan();
   auto form = Open<FrmBV>(bv);
-  Grid& g = form->spread1();
+  Grid& g = form->grid();
   Choose(*form, g, kValue, 6, 0);
   ExpectRow(g, 7, "Coef de ruissellement =", "");
   ExpectLocked(*form, 8);
@@ -183,7 +184,7 @@ TEST_F(FrmBVTest, FunctionOneClearsTheSecondAndThirdParameters) {
 
 TEST_F(FrmBVTest, FunctionFourKeepsWhatItsRowsHeld) {
   auto form = Open<FrmBV>(bv);
-  Grid& g = form->spread1();
+  Grid& g = form->grid();
   Choose(*form, g, kValue, 6, 3);
   ExpectRow(g, 7, "Capacité d'interception J(mm) =", "");
   ExpectRow(g, 8, "Temps de ressuyage du sol (jours) =", "");
@@ -196,35 +197,35 @@ TEST_F(FrmBVTest, FunctionFourKeepsWhatItsRowsHeld) {
   EXPECT_EQ(TagOf(bv, "Fpluie2"), "2");
   EXPECT_EQ(TagOf(bv, "Fpluie3"), "");
   // The remembered coefficient of function 1 was saved by the drop-down.
-  EXPECT_EQ(TagOf(bv, "fp_Cr"), "0.50");
+  EXPECT_EQ(TagOf(bv, "fp_Cr"), "0.5");
 }
 
 TEST_F(FrmBVTest, FlippingBackAndForthFindsEachFunctionsParametersAgain) {
   Holtan();
   auto form = Open<FrmBV>(bv);
-  Grid& g = form->spread1();
+  Grid& g = form->grid();
   Choose(*form, g, kValue, 6, 0);
   g.SetText(kValue, 7, "0.8");
   Choose(*form, g, kValue, 6, 3);
   g.SetText(kValue, 7, "4");
   g.SetText(kValue, 8, "3");
   Choose(*form, g, kValue, 6, 2);
-  EXPECT_EQ(g.Text(kValue, 7), "10");
-  EXPECT_EQ(g.Text(kValue, 8), "20");
-  EXPECT_EQ(g.Text(kValue, 9), "30");
+  EXPECT_EQ(g.Text(kValue, 7), "10.000");
+  EXPECT_EQ(g.Text(kValue, 8), "20.000");
+  EXPECT_EQ(g.Text(kValue, 9), "30.000");
   Choose(*form, g, kValue, 6, 0);
-  EXPECT_EQ(g.Text(kValue, 7), "0.8");
+  EXPECT_EQ(g.Text(kValue, 7), "0.800");
   Choose(*form, g, kValue, 6, 3);
-  EXPECT_EQ(g.Text(kValue, 7), "4");
-  EXPECT_EQ(g.Text(kValue, 8), "3");
+  EXPECT_EQ(g.Text(kValue, 7), "4.000");
+  EXPECT_EQ(g.Text(kValue, 8), "3.000");
   Choose(*form, g, kValue, 6, 2);
-  EXPECT_EQ(g.Text(kValue, 9), "30");
+  EXPECT_EQ(g.Text(kValue, 9), "30.000");
 }
 
 TEST_F(FrmBVTest, ParametersComeBackOnlyIfTheListDroppedDownWhileTheirFunctionWasShown) {
   Holtan();
   auto form = Open<FrmBV>(bv);
-  Grid& g = form->spread1();
+  Grid& g = form->grid();
   // Chosen without the list dropping down (the keyboard): nothing is saved.
   g.SetListIndex(kValue, 6, 0);
   form->ListCloseUp(g, kValue, 6);
@@ -237,26 +238,26 @@ TEST_F(FrmBVTest, ParametersComeBackOnlyIfTheListDroppedDownWhileTheirFunctionWa
 
   // Again, the list dropped down while function 3 was shown.
   auto again = Open<FrmBV>(bv);
-  Grid& h = again->spread1();
+  Grid& h = again->grid();
   Choose(*again, h, kValue, 6, 0);
   Choose(*again, h, kValue, 6, 2);
-  EXPECT_EQ(h.Text(kValue, 7), "10");
-  EXPECT_EQ(h.Text(kValue, 8), "20");
-  EXPECT_EQ(h.Text(kValue, 9), "30");
+  EXPECT_EQ(h.Text(kValue, 7), "10.000");
+  EXPECT_EQ(h.Text(kValue, 8), "20.000");
+  EXPECT_EQ(h.Text(kValue, 9), "30.000");
 }
 
 TEST_F(FrmBVTest, AnEmptyListCellDoesNothing) {
   Set(bv, {{"Fpluie", ""}, {"Fpluie1", "3"}, {"fp_Cr", "0.4"}});
   auto form = Open<FrmBV>(bv);
-  Grid& g = form->spread1();
+  Grid& g = form->grid();
   EXPECT_EQ(g.ListIndex(kValue, 6), -1);
   // No function: rows 7 to 9 are cleared and open, row 7 still shows Fpluie1.
   EXPECT_EQ(g.Text(1, 7), "");
-  EXPECT_EQ(g.Text(kValue, 7), "3");
+  EXPECT_EQ(g.Text(kValue, 7), "3.000");
   EXPECT_FALSE(g.Locked(kValue, 9));
   form->ListDropDown(g, kValue, 6);
   form->ListCloseUp(g, kValue, 6);
-  EXPECT_EQ(g.Text(kValue, 7), "3");
+  EXPECT_EQ(g.Text(kValue, 7), "3.000");
   EXPECT_EQ(TagOf(bv, "fp_Cr"), "0.4");
 }
 
@@ -264,14 +265,14 @@ TEST_F(FrmBVTest, AnImportedBareDigitOpensOnItsFunction) {
   Set(bv, {{"Fpluie", "2"}, {"Fpluie1", "0.3"}, {"Fpluie2", "0.1"}, {"Fruissel", "5"},
            {"K", "25"}});
   auto form = Open<FrmBV>(bv);
-  Grid& g = form->spread1();
+  Grid& g = form->grid();
   EXPECT_EQ(g.ListIndex(kValue, 6), 1);
   EXPECT_EQ(g.Text(kValue, 6), "2. selon Horner");
-  ExpectRow(g, 7, "Coef de perte initiale (alpha) =", "0.3");
-  ExpectRow(g, 8, "Coef de recharge (beta) =", "0.1");
+  ExpectRow(g, 7, "Coef de perte initiale (alpha) =", "0.300");
+  ExpectRow(g, 8, "Coef de recharge (beta) =", "0.100");
   ExpectLocked(*form, 9);
   EXPECT_EQ(g.ListIndex(kValue, 10), 4);
-  ExpectRow(g, 11, "Temps de concentration Tc(mn) =", "25");
+  ExpectRow(g, 11, "Temps de concentration Tc(mn) =", "25.00");
 }
 
 TEST_F(FrmBVTest, TheDefaultSpellingIsFunctionOneAndSavedAsTheListEntry) {
@@ -285,8 +286,8 @@ TEST_F(FrmBVTest, TheDefaultSpellingIsFunctionOneAndSavedAsTheListEntry) {
 TEST_F(FrmBVTest, ImposedTimesAreRememberedPerTransferFunction) {
   Set(bv, {{"Fruissel", "4. k (imposé) + réservoir linéaire"}, {"K", "12"}});
   auto form = Open<FrmBV>(bv);
-  Grid& g = form->spread1();
-  ExpectRow(g, 11, "Temps de réponse K(mn) =", "12");
+  Grid& g = form->grid();
+  ExpectRow(g, 11, "Temps de réponse K(mn) =", "12.00");
   Choose(*form, g, kValue, 10, 4);
   EXPECT_EQ(TagOf(bv, "fr_K"), "12");
   ExpectRow(g, 11, "Temps de concentration Tc(mn) =", "");
@@ -297,9 +298,9 @@ TEST_F(FrmBVTest, ImposedTimesAreRememberedPerTransferFunction) {
   EXPECT_EQ(g.Text(kValue, 11), "");
   ExpectLocked(*form, 11);
   Choose(*form, g, kValue, 10, 3);
-  ExpectRow(g, 11, "Temps de réponse K(mn) =", "12");
+  ExpectRow(g, 11, "Temps de réponse K(mn) =", "12.00");
   Choose(*form, g, kValue, 10, 4);
-  ExpectRow(g, 11, "Temps de concentration Tc(mn) =", "40");
+  ExpectRow(g, 11, "Temps de concentration Tc(mn) =", "40.00");
   form->Run("cmdOk");
   EXPECT_EQ(TagOf(bv, "Fruissel"), "5. Tc (imposé) + hydrogramme unitaire type Socose");
   EXPECT_EQ(TagOf(bv, "K"), "40");
@@ -308,7 +309,7 @@ TEST_F(FrmBVTest, ImposedTimesAreRememberedPerTransferFunction) {
 TEST_F(FrmBVTest, ALockedTimeKeepsTheElementsValue) {
   Set(bv, {{"K", "7"}});
   auto form = Open<FrmBV>(bv);
-  EXPECT_EQ(form->spread1().Text(kValue, 11), "7");
+  EXPECT_EQ(form->grid().Text(kValue, 11), "7.00");
   form->Run("cmdOk");
   EXPECT_EQ(TagOf(bv, "K"), "7");
 }
@@ -317,7 +318,7 @@ TEST_F(FrmBVTest, CancelWritesNothingButWhatADropDownSaved) {
   Holtan();
   const TagList before = Tags(bv);
   auto form = Open<FrmBV>(bv);
-  Grid& g = form->spread1();
+  Grid& g = form->grid();
   g.SetText(kValue, 2, "99");
   Choose(*form, g, kValue, 6, 0);
   form->Run("cmdAnnul");
@@ -337,12 +338,12 @@ TEST_F(FrmBVTest, ALabelTakenByAnotherCatchmentIsRefusedWhateverItsCase) {
   Set(other, {{"libell", "BV Nord"}});
   const TagList before = Tags(bv);
   auto form = Open<FrmBV>(bv);
-  Grid& g = form->spread1();
+  Grid& g = form->grid();
   g.SetText(kValue, 1, "bv nord");
   g.SetText(kValue, 2, "8");
   g.SetActiveCell(kValue, 2);
   form->Run("cmdOk");
-  ExpectLastMessage(ui, "bv nord existe déjà.", "Erreur de saisie", MessageIcon::kInformation);
+  ExpectLastMessage(ui, "bv nord existe déjà.", "Erreur de saisie", MessageIcon::kNone);
   EXPECT_FALSE(form->Closed());
   EXPECT_EQ(g.Text(kValue, 1), "Bv_1");
   EXPECT_EQ(g.ActiveRow(), 1);
@@ -359,7 +360,7 @@ TEST_F(FrmBVTest, ALabelTakenByAnotherCatchmentIsRefusedWhateverItsCase) {
 TEST_F(FrmBVTest, TheNameOfASewerLinkIsFreeForACatchment) {
   Set(Link("X_CAC", Node(1000, 1000), Node(2000, 1000)), {{"libell", "Rue Haute"}});
   auto form = Open<FrmBV>(bv);
-  form->spread1().SetText(kValue, 1, "Rue Haute");
+  form->grid().SetText(kValue, 1, "Rue Haute");
   form->Run("cmdOk");
   EXPECT_TRUE(form->Closed());
   EXPECT_EQ(TagOf(bv, "libell"), "Rue Haute");
@@ -367,16 +368,16 @@ TEST_F(FrmBVTest, TheNameOfASewerLinkIsFreeForACatchment) {
 
 TEST_F(FrmBVTest, AClickShowsTheCellInTheStatusLine) {
   auto form = Open<FrmBV>(bv);
-  form->ClickCell(form->spread1(), 1, 3);
-  form->ClickCell(form->spread1(), kValue, 3);
+  form->ClickCell(form->grid(), 1, 3);
+  form->ClickCell(form->grid(), kValue, 3);
   ASSERT_GE(ui.Statuses().size(), 2u);
   EXPECT_EQ(ui.Statuses()[ui.Statuses().size() - 2], "Longueur de cheminement (m)=");
-  EXPECT_EQ(ui.Statuses().back(), "50");
+  EXPECT_EQ(ui.Statuses().back(), "50.00");
 }
 
 TEST_F(FrmBVTest, TheEditedCatchmentReachesItsNodeLineAndItsLinkRecord) {
   auto form = Open<FrmBV>(bv);
-  Grid& g = form->spread1();
+  Grid& g = form->grid();
   g.SetText(kValue, 1, "BV Amont");
   g.SetText(kValue, 2, "12.5");
   g.SetText(kValue, 3, "320");

@@ -2,7 +2,7 @@
 // translator, output marker and downstream boundary condition.
 #include <gtest/gtest.h>
 
-#include "editor_fixture.h"
+#include "element_fixture.h"
 #include "editors/editor_forms.h"
 #include "editors/frm_clav.h"
 #include "editors/frm_hy_bv.h"
@@ -17,7 +17,7 @@ namespace {
 
 constexpr int kValue = 2;
 
-class SimpleElements : public EditorTest {
+class SimpleElements : public ElementEditorTest {
  protected:
   SimpleElements() {
     n1 = Node(1000, 1000);
@@ -66,14 +66,14 @@ TEST_F(SimpleElements, TheFormsAreMadeByTheirNamesWithTheirCaptions) {
 TEST_F(SimpleElements, RoutingOpensOnItsCreationValues) {
   const int rout = Link("X_ROUT", n1, n2);
   auto form = Open<FrmRout>(rout);
-  Grid& g = form->spread1();
+  Grid& g = form->grid();
   ExpectLabels(g, {"Identificateur (16 car maxi)=", "Section moyenne du collecteur (m2)=",
                    "Longueur de routage (m)=", "Pente moyenne du collecteur (-)="});
   EXPECT_EQ(g.Text(kValue, 1), "Rou_1");
-  EXPECT_EQ(g.Text(kValue, 2), "1");
-  EXPECT_EQ(g.Value(kValue, 3), Val(TagOf(rout, "L")));
+  EXPECT_EQ(g.Text(kValue, 2), "1.00");
+  EXPECT_EQ(g.Text(kValue, 3), CellNumber(Val(TagOf(rout, "L")), 2));
   EXPECT_GT(g.Value(kValue, 3), 0);
-  EXPECT_EQ(g.Text(kValue, 4), "0.005");
+  EXPECT_EQ(g.Text(kValue, 4), "0.00500");
   EXPECT_EQ(g.Type(kValue, 2), CellType::Float(0, 99999999.99, 2));
   EXPECT_EQ(g.Type(kValue, 4), CellType::Float(-9.99999, 9.99999, 5));
   EXPECT_TRUE(g.Locked(1, 1));
@@ -82,7 +82,7 @@ TEST_F(SimpleElements, RoutingOpensOnItsCreationValues) {
 TEST_F(SimpleElements, TheEditedRoutingReachesItsLinkRecord) {
   const int rout = Link("X_ROUT", n1, n2);
   auto form = Open<FrmRout>(rout);
-  Grid& g = form->spread1();
+  Grid& g = form->grid();
   g.SetText(kValue, 1, "Route 1");
   g.SetText(kValue, 2, "2.5");
   g.SetText(kValue, 3, "140");
@@ -100,12 +100,12 @@ TEST_F(SimpleElements, ALabelTakenByAnElementOfTheSameKindIsRefused) {
   const int second = Link("X_ROUT", n2, n1);
   const TagList before = Tags(second);
   auto form = Open<FrmRout>(second);
-  Grid& g = form->spread1();
+  Grid& g = form->grid();
   g.SetText(kValue, 1, "ROU_1");
   g.SetText(kValue, 2, "9");
   g.SetActiveCell(kValue, 2);
   form->Run("cmdOk");
-  ExpectLastMessage(ui, "ROU_1 existe déjà.", "Erreur de saisie", MessageIcon::kInformation);
+  ExpectLastMessage(ui, "ROU_1 existe déjà.", "Erreur de saisie", MessageIcon::kNone);
   EXPECT_FALSE(form->Closed());
   EXPECT_EQ(g.Text(kValue, 1), "Rou_2");
   EXPECT_EQ(g.ActiveRow(), 1);
@@ -117,7 +117,7 @@ TEST_F(SimpleElements, CancelWritesNothing) {
   const int hybv = Symbol("X_HYBV", 0, 0, n1);
   const TagList before = Tags(hybv);
   auto form = Open<FrmHyBv>(hybv);
-  form->spread1().SetText(kValue, 2, "0.5");
+  form->grid().SetText(kValue, 2, "0.5");
   form->Run("cmdAnnul");
   EXPECT_TRUE(form->Closed());
   EXPECT_EQ(Tags(hybv), before);
@@ -126,10 +126,10 @@ TEST_F(SimpleElements, CancelWritesNothing) {
 TEST_F(SimpleElements, TheEditedOutletReachesItsLinkRecord) {
   const int hybv = Symbol("X_HYBV", 0, 0, n1);
   auto form = Open<FrmHyBv>(hybv);
-  Grid& g = form->spread1();
+  Grid& g = form->grid();
   ExpectLabels(g, {"Identificateur (16 car maxi)=", "Débit de temps sec (m3/s)",
                    "Surface au miroir équivalente du réseau amont (m2)="});
-  EXPECT_EQ(g.Text(kValue, 2), "0");
+  EXPECT_EQ(g.Text(kValue, 2), "0.000");
   EXPECT_EQ(g.Type(kValue, 2), CellType::Float(0, 99999.999, 3));
   EXPECT_EQ(g.Type(kValue, 3), CellType::Float(0, 99999999.99, 2));
   g.SetText(kValue, 2, "0.125");
@@ -147,25 +147,25 @@ TEST_F(SimpleElements, ATranslatorGivenATakenNameKeepsItAndWritesTheOldNameToId)
   Set(taken, {{"libell", "Raccord A"}});
   const int trans = Link("X_TR", n2, n1);
   auto form = Open<FrmTrans>(trans);
-  Grid& g = form->spread1();
+  Grid& g = form->grid();
   ExpectLabels(g, {"Identificateur (16 car. maxi)="});
   EXPECT_EQ(g.Text(kValue, 1), "Tr_2");
   Set(trans, {{"libell", "Ancien"}});
   auto renamed = Open<FrmTrans>(trans);
-  renamed->spread1().SetText(kValue, 1, "raccord a");
+  renamed->grid().SetText(kValue, 1, "raccord a");
   renamed->Run("cmdOk");
-  ExpectLastMessage(ui, "raccord a existe déjà.", "Erreur de saisie", MessageIcon::kInformation);
+  ExpectLastMessage(ui, "raccord a existe déjà.", "Erreur de saisie", MessageIcon::kNone);
   EXPECT_FALSE(renamed->Closed());
   EXPECT_EQ(TagOf(trans, "libell"), "raccord a");
   EXPECT_EQ(TagOf(trans, "Id"), "Ancien");
-  EXPECT_EQ(renamed->spread1().Text(kValue, 1), "Ancien");
-  EXPECT_EQ(renamed->spread1().ActiveRow(), 1);
+  EXPECT_EQ(renamed->grid().Text(kValue, 1), "Ancien");
+  EXPECT_EQ(renamed->grid().ActiveRow(), 1);
 }
 
 TEST_F(SimpleElements, TheEditedTranslatorReachesItsLinkLine) {
   const int trans = Link("X_TR", n1, n2);
   auto form = Open<FrmTrans>(trans);
-  form->spread1().SetText(kValue, 1, "Raccord Sud");
+  form->grid().SetText(kValue, 1, "Raccord Sud");
   form->Run("cmdOk");
   ASSERT_TRUE(form->Closed());
   EXPECT_EQ(TagOf(trans, "Id"), "Tr_1");
@@ -179,7 +179,7 @@ TEST_F(SimpleElements, TheEditedTranslatorReachesItsLinkLine) {
 TEST_F(SimpleElements, TheExportOfAMarkIsACheckBox) {
   const int mark = Symbol("X_MARK", 0, 0, n1);
   auto form = Open<FrmMark>(mark);
-  Grid& g = form->spread1();
+  Grid& g = form->grid();
   ExpectLabels(g, {"Identificateur (16 car. maxi)=", "Export de l'hydrogramme="});
   EXPECT_EQ(g.Type(kValue, 2), CellType::CheckBox());
   EXPECT_EQ(g.Text(kValue, 2), "0");
@@ -191,14 +191,14 @@ TEST_F(SimpleElements, TheExportOfAMarkIsACheckBox) {
   EXPECT_EQ(Li1Line(1).substr(25, 10), "    1   12");
   EXPECT_EQ(Li2Record(1), Record({{1, 1}}));
   // Opened again, the box is ticked.
-  EXPECT_EQ(Open<FrmMark>(mark)->spread1().Text(kValue, 2), "1");
+  EXPECT_EQ(Open<FrmMark>(mark)->grid().Text(kValue, 2), "1");
 }
 
 TEST_F(SimpleElements, TheEditedBoundaryConditionReachesItsLinkRecord) {
   const int clav = Symbol("X_CLAV", 0, 0, n2);
   Set(clav, {{"Export", "1"}});
   auto form = Open<FrmClav>(clav);
-  Grid& g = form->spread1();
+  Grid& g = form->grid();
   ExpectLabels(g, {"Identificateur (16 car. maxi)=", "Export de l'hydrogramme="});
   EXPECT_EQ(g.Text(kValue, 2), "1");
   g.SetText(kValue, 1, "Exutoire");
@@ -216,7 +216,7 @@ TEST_F(SimpleElements, TheEditedBoundaryConditionReachesItsLinkRecord) {
 
 TEST_F(SimpleElements, AClickShowsTheCellInTheStatusLine) {
   auto form = Open<FrmHyBv>(Symbol("X_HYBV", 0, 0, n1));
-  form->ClickCell(form->spread1(), 1, 2);
+  form->ClickCell(form->grid(), 1, 2);
   EXPECT_EQ(ui.Statuses().back(), "Débit de temps sec (m3/s)");
 }
 
