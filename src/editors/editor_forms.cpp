@@ -3,6 +3,9 @@
 #include <functional>
 #include <map>
 
+#include "editors/frm_dqq.h"
+#include "editors/frm_dqz.h"
+
 namespace pluvane {
 
 namespace {
@@ -17,6 +20,8 @@ Maker Make() {
 const std::map<std::string, Maker>& Editors() {
   // One line per form, in the order of the element kinds.
   static const std::map<std::string, Maker> kEditors = {
+      {"frmDqq", Make<FrmDqq>()},
+      {"frmDqz", Make<FrmDqz>()},
   };
   return kEditors;
 }
