@@ -113,7 +113,8 @@ bool DividerForm::CheckBranchesFilled(int last_col) {
 bool DividerForm::LabelRefused() {
   const std::string label = spread1_.Text(kColValue, kRowLabel);
   if (!LabelTakenByOther(context_.surface, element_, label)) return false;
-  ShowLabelTaken(context_.ui, label);
+  // The divider editors give all their messages the information icon.
+  ShowLabelTaken(context_.ui, label, MessageIcon::kInformation);
   SetQuietly(kColValue, kRowLabel, old_label_);
   spread1_.SetActiveCell(kColValue, kRowLabel);
   return true;

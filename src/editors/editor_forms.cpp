@@ -3,6 +3,9 @@
 #include <functional>
 #include <map>
 
+#include "editors/frm_cac.h"
+#include "editors/frm_caf.h"
+#include "editors/frm_cao.h"
 #include "editors/frm_dqq.h"
 #include "editors/frm_dqz.h"
 
@@ -20,6 +23,9 @@ Maker Make() {
 const std::map<std::string, Maker>& Editors() {
   // One line per form, in the order of the element kinds.
   static const std::map<std::string, Maker> kEditors = {
+      {"frmCac", Make<FrmCac>()},
+      {"frmCaf", Make<FrmCaf>()},
+      {"frmCao", Make<FrmCao>()},
       {"frmDqq", Make<FrmDqq>()},
       {"frmDqz", Make<FrmDqz>()},
   };

@@ -8,13 +8,13 @@ namespace pluvane {
 
 bool LabelTakenByOther(Surface& surface, int element, std::string_view label) {
   const int i_name = ValInt(TagOfObject(surface, element, "iName"));
-  int count = CountLabel(surface, i_name, label);
+  int count = LabelCount(surface, i_name, label);
   if (EqualsNoCase(TagOfObject(surface, element, "libell"), label)) --count;
   return count >= 1;
 }
 
-void ShowLabelTaken(UserInterface& ui, const std::string& label) {
-  ui.ShowMessage(label + " existe déjà.", kInputErrorTitle, MessageIcon::kInformation);
+void ShowLabelTaken(UserInterface& ui, const std::string& label, MessageIcon icon) {
+  ui.ShowMessage(DuplicateLabelMessage(label), kInputErrorTitle, icon);
 }
 
 LabelCounts::LabelCounts(Surface& surface, int i_name) {

@@ -1,6 +1,6 @@
-// The user's label of an element (tag libell): unique within its kind, the
-// case not counting. The editors test a new label before they write anything,
-// so that a refused name leaves every tag as it was.
+// The label check of label_check.h made before anything is written, so that
+// a refused name leaves every tag as it was, and its count kept for a whole
+// sheet of elements of one kind.
 #pragma once
 
 #include <string>
@@ -8,17 +8,16 @@
 #include <unordered_map>
 
 #include "drawing/surface.h"
+#include "editors/label_check.h"
 #include "foundation/user_interface.h"
 
 namespace pluvane {
 
-inline constexpr const char* kInputErrorTitle = "Erreur de saisie";
-
 // True when another element of the kind than `element` already has the label.
 bool LabelTakenByOther(Surface& surface, int element, std::string_view label);
 
-// The refusal of a taken label: the name followed by " existe déjà.".
-void ShowLabelTaken(UserInterface& ui, const std::string& label);
+// The refusal of a taken label, with the icon the form gives its messages.
+void ShowLabelTaken(UserInterface& ui, const std::string& label, MessageIcon icon);
 
 // The labels of the elements of one kind, counted once for a whole sheet of
 // them, and kept up to date as labels change: the same answers as a count on

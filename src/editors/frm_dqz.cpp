@@ -1,7 +1,10 @@
 #include "editors/frm_dqz.h"
 
+#include <utility>
+
 #include "drawing/surface_guards.h"
 #include "drawing/surface_helpers.h"
+#include "editors/frm_crbx.h"
 #include "foundation/numbers.h"
 #include "foundation/paths.h"
 #include "network/catalogue.h"
@@ -103,7 +106,15 @@ void FrmDqz::EditCurve(const DqzBranch& branch) {
   CursorKeeper keeper(surface);
   surface.SetCurrentObject(element());
   if (surface.CurrentObject() != element() || !BranchCurveToFile(surface, branch, file)) return;
-  // CURVE EDITOR
+  CrbxParams params;
+  params.file = file;
+  params.curve_name = kDqzCurveName;
+  params.point_limit = kMaxCurvePoints;
+  params.labels = {"Cote (ngf)", "Debit (m3/s)", "", ""};
+  params.caption = "Q=f(Z)";
+  params.plot_title = "Loi paramétrique Q=f(Z)";
+  FrmCrbx editor(context_, std::move(params));
+  if (context_.show_form) context_.show_form(editor);
   surface.SetCurrentObject(element());
   FileToBranchCurve(surface, context_.ui, branch, file);
 }

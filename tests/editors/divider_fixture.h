@@ -3,11 +3,11 @@
 // it, and a fifth node upstream.
 #pragma once
 
-#include "editors/editor_fixture.h"
+#include "editors/network_editor_fixture.h"
 
 namespace pluvane {
 
-class DividerTest : public EditorTest {
+class DividerTest : public NetworkEditorTest {
  protected:
   // Builds the node, its links and the divider of that key, which is left current.
   void Build(const char* key) {

@@ -1,43 +1,69 @@
-// Test fixture for the element editors: the model fixture's drawing and
-// folder (the working folder), an editor context whose further forms are run
-// by a script of the test, and the viewer's openings recorded.
+// What the editor tests share: a drawing, the network's state with its
+// working folder in a fresh temporary folder, the scripted user, the viewer's
+// state, and the context the forms are built on. Forms opened through the
+// context are handed to `on_form`, which plays the user's part; plots shown
+// are counted.
 #pragma once
+
+#include <gtest/gtest.h>
 
 #include <functional>
 #include <string>
 #include <vector>
 
+#include "drawing/surface.h"
+#include "drawing/surface_guards.h"
 #include "editors/editor_context.h"
-#include "simulation/model_fixture.h"
+#include "foundation/scripted_ui.h"
+#include "foundation/test_files.h"
+#include "network/catalogue.h"
+#include "network/network_state.h"
 
 namespace pluvane {
 
-class EditorTest : public ModelTest {
+class EditorTest : public ::testing::Test {
  protected:
-  EditorTest() { state.WorkDir = folder.Path(); }
-
-  // The objects selected on the drawing, in creation order.
-  std::vector<int> Highlighted() {
-    std::vector<int> selected;
-    for (int n = surface.NextObjectNumber(0); n > 0; n = surface.NextObjectNumber(n)) {
-      if (surface.IsSelected(n)) selected.push_back(n);
-    }
-    return selected;
+  EditorTest() {
+    state.WorkDir = folder.Path();
+    state.AppPath = folder.Path();
   }
 
+  // A rectangle with these tags, in order; returns its number. The cursor stays.
+  int AddObject(const std::vector<std::pair<std::string, std::string>>& tags) {
+    CursorKeeper keeper(surface);
+    const int n = surface.AddObject(kKindRectangle, 0, 0, 100, 100);
+    for (const auto& [name, value] : tags) surface.SetObjTag(name, value);
+    return n;
+  }
+  std::string Tag(int object, const std::string& name) {
+    CursorKeeper keeper(surface);
+    surface.SetCurrentObject(object);
+    return surface.ObjTag(name);
+  }
+  void SetTag(int object, const std::string& name, const std::string& value) {
+    CursorKeeper keeper(surface);
+    surface.SetCurrentObject(object);
+    surface.SetObjTag(name, value);
+  }
+
+  TempFolder folder;
+  Surface surface;
+  NetworkState state;
+  ScriptedUi ui;
   ViewerState viewer;
+  // Plays the part of the user in a form opened by another one.
   std::function<void(FormController&)> on_form;
-  std::vector<std::string> shown_forms;
-  std::vector<std::string> viewer_scripts;
-  // The context the main window gives a form: further forms are handed to
-  // `on_form`, which plays the user's part in them.
-  EditorContext context{surface, state, ui,
+  int forms_shown = 0;
+  std::vector<ViewerState> plots_shown;
+  EditorContext context{surface,
+                        state,
+                        ui,
                         [this](FormController& form) {
-                          shown_forms.push_back(form.Caption());
+                          ++forms_shown;
                           if (on_form) on_form(form);
                         },
                         viewer,
-                        [this](ViewerState& shown) { viewer_scripts.push_back(shown.script); }};
+                        [this](ViewerState& shown) { plots_shown.push_back(shown); }};
 };
 
 }  // namespace pluvane

@@ -4,6 +4,7 @@
 
 #include "editors/divider_fixture.h"
 #include "editors/editor_forms.h"
+#include "editors/frm_crbx.h"
 #include "foundation/expect_message.h"
 #include "simulation/li2_description.h"
 #include "simulation/link_files.h"
@@ -190,6 +191,39 @@ TEST_F(FrmDqzTest, AWeirOpensItsThreeParametersAndSavesThemAtOnce) {
   EXPECT_EQ(TagOf(divider, "TypeDer_a"), "3");
 }
 
+TEST_F(FrmDqzTest, ACurveBranchIsEditedThroughTheCurveFile) {
+  Set(divider, {{"NbPtDa", "2"}, {"Xda1", "100"}, {"Yda1", "0"}, {"Xda2", "101.5"},
+                {"Yda2", "0.8"}});
+  FrmDqz form(context);
+  Branch(form, 4, "Cac_3", "4. Z = f(Q)");
+  std::string file_at_opening;
+  on_form = [&](FormController& shown) {
+    auto& editor = dynamic_cast<FrmCrbx&>(shown);
+    file_at_opening = ReadBytes(folder.File("tmp.crb"));
+    EXPECT_EQ(editor.Caption(), "Q=f(Z)");
+    EXPECT_EQ(editor.params().plot_title, "Loi paramétrique Q=f(Z)");
+    EXPECT_EQ(editor.params().point_limit, 10);
+    EXPECT_EQ(editor.params().curve_name, "CrbX");
+    EXPECT_EQ(editor.grid().ColHead(1), "Cote (ngf)");
+    EXPECT_EQ(editor.grid().ColHead(2), "Debit (m3/s)");
+    EXPECT_EQ(editor.Columns(), 2);
+    ASSERT_EQ(editor.grid().MaxRows(), 2);
+    editor.Run("mnAdd");
+    editor.grid().SetText(1, 3, "102");
+    editor.grid().SetText(2, 3, "1.5");
+    editor.Run("mnSave");
+    EXPECT_TRUE(editor.Closed());
+  };
+  form.ButtonCell(form.spread1(), 4, 4);
+  EXPECT_EQ(file_at_opening, "'CrbX'\r\n    100.00      0.00\r\n    101.50      0.80\r\n");
+  EXPECT_EQ(TagOf(divider, "NbPtDa"), "3");
+  EXPECT_EQ(TagOf(divider, "Xda1"), "    100.00");
+  EXPECT_EQ(TagOf(divider, "Yda2"), "      0.80");
+  EXPECT_EQ(TagOf(divider, "Xda3"), "    102.00");
+  EXPECT_EQ(TagOf(divider, "Yda3"), "      1.50");
+  EXPECT_EQ(TagOf(divider, "NbPtAv"), "0");
+}
+
 TEST_F(FrmDqzTest, CancellingTheParametersWritesNothing) {
   FrmDqz form(context);
   Branch(form, 2, "Cac_2", "2. Orifice");
@@ -258,6 +292,17 @@ TEST_F(FrmDqzTest, AnEditedDividerGivesItsEngineRecord) {
   Branch(form, 5, "Fossé", "3. Strickler");
   Set(cao, {{"Id", "Fossé"}});
   form.ButtonCell(form.spread1(), 4, 5);
+  Branch(form, 6, "Cac_4", "4. Z = f(Q)");
+  on_form = [](FormController& shown) {
+    Grid& grid = dynamic_cast<FrmCrbx&>(shown).grid();
+    grid.SetMaxRows(2);
+    grid.SetText(1, 1, "98.5");
+    grid.SetText(2, 1, "0");
+    grid.SetText(1, 2, "99.25");
+    grid.SetText(2, 2, "0.75");
+    shown.Run("mnSave");
+  };
+  form.ButtonCell(form.spread1(), 4, 6);
   form.Run("cmdOk");
   ASSERT_TRUE(form.Closed());
   ModelContext model = ModelTest::Context();
@@ -271,7 +316,7 @@ TEST_F(FrmDqzTest, AnEditedDividerGivesItsEngineRecord) {
     2 1          # TypeAval: weir
     3 2          # TypeDer_a: orifice
     4 3          # TypeDer_b: Strickler
-    5 2          # TypeDer_c: orifice
+    5 4          # TypeDer_c: a curve
     6 11         # Xav1: ZRam of the Strickler branch's channel, over the weir level
     7 3          # Xav2, Xav3: width and coefficient of the weir
     8 0.38
@@ -279,6 +324,12 @@ TEST_F(FrmDqzTest, AnEditedDividerGivesItsEngineRecord) {
     27 0.3
     28 0.6
     46 45        # Xdb1: Kmin of the channel
+    66 98.5      # Xdc1, Xdc2: levels of the curve of two points
+    67 99.25
+    68..75 -999
+    76 0         # Ydc1, Ydc2: its discharges
+    77 0.75
+    78..85 -999
   )");
   EXPECT_EQ(li2.substr(5 * 812), expected);
 }
