@@ -8,6 +8,7 @@
 #include "editors/frm_cao.h"
 #include "editors/frm_dqq.h"
 #include "editors/frm_dqz.h"
+#include "editors/frm_edit.h"
 
 namespace pluvane {
 
@@ -28,6 +29,7 @@ const std::map<std::string, Maker>& Editors() {
       {"frmCao", Make<FrmCao>()},
       {"frmDqq", Make<FrmDqq>()},
       {"frmDqz", Make<FrmDqz>()},
+      {"frmEdit", Make<FrmEdit>()},
   };
   return kEditors;
 }
