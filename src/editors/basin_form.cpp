@@ -3,11 +3,8 @@
 #include <algorithm>
 #include <utility>
 
-#include "drawing/surface_guards.h"
-#include "drawing/surface_helpers.h"
 #include "foundation/numbers.h"
 #include "foundation/text.h"
-#include "network/topology.h"
 
 namespace pluvane {
 
@@ -16,17 +13,8 @@ BasinForm::BasinForm(EditorContext& context, std::string caption, std::vector<Ta
     : PointForm(context, std::move(caption), std::move(rows), std::move(columns), kPointLimit,
                 std::move(plot)),
       z0_row_(z0_row) {
-  {
-    CursorKeeper keeper(context_.surface);
-    const int node = NodeUnder(context_.surface, Element());
-    if (node > 0) links_ = DownstreamCollectors(context_.surface, node);
-  }
-  std::string list;
-  for (int link : links_) {
-    labels_.push_back(TagOfObject(context_.surface, link, "libell"));
-    if (!list.empty()) list += '\t';
-    list += labels_.back();
-  }
+  links_ = LinksLeavingNode(context_.surface, Element());
+  const std::string list = links_.List();
   for (int row : {kRowAval, kRowSurv}) {
     // The text again, so that the list selects its entry.
     const std::string chosen = grid().Text(kValueCol, row);
@@ -39,6 +27,11 @@ BasinForm::BasinForm(EditorContext& context, std::string caption, std::vector<Ta
     count = kPointLimit;
   }
   LoadPoints(std::max(count, 0));
+  grid().AddListener([this](const GridChange& change) {
+    if (Closed() || change.kind != GridChange::kCells || change.row1 != change.row2) return;
+    if (change.col1 > kValueCol || change.col2 < kValueCol) return;
+    if (change.row1 == kRowAval || change.row1 == kRowSurv) LinkChosen(change.row1);
+  });
 }
 
 void BasinForm::ClickCell(Grid& g, int col, int row) {
@@ -48,25 +41,17 @@ void BasinForm::ClickCell(Grid& g, int col, int row) {
   }
 }
 
-void BasinForm::ListCloseUp(Grid& g, int col, int row) {
-  if (&g != &grid() || col != kValueCol) return;
-  if (row != kRowAval && row != kRowSurv) return;
-  const std::string chosen = g.Text(col, row);
+void BasinForm::LinkChosen(int row) {
+  const std::string chosen = grid().Text(kValueCol, row);
   if (Trim(chosen).empty()) return;
   const int other = row == kRowAval ? kRowSurv : kRowAval;
-  if (EqualsNoCase(g.Text(col, other), chosen)) g.SetText(col, other, "");
+  if (EqualsNoCase(grid().Text(kValueCol, other), chosen)) grid().SetText(kValueCol, other, "");
   Highlight(chosen);
 }
 
 void BasinForm::Highlight(const std::string& label) {
-  for (std::size_t i = 0; i < labels_.size(); ++i) {
-    if (labels_[i] != label) continue;
-    CursorKeeper keeper(context_.surface);
-    context_.surface.DeselectAll();
-    context_.surface.SetCurrentObject(links_[i]);
-    context_.surface.SetSelected(true);
-    return;
-  }
+  const int link = links_.HandleOf(label);
+  if (link > 0) HighlightObjects(context_.surface, {link});
 }
 
 void BasinForm::cmdOk() {

@@ -5,8 +5,8 @@
 #pragma once
 
 #include <string>
-#include <vector>
 
+#include "editors/leaving_links.h"
 #include "editors/point_form.h"
 
 namespace pluvane {
@@ -19,13 +19,11 @@ class BasinForm : public PointForm {
 
   // A click on the downstream or overflow row highlights its link too.
   void ClickCell(Grid& grid, int col, int row) override;
-  // The same link cannot be both: choosing it in one row empties the other.
-  void ListCloseUp(Grid& grid, int col, int row) override;
 
   void cmdOk() override;
 
-  // The links leaving the basin's node, by label, as the lists offer them.
-  const std::vector<std::string>& LinkLabels() const { return labels_; }
+  // The links leaving the basin's node, as the lists offer them.
+  const LeavingLinks& Links() const { return links_; }
 
  protected:
   BasinForm(EditorContext& context, std::string caption, std::vector<TagRow> rows,
@@ -34,12 +32,14 @@ class BasinForm : public PointForm {
   virtual std::string LevelMessage(double z1, double zn, int n) const = 0;
 
  private:
-  // The link of that label becomes the only selection of the drawing.
+  // The same link cannot be both: a link chosen in one row empties the
+  // other, and is highlighted.
+  void LinkChosen(int row);
+  // The link of that label is highlighted on the plan.
   void Highlight(const std::string& label);
 
   int z0_row_;
-  std::vector<int> links_;
-  std::vector<std::string> labels_;
+  LeavingLinks links_;
 };
 
 }  // namespace pluvane

@@ -8,6 +8,9 @@
 #include "editors/frm_caf.h"
 #include "editors/frm_cao.h"
 #include "editors/frm_clav.h"
+#include "editors/frm_dqq.h"
+#include "editors/frm_dqz.h"
+#include "editors/frm_edit.h"
 #include "editors/frm_hy.h"
 #include "editors/frm_hy_bv.h"
 #include "editors/frm_mark.h"
@@ -38,6 +41,8 @@ const std::map<std::string, Maker>& Editors() {
       {"frmCac", Make<FrmCac>()},
       {"frmCaf", Make<FrmCaf>()},
       {"frmCao", Make<FrmCao>()},
+      {"frmDqq", Make<FrmDqq>()},
+      {"frmDqz", Make<FrmDqz>()},
       {"frmRs", Make<FrmRs>()},
       {"frmRsp", Make<FrmRsp>()},
       {"frmTrans", Make<FrmTrans>()},
@@ -45,6 +50,8 @@ const std::map<std::string, Maker>& Editors() {
       {"frmMark", Make<FrmMark>()},
       // The section library, opened from the Option menu.
       {"frmSect", Make<FrmSect>()},
+      // The general editor of all the elements.
+      {"frmEdit", Make<FrmEdit>()},
   };
   return kEditors;
 }

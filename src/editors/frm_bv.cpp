@@ -122,6 +122,12 @@ FrmBV::FrmBV(EditorContext& context)
   } else {
     Lock(kRowK);
   }
+  // A new choice in a list shows its function, however it was made.
+  grid().AddListener([this](const GridChange& change) {
+    if (Closed() || change.kind != GridChange::kCells || change.row1 != change.row2) return;
+    if (change.col1 > kValueCol || change.col2 < kValueCol) return;
+    if (change.row1 == kRowFpluie || change.row1 == kRowFruissel) FunctionChosen(change.row1);
+  });
 }
 
 int FrmBV::FunctionOf(int row) { return NumberOf(grid().Text(kValueCol, row)); }
@@ -214,8 +220,8 @@ void FrmBV::ListDropDown(Grid& g, int col, int row) {
   if (row == kRowFruissel) FruisselSave(FunctionOf(row));
 }
 
-void FrmBV::ListCloseUp(Grid& g, int col, int row) {
-  if (&g != &grid() || col != kValueCol || g.Text(col, row).empty()) return;
+void FrmBV::FunctionChosen(int row) {
+  if (grid().Text(kValueCol, row).empty()) return;
   if (row == kRowFpluie) FpluieDisplay(FunctionOf(row));
   if (row == kRowFruissel) FruisselDisplay(FunctionOf(row));
 }

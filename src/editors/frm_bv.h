@@ -35,9 +35,8 @@ class FrmBV : public TagGridForm {
   explicit FrmBV(EditorContext& context);
 
   // The list cells of rows 6 and 10: the drop-down saves the parameters of the
-  // function shown, the close-up shows those of the function chosen.
+  // function shown; the choice made then shows those of the function chosen.
   void ListDropDown(Grid& grid, int col, int row) override;
-  void ListCloseUp(Grid& grid, int col, int row) override;
 
   // Checks surface, length and slope, then stores the rows (label first,
   // tested against the labels of the kind) and closes.
@@ -58,6 +57,9 @@ class FrmBV : public TagGridForm {
   std::int32_t LockedColour() const { return grey_; }
 
  private:
+  // Shows the function now in the list cell of row 6 or 10; an empty cell
+  // does nothing.
+  void FunctionChosen(int row);
   // The function number of a list cell: its first character.
   int FunctionOf(int row);
   // A tag of the catchment, and writing one at once.

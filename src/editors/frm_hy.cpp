@@ -18,7 +18,7 @@ FrmHy::FrmHy(EditorContext& context)
                     {"X", "Temps (mn)", CellType::Float(-99999999.99, 99999999.99, 2)},
                     {"Y", "Débit (m3/s)", CellType::Float(-9999999999.999, 9999999999.999, 3)},
                 },
-                kPointLimit, {"", " hydrogramme d'apport ", "HY"}) {
+                kPointLimit, {"", " hydrogramme d'apport "}) {
   LoadPoints(std::clamp(static_cast<int>(ValLong(Tag("NbPt"))), 0, kPointLimit));
 }
 

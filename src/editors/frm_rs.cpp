@@ -19,7 +19,7 @@ FrmRs::FrmRs(EditorContext& context)
                     {"Y", "Surface au miroir (m2)",
                      CellType::Float(-999999999999.99, 999999999999.99, 2)},
                 },
-                {"Bassin à Qf et Qs constants : ", "", "RS"}, kRowZ0) {}
+                {"Bassin à Qf et Qs constants : ", ""}, kRowZ0) {}
 
 std::string FrmRs::LevelMessage(double z1, double zn, int n) const {
   return "La cote retenue initiale doit être rentrée entre Z1 et Z" + std::to_string(n) +

@@ -22,7 +22,7 @@ FrmRsp::FrmRsp(EditorContext& context)
                     {"T", "Débit de surverse (m3/s)",
                      CellType::Float(-9999999999.999, 9999999999.999, 3)},
                 },
-                {"Bassin à Qf et Qs paramétriques : ", "", "RSP"}, kRowZ0) {}
+                {"Bassin à Qf et Qs paramétriques : ", ""}, kRowZ0) {}
 
 std::string FrmRsp::LevelMessage(double z1, double zn, int n) const {
   return "La cote retenue initiale doit être rentrée\r\nentre Z1 et Z" + std::to_string(n) +

@@ -1,15 +1,13 @@
 #include "editors/point_form.h"
 
 #include <algorithm>
-#include <filesystem>
 #include <utility>
 
 #include "drawing/surface_helpers.h"
 #include "editors/element_tags.h"
+#include "editors/grid_plot_view.h"
 #include "foundation/grid_rows.h"
 #include "foundation/numbers.h"
-#include "foundation/paths.h"
-#include "plot/grid_plot.h"
 
 namespace pluvane {
 
@@ -77,23 +75,7 @@ void PointForm::cmdDelLine() {
 }
 
 void PointForm::cmdVisu() {
-  const std::string& work_dir = context_.state.WorkDir;
-  const std::string title = plot_.prefix + Tag("Id") + plot_.suffix;
-  const PlotxyRequest request{plot_.kind, kCurveWord, work_dir, JoinPath(work_dir, "xy.mst"),
-                              title};
-  const std::string script = Plotxy(context_.ui, spread2_, request);
-  if (script.empty()) return;
-  const std::string shown = JoinPath(work_dir, "Vistrel.Mst");
-  std::error_code error;
-  std::filesystem::copy_file(script, shown, std::filesystem::copy_options::overwrite_existing,
-                             error);
-  if (error) return;
-  context_.viewer.script = shown;
-  context_.viewer.initial_script = shown;
-  context_.viewer.page_title = title;
-  context_.viewer.selection_mode = plot_.kind;
-  context_.viewer.action = kViewerInitial;
-  if (context_.show_viewer) context_.show_viewer(context_.viewer);
+  ShowGridPlot(context_, spread2_, kCurveWord, plot_.prefix + Tag("Id") + plot_.suffix);
 }
 
 void PointForm::LoadPoints(int count) {

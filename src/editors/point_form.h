@@ -29,12 +29,11 @@ bool CheckColumn(Grid& grid, int col, int& row);
 class PointForm : public TagGridForm {
  public:
   // What the table is shown as in the plot viewer.
-  // What the table is shown as in the plot viewer: the page title is the
-  // prefix, the element's Id and the suffix.
+  // The page title of the table in the plot viewer: the prefix, the
+  // element's Id and the suffix.
   struct Plot {
     std::string prefix;
     std::string suffix;
-    std::string kind;  // the viewer's element kind
   };
 
   PointForm(EditorContext& context, std::string caption, std::vector<TagRow> rows,

@@ -63,7 +63,7 @@ TEST_F(Basins, TheFormsAreMadeByTheirNamesWithTheirCommands) {
       {Symbol("X_HY", 0, 0, n3), {"frmHy", "Injection d'Hydrogramme"}}};
   for (const auto& [element, form] : forms) {
     surface.SetCurrentObject(element);
-    auto made = MakeEditorForm(form.first, editor);
+    auto made = MakeEditorForm(form.first, context);
     ASSERT_NE(made, nullptr) << form.first;
     EXPECT_EQ(made->Caption(), form.second);
     EXPECT_EQ(made->Grids().size(), 2u);
@@ -394,10 +394,10 @@ TEST_F(Basins, VisuShowsTheCurveInTheViewer) {
   auto form = Open<FrmRs>(rs);
   Fill(form->spread2(), {{"100", "10"}, {"102", "30"}});
   form->Run("cmdVisu");
-  ASSERT_EQ(viewed.size(), 1u);
-  EXPECT_EQ(viewed[0].page_title, "Bassin à Qf et Qs constants : Rs_1");
-  EXPECT_EQ(viewed[0].script, JoinPath(folder.Path(), "Vistrel.Mst"));
-  EXPECT_EQ(viewed[0].action, kViewerInitial);
+  ASSERT_EQ(viewer_scripts.size(), 1u);
+  EXPECT_EQ(viewer.page_title, "Bassin à Qf et Qs constants : Rs_1");
+  EXPECT_EQ(viewer_scripts[0], JoinPath(folder.Path(), "Vistrel.Mst"));
+  EXPECT_EQ(viewer.action, kViewerInitial);
   EXPECT_EQ(ReadBytes(folder.File("xy.crb")),
             "'Crb2'\r\n   100.000    10.000\r\n   102.000    30.000\r\n");
   EXPECT_EQ(ReadBytes(folder.File("Vistrel.Mst")), ReadBytes(folder.File("xy.mst")));
@@ -413,8 +413,8 @@ TEST_F(Basins, VisuOfAParametricBasinDrawsItsThreeCurves) {
   auto form = Open<FrmRsp>(Symbol("X_RSP", 0, 0, n1));
   Fill(form->spread2(), {{"10", "100", "0.05", "0"}, {"12", "150", "0.1", "1"}});
   form->Run("cmdVisu");
-  ASSERT_EQ(viewed.size(), 1u);
-  EXPECT_EQ(viewed[0].page_title, "Bassin à Qf et Qs paramétriques : Rsp_1");
+  ASSERT_EQ(viewer_scripts.size(), 1u);
+  EXPECT_EQ(viewer.page_title, "Bassin à Qf et Qs paramétriques : Rsp_1");
   const std::string crb = ReadBytes(folder.File("xy.crb"));
   EXPECT_NE(crb.find("'Crb2'"), std::string::npos);
   EXPECT_NE(crb.find("'Crb3'"), std::string::npos);
@@ -425,7 +425,7 @@ TEST_F(Basins, VisuOfOnePointShowsNothing) {
   auto form = Open<FrmHy>(Symbol("X_HY", 0, 0, n1));
   Fill(form->spread2(), {{"0", "1"}});
   form->Run("cmdVisu");
-  EXPECT_TRUE(viewed.empty());
+  EXPECT_TRUE(viewer_scripts.empty());
 }
 
 class Hydrograph : public Basins {};
@@ -486,9 +486,9 @@ TEST_F(Hydrograph, VisuTitlesTheCurveByItsId) {
   auto form = Open<FrmHy>(Symbol("X_HY", 0, 0, n2));
   Fill(form->spread2(), {{"0", "0"}, {"30", "1.5"}});
   form->Run("cmdVisu");
-  ASSERT_EQ(viewed.size(), 1u);
-  EXPECT_EQ(viewed[0].page_title, "Hy_1 hydrogramme d'apport ");
-  EXPECT_EQ(viewed[0].script, JoinPath(folder.Path(), "Vistrel.Mst"));
+  ASSERT_EQ(viewer_scripts.size(), 1u);
+  EXPECT_EQ(viewer.page_title, "Hy_1 hydrogramme d'apport ");
+  EXPECT_EQ(viewer_scripts[0], JoinPath(folder.Path(), "Vistrel.Mst"));
 }
 
 TEST_F(Hydrograph, TheEditedHydrographReachesItsRecordAndTheInflowFile) {

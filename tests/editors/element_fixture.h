@@ -1,50 +1,47 @@
-// Test fixture for the element editors: the model fixture's drawing and
-// folders, an editor context whose host records the forms and plots it was
-// asked to show, and helpers to open a form on an element, to drive its list
-// cells as the window does and to read the element's records of a model.
+// Test fixture for the element editors on a drawn network (that of
+// NetworkEditorTest): a form opened on an element as the main window opens
+// it, a list cell driven as the window drives it, and the element's records
+// in the generated model files.
 #pragma once
 
 #include <gtest/gtest.h>
 
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
-#include "editors/editor_context.h"
+#include "network_editor_fixture.h"
 #include "simulation/li2_description.h"
 #include "simulation/link_files.h"
-#include "simulation/model_fixture.h"
 #include "simulation/node_file.h"
 
 namespace pluvane {
 
-class ElementEditorTest : public ModelTest {
+class ElementEditorTest : public NetworkEditorTest {
  protected:
-  ElementEditorTest() { state.WorkDir = folder.Path(); }
-
-  // The form of that type on the element, as the main window opens it.
+  // The form of that type on the element, made current first.
   template <typename Form>
   std::unique_ptr<Form> Open(int element) {
     surface.SetCurrentObject(element);
-    return std::make_unique<Form>(editor);
+    return std::make_unique<Form>(context);
   }
 
-  // The user picks entry `index` of a list cell: the list drops down, the
-  // choice is made, the list closes.
+  // The user picks entry `index` of a list cell: the list drops down, then
+  // the choice reaches the cell.
   static void Choose(FormController& form, Grid& grid, int col, int row, int index) {
     form.ListDropDown(grid, col, row);
     grid.SetListIndex(col, row, index);
-    form.ListCloseUp(grid, col, row);
   }
 
   // Generates .NOD, .LI1 and .LI2 of the drawing.
   void Generate() {
-    ModelContext context = Context();
-    GenFicNod(context, ModelFile(".NOD"));
-    GenFicLi1(context, ModelFile(".LI1"));
-    GenFicLi2(context, ModelFile(".LI2"));
+    ModelContext model = Context();
+    GenFicNod(model, ModelFile(".NOD"));
+    GenFicLi1(model, ModelFile(".LI1"));
+    GenFicLi2(model, ModelFile(".LI2"));
   }
-  // Record r (from 1) of .LI2.
+  // Record r (from 1) of .LI2, empty when the file is shorter.
   std::string Li2Record(int r) const {
     const std::string li2 = ReadBytes(ModelFile(".LI2"));
     if (li2.size() < static_cast<std::size_t>(r) * 812) return "";
@@ -56,17 +53,6 @@ class ElementEditorTest : public ModelTest {
     for (const auto& [index, value] : values) PutSingle(record, index, value);
     return record;
   }
-
-  ViewerState viewer;
-  // The scripts the viewer was asked to show, and the forms opened.
-  std::vector<ViewerState> viewed;
-  std::vector<std::string> forms_shown;
-  EditorContext editor{surface,
-                       state,
-                       ui,
-                       [this](FormController& form) { forms_shown.push_back(form.Caption()); },
-                       viewer,
-                       [this](ViewerState& shown) { viewed.push_back(shown); }};
 };
 
 }  // namespace pluvane

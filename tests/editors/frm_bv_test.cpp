@@ -85,7 +85,7 @@ TEST_F(FrmBVTest, OpensOnTheDefaultsOfANewCatchment) {
 
 TEST_F(FrmBVTest, TheFormIsMadeByItsName) {
   surface.SetCurrentObject(bv);
-  auto form = MakeEditorForm("frmBV", editor);
+  auto form = MakeEditorForm("frmBV", context);
   ASSERT_NE(form, nullptr);
   EXPECT_EQ(form->Caption(), "BV du complexe hydrologique");
 }
@@ -228,7 +228,6 @@ TEST_F(FrmBVTest, ParametersComeBackOnlyIfTheListDroppedDownWhileTheirFunctionWa
   Grid& g = form->grid();
   // Chosen without the list dropping down (the keyboard): nothing is saved.
   g.SetListIndex(kValue, 6, 0);
-  form->ListCloseUp(g, kValue, 6);
   EXPECT_EQ(g.Text(1, 7), "Coef de ruissellement =");
   Choose(*form, g, kValue, 6, 2);
   EXPECT_EQ(g.Text(kValue, 7), "");
@@ -256,7 +255,7 @@ TEST_F(FrmBVTest, AnEmptyListCellDoesNothing) {
   EXPECT_EQ(g.Text(kValue, 7), "3.000");
   EXPECT_FALSE(g.Locked(kValue, 9));
   form->ListDropDown(g, kValue, 6);
-  form->ListCloseUp(g, kValue, 6);
+  g.SetListIndex(kValue, 6, -1);
   EXPECT_EQ(g.Text(kValue, 7), "3.000");
   EXPECT_EQ(TagOf(bv, "fp_Cr"), "0.4");
 }

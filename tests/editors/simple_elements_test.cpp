@@ -54,7 +54,7 @@ TEST_F(SimpleElements, TheFormsAreMadeByTheirNamesWithTheirCaptions) {
       {clav, {"frmClav", "Condition limite aval (CLAV)"}}};
   for (const auto& [element, form] : forms) {
     surface.SetCurrentObject(element);
-    auto made = MakeEditorForm(form.first, editor);
+    auto made = MakeEditorForm(form.first, context);
     ASSERT_NE(made, nullptr) << form.first;
     EXPECT_EQ(made->Caption(), form.second);
     std::vector<std::string> names;
