@@ -24,7 +24,8 @@ struct Production {
 };
 
 constexpr std::array<Production, 4> kProductions = {{
-    {"1. CR constant (Coef. de Ruissellement)", {"Coef de ruissellement =", "", ""},
+    {"1. CR constant (Coef. de Ruissellement)",
+     {"Coef de ruissellement =", "", ""},
      {"fp_Cr", "", ""}},
     {"2. selon Horner",
      {"Coef de perte initiale (alpha) =", "Coef de recharge (beta) =", ""},
@@ -33,7 +34,8 @@ constexpr std::array<Production, 4> kProductions = {{
      {"Infiltration à saturation fc(mm/h) =", "Infiltration à sec A(mm/h) =",
       "Stockage potentiel du sol T(mm) ="},
      {"fp_fc", "fp_A", "fp_T"}},
-    {"4. Selon SCS", {"Capacité d'interception J(mm) =", "Temps de ressuyage du sol (jours) =", ""},
+    {"4. Selon SCS",
+     {"Capacité d'interception J(mm) =", "Temps de ressuyage du sol (jours) =", ""},
      {"fp_J", "fp_D", ""}},
 }};
 
@@ -79,9 +81,7 @@ const ImposedTime* ImposedTimeOf(int number) {
 }
 
 // The function number of a selection text: its first character.
-int NumberOf(std::string_view text) {
-  return text.empty() ? 0 : ValInt(text.substr(0, 1));
-}
+int NumberOf(std::string_view text) { return text.empty() ? 0 : ValInt(text.substr(0, 1)); }
 
 std::vector<TagRow> BvRows() {
   return {

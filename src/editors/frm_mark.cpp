@@ -5,8 +5,8 @@ namespace pluvane {
 FrmMark::FrmMark(EditorContext& context)
     : TagGridForm(context, "Marquage de sortie du résultat",
                   {
-      {"libell", "Identificateur (16 car. maxi)=", CellType::Text()},
-      {"Export", "Export de l'hydrogramme=", CellType::CheckBox()},
+                      {"libell", "Identificateur (16 car. maxi)=", CellType::Text()},
+                      {"Export", "Export de l'hydrogramme=", CellType::CheckBox()},
                   }) {}
 
 }  // namespace pluvane

@@ -82,8 +82,8 @@ void PointForm::LoadPoints(int count) {
   spread2_.SetMaxRows(count);
   for (int i = 1; i <= count; ++i) {
     for (int col = 1; col <= static_cast<int>(columns_.size()); ++col) {
-      spread2_.SetText(col, i, Tag(columns_[static_cast<std::size_t>(col - 1)].tag +
-                                   std::to_string(i)));
+      spread2_.SetText(col, i,
+                       Tag(columns_[static_cast<std::size_t>(col - 1)].tag + std::to_string(i)));
     }
   }
 }

@@ -2,15 +2,15 @@
 // (frmHy): their rows, their tables of points and the checks of Ok.
 #include <gtest/gtest.h>
 
-#include "element_fixture.h"
+#include "drawing/surface_helpers.h"
 #include "editors/editor_forms.h"
 #include "editors/frm_hy.h"
 #include "editors/frm_rs.h"
 #include "editors/frm_rsp.h"
+#include "element_fixture.h"
 #include "foundation/expect_message.h"
 #include "foundation/grid_clipboard.h"
 #include "foundation/paths.h"
-#include "drawing/surface_helpers.h"
 #include "simulation/record_lists.h"
 
 namespace pluvane {
@@ -100,8 +100,7 @@ TEST_F(Basins, ABasinOffersTheLinksLeavingItsNode) {
   EXPECT_EQ(form->spread2().Type(1, 0).kind, CellType::kText);
   form->cmdAddLine();
   EXPECT_EQ(form->spread2().Type(1, 1), CellType::Float(-9999999999.99, 9999999999.99, 2));
-  EXPECT_EQ(form->spread2().Type(2, 1),
-            CellType::Float(-999999999999.99, 999999999999.99, 2));
+  EXPECT_EQ(form->spread2().Type(2, 1), CellType::Float(-999999999999.99, 999999999999.99, 2));
 }
 
 TEST_F(Basins, ClickingALinkRowHighlightsTheLink) {
@@ -296,8 +295,15 @@ TEST_F(Basins, RowsAreAddedInsertedUpToTheLimitAndDeleted) {
 
 TEST_F(Basins, OkClearsTheFormerPointsAndCountsAnEmptyLastRow) {
   const int rs = Symbol("X_RS", 0, 0, n1);
-  Set(rs, {{"NbPt", "4"}, {"X1", "1"}, {"Y1", "1"}, {"X2", "2"}, {"Y2", "2"}, {"X3", "3"},
-           {"Y3", "3"}, {"X4", "4"}, {"Y4", "4"}});
+  Set(rs, {{"NbPt", "4"},
+           {"X1", "1"},
+           {"Y1", "1"},
+           {"X2", "2"},
+           {"Y2", "2"},
+           {"X3", "3"},
+           {"Y3", "3"},
+           {"X4", "4"},
+           {"Y4", "4"}});
   auto form = Open<FrmRs>(rs);
   Grid& t = form->spread2();
   ASSERT_EQ(t.MaxRows(), 4);
@@ -344,9 +350,9 @@ TEST_F(Basins, TheEditedConstantBasinReachesItsLinkRecord) {
             std::string::npos)
       << li1;
   EXPECT_EQ(Li2Record(4),
-            RecordWithGaps({{1, 0.3}, {2, 101.5}, {3, 100}, {4, 101}, {5, 103}, {13, 50},
-                            {14, 80}, {15, 200}},
-                           {{6, 12}, {16, 22}}));
+            RecordWithGaps(
+                {{1, 0.3}, {2, 101.5}, {3, 100}, {4, 101}, {5, 103}, {13, 50}, {14, 80}, {15, 200}},
+                {{6, 12}, {16, 22}}));
 }
 
 TEST_F(Basins, TheEditedParametricBasinReachesItsLinkRecord) {
@@ -365,8 +371,8 @@ TEST_F(Basins, TheEditedParametricBasinReachesItsLinkRecord) {
   Grid& g = form->grid();
   Choose(*form, g, kValue, 2, 1);
   g.SetText(kValue, 4, "12");
-  Fill(form->spread2(), {{"10", "100", "0.05", "0"}, {"12", "150", "0.1", "0"},
-                         {"14", "400", "0.2", "1.5"}});
+  Fill(form->spread2(),
+       {{"10", "100", "0.05", "0"}, {"12", "150", "0.1", "0"}, {"14", "400", "0.2", "1.5"}});
   form->Run("cmdOk");
   ASSERT_TRUE(form->Closed());
   EXPECT_EQ(TagOf(rsp, "IdAval"), "Fosse");

@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include "element_fixture.h"
 #include "editors/editor_forms.h"
+#include "element_fixture.h"
 #include "foundation/expect_message.h"
 
 namespace pluvane {
@@ -17,7 +17,8 @@ class FrmBVTest : public ElementEditorTest {
 
   // A catchment under production function 3 with its three parameters.
   void Holtan() {
-    Set(bv, {{"Fpluie", "3. selon Holtan"}, {"Fpluie1", "10"}, {"Fpluie2", "20"}, {"Fpluie3", "30"}});
+    Set(bv,
+        {{"Fpluie", "3. selon Holtan"}, {"Fpluie1", "10"}, {"Fpluie2", "20"}, {"Fpluie3", "30"}});
   }
   void ExpectRow(Grid& g, int row, const std::string& label, const std::string& value) {
     EXPECT_EQ(g.Text(1, row), label) << "row " << row;
@@ -66,11 +67,10 @@ TEST_F(FrmBVTest, OpensOnTheDefaultsOfANewCatchment) {
   ExpectLocked(*form, 9);
   EXPECT_EQ(g.Text(1, 10), "Fonction de production du ruissellement ");
   EXPECT_EQ(g.ListEntries(kValue, 10),
-            (std::vector<std::string>{"1. k (Desbordes) + réservoir linéaire",
-                                      "2. k (Giandotti) + réservoir linéaire",
-                                      "3. k (Passini) + réservoir linéaire",
-                                      "4. k (imposé) + réservoir linéaire",
-                                      "5. Tc (imposé) + hydrogramme unitaire type Socose"}));
+            (std::vector<std::string>{
+                "1. k (Desbordes) + réservoir linéaire", "2. k (Giandotti) + réservoir linéaire",
+                "3. k (Passini) + réservoir linéaire", "4. k (imposé) + réservoir linéaire",
+                "5. Tc (imposé) + hydrogramme unitaire type Socose"}));
   EXPECT_EQ(g.ListIndex(kValue, 10), 0);
   EXPECT_EQ(g.Text(1, 11), "Temps de réponse du BV (mn)=");
   EXPECT_EQ(g.Type(kValue, 11), CellType::Float(-99999.99, 99999.99, 2));
@@ -261,8 +261,8 @@ TEST_F(FrmBVTest, AnEmptyListCellDoesNothing) {
 }
 
 TEST_F(FrmBVTest, AnImportedBareDigitOpensOnItsFunction) {
-  Set(bv, {{"Fpluie", "2"}, {"Fpluie1", "0.3"}, {"Fpluie2", "0.1"}, {"Fruissel", "5"},
-           {"K", "25"}});
+  Set(bv,
+      {{"Fpluie", "2"}, {"Fpluie1", "0.3"}, {"Fpluie2", "0.1"}, {"Fruissel", "5"}, {"K", "25"}});
   auto form = Open<FrmBV>(bv);
   Grid& g = form->grid();
   EXPECT_EQ(g.ListIndex(kValue, 6), 1);

@@ -2,13 +2,13 @@
 // translator, output marker and downstream boundary condition.
 #include <gtest/gtest.h>
 
-#include "element_fixture.h"
 #include "editors/editor_forms.h"
 #include "editors/frm_clav.h"
 #include "editors/frm_hy_bv.h"
 #include "editors/frm_mark.h"
 #include "editors/frm_rout.h"
 #include "editors/frm_trans.h"
+#include "element_fixture.h"
 #include "foundation/expect_message.h"
 #include "foundation/numbers.h"
 
