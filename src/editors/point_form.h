@@ -28,7 +28,6 @@ bool CheckColumn(Grid& grid, int col, int& row);
 
 class PointForm : public TagGridForm {
  public:
-  // What the table is shown as in the plot viewer.
   // The page title of the table in the plot viewer: the prefix, the
   // element's Id and the suffix.
   struct Plot {
