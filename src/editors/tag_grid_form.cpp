@@ -21,6 +21,7 @@ TagGridForm::TagGridForm(EditorContext& context, std::string caption, std::vecto
       grid_(kValueCol, static_cast<int>(rows_.size())) {
   grid_.SetCaption(caption_);
   grid_.SetColumnLocked(kLabelCol, true);
+  grid_.SetColumnColours(kLabelCol, kLabelBackColour, kDefaultColour);
   Surface& surface = context_.surface;
   element_ = surface.CurrentObject();
   for (std::size_t i = 0; i < rows_.size(); ++i) {
@@ -66,7 +67,7 @@ bool TagGridForm::StoreRows() {
         grid_.SetActiveCell(kValueCol, row);
         return false;
       }
-    } else if (r.type.kind == CellType::kFloat) {
+    } else if (r.type.kind == CellType::kFloat && !grid_.IsBlank(kValueCol, row)) {
       surface.SetObjTag(r.tag, grid_.Value(kValueCol, row));
     } else {
       surface.SetObjTag(r.tag, grid_.Text(kValueCol, row));

@@ -2,7 +2,8 @@
 // column 1 and values in column 2, one row per tag of the element that was
 // current when the form opened. Row 1 is the user's label (libell), which
 // Ok writes first and checks against the other elements of the kind; the
-// other rows follow in order, numbers as numbers and texts as they stand.
+// other rows follow in order, numbers as numbers (a blank number stays
+// blank) and texts as they stand.
 // A click on a cell shows its text in the main window's status line.
 #pragma once
 
@@ -26,6 +27,8 @@ class TagGridForm : public FormController {
   static constexpr int kLabelCol = 1;
   static constexpr int kValueCol = 2;
   static constexpr int kLabelRow = 1;
+  // The grey of the label cells.
+  static constexpr std::int32_t kLabelBackColour = kButtonFaceColour;
 
   std::string Caption() const override { return caption_; }
   std::vector<Grid*> Grids() override { return {&grid_}; }

@@ -87,8 +87,6 @@ FormWindow::FormWindow(FormController& controller, QWidget* parent)
             });
     connect(table->gridDelegate(), &GridItemDelegate::listDroppedDown, this,
             [this, index](int col, int row) { ListDropDown(index, col, row); });
-    connect(table->gridDelegate(), &GridItemDelegate::listClosedUp, this,
-            [this, index](int col, int row) { ListCloseUp(index, col, row); });
     layout->addWidget(table);
     tables_.push_back(table);
     models_.push_back(model);
@@ -154,11 +152,6 @@ void FormWindow::LeaveCell(int index, int col, int row) {
 
 void FormWindow::ListDropDown(int index, int col, int row) {
   controller_.ListDropDown(models_.at(index)->grid(), col, row);
-  AfterEvent();
-}
-
-void FormWindow::ListCloseUp(int index, int col, int row) {
-  controller_.ListCloseUp(models_.at(index)->grid(), col, row);
   AfterEvent();
 }
 

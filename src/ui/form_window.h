@@ -33,7 +33,6 @@ class FormWindow : public QDialog {
   void DoubleClickCell(int index, int col, int row);
   void LeaveCell(int index, int col, int row);
   void ListDropDown(int index, int col, int row);
-  void ListCloseUp(int index, int col, int row);
 
  protected:
   void showEvent(QShowEvent* event) override;

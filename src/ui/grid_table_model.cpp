@@ -248,10 +248,7 @@ QWidget* GridItemDelegate::createEditor(QWidget* parent, const QStyleOptionViewI
     auto* self = const_cast<GridItemDelegate*>(this);
     connect(combo, &GridComboBox::droppedDown, self,
             [self, col, row] { emit self->listDroppedDown(col, row); });
-    connect(combo, &GridComboBox::closedUp, self, [self, combo, col, row] {
-      emit self->commitData(combo);
-      emit self->listClosedUp(col, row);
-    });
+    connect(combo, &GridComboBox::closedUp, self, [self, combo] { emit self->commitData(combo); });
     return combo;
   }
   QWidget* editor = QStyledItemDelegate::createEditor(parent, option, index);

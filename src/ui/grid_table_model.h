@@ -59,14 +59,13 @@ class GridComboBox : public QComboBox {
 
 // Edits list cells in a combo box of their entries, and draws button cells
 // as push buttons (an ampersand of their text marks the mnemonic). The list's
-// dropping down and closing up are told with the cell (columns and rows from
-// 1), the choice written to the grid before the closing up.
+// dropping down is told with the cell (columns and rows from 1); the choice is
+// written to the grid as soon as the list closes up.
 class GridItemDelegate : public QStyledItemDelegate {
   Q_OBJECT
 
  signals:
   void listDroppedDown(int col, int row);
-  void listClosedUp(int col, int row);
 
  public:
   explicit GridItemDelegate(GridTableModel* model, QObject* parent = nullptr)
