@@ -297,6 +297,39 @@ TEST_F(FrmEditTest, TheLawOfADividerOpensWithFourColumns) {
   EXPECT_EQ(Val(TagOf(dqq, "Z2")), 0.25);
 }
 
+TEST_F(FrmEditTest, ABasinTakesItsOutletsFromTheLinksOfItsNode) {
+  BuildNetwork();
+  const int n4 = Node(3000, 3000);
+  Link("X_CAC", n2, n4);
+  const int rs = Symbol("X_RS", 0, 0, n2);
+  FrmEdit form(context);
+  EXPECT_EQ(form.CurrentTab(), kRs);
+  Grid& sheet = form.Sheet(kRs);
+  ASSERT_EQ(sheet.MaxCols(), 6);
+  EXPECT_EQ(sheet.ColHead(2), "Id. de la restitution aval");
+  EXPECT_EQ(sheet.ColHead(6), "Courbe de remplissage S=f(Z)");
+  EXPECT_EQ(sheet.Type(3, 1), CellType::List("Cac_2\tCac_3"));
+  sheet.SetListIndex(2, 1, 0);
+  sheet.SetListIndex(3, 1, 1);
+  sheet.SetText(4, 1, "0.35");
+  form.Run("mnSave");
+  EXPECT_EQ(TagOf(rs, "IdAval"), "Cac_2");
+  EXPECT_EQ(TagOf(rs, "IdSurv"), "Cac_3");
+  EXPECT_EQ(TagOf(rs, "Qf"), "0.35");
+}
+
+TEST_F(FrmEditTest, ANetworkWithoutElementsHasNoSheetToSave) {
+  Node(1000, 1000);
+  FrmEdit form(context);
+  EXPECT_EQ(form.CurrentTab(), -1);
+  for (int tab = 0; tab < form.TabCount(); ++tab) EXPECT_EQ(form.TabCaption(tab), "") << tab;
+  for (const FormCommand& command : form.Commands()) {
+    if (command.name == "mnSave" || command.name == "mnPrint") EXPECT_FALSE(command.enabled);
+  }
+  form.Run("mnSave");
+  EXPECT_TRUE(ui.Progress().empty());
+}
+
 TEST_F(FrmEditTest, TheSectionListWarnsWhenTheLibraryIsEmpty) {
   BuildNetwork();
   Link("X_CAF", n1, n3);
