@@ -264,7 +264,7 @@ void FrmEdit::EditCurve(SheetState& sheet, int col, int row) {
   CurveFileToTags(surface, context_.ui, file, kCurveName, curve.columns);
 }
 
-void FrmEdit::DropDownList(Grid& grid, int col, int /*row*/) {
+void FrmEdit::ListDropDown(Grid& grid, int col, int /*row*/) {
   SheetState* sheet = SheetOf(grid);
   if (!sheet || col == 0 || col != ColumnOf(*sheet, SheetCell::kSection)) return;
   if (SectionIds(context_.surface).empty()) {

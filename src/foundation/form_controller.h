@@ -48,6 +48,9 @@ class FormController {
   virtual void DoubleClickCell(Grid& /*grid*/, int /*col*/, int /*row*/) {}
   // The cursor leaves the cell (it may be put back there by the form).
   virtual void LeaveCell(Grid& /*grid*/, int /*col*/, int /*row*/) {}
+  // The list of a list cell drops down, before any new choice reaches the
+  // cell: the cell still shows the former one.
+  virtual void ListDropDown(Grid& /*grid*/, int /*col*/, int /*row*/) {}
 
   // True once a command has unloaded the form.
   bool Closed() const { return closed_; }

@@ -337,13 +337,13 @@ TEST_F(FrmEditTest, TheSectionListWarnsWhenTheLibraryIsEmpty) {
   form.ClickTab(kCaf);
   Grid& sheet = form.Sheet(kCaf);
   EXPECT_EQ(sheet.ColHead(4), " Id.  de la section");
-  form.DropDownList(sheet, 4, 1);
+  form.ListDropDown(sheet, 4, 1);
   ExpectLastMessage(ui,
                     "Voir 'Option/Sections de collecteur' pour définir la géométrie de la section "
                     "des collecteurs paramétriques.",
                     kCaption, MessageIcon::kInformation);
   ui.Clear();
-  form.DropDownList(sheet, 2, 1);
+  form.ListDropDown(sheet, 2, 1);
   EXPECT_TRUE(ui.Empty());
 }
 
