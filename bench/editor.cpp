@@ -54,7 +54,8 @@ int main(int argc, char** argv) {
     form.mnSave();
     unchanged += Milliseconds(start);
     pluvane::Grid& sheet = form.Sheet(tab);
-    for (int row = 1; row <= sheet.MaxRows(); ++row) sheet.SetText(1, row, "E" + std::to_string(row));
+    for (int row = 1; row <= sheet.MaxRows(); ++row)
+      sheet.SetText(1, row, "E" + std::to_string(row));
     start = std::chrono::steady_clock::now();
     form.mnSave();
     changed += Milliseconds(start);

@@ -156,10 +156,7 @@ TEST_F(FrmEditTest, ARowWhoseElementIsGoneReportsItAndTheLoopGoesOn) {
 
 TEST_F(FrmEditTest, AFunctionFourRowWithoutParametersStoresThemEmpty) {
   BuildNetwork();
-  Set(bv, {{"Fpluie", "3. selon Holtan"},
-           {"Fpluie1", "10"},
-           {"Fpluie2", "20"},
-           {"Fpluie3", "30"}});
+  Set(bv, {{"Fpluie", "3. selon Holtan"}, {"Fpluie1", "10"}, {"Fpluie2", "20"}, {"Fpluie3", "30"}});
   FrmEdit form(context);
   form.ClickTab(kBv);
   Grid& sheet = form.Sheet(kBv);
@@ -210,8 +207,9 @@ TEST_F(FrmEditTest, TheTwoCatchmentSheetsDifferInTheirLastTransferAndTheDryFlow)
   EXPECT_EQ(simple.Type(6, 1), CellType::List("1. CR constant\t2. selon Horner\t3. selon "
                                               "Holtan\t4. Socose (SCS)"));
   form.ClickTab(kBv);
-  EXPECT_EQ(form.Sheet(kBv).Type(10, 1),
-            CellType::List("1. K Desbordes\t2. K Giandotti\t3. K Passini\t4. K imposé\t5. Tc imposé"));
+  EXPECT_EQ(
+      form.Sheet(kBv).Type(10, 1),
+      CellType::List("1. K Desbordes\t2. K Giandotti\t3. K Passini\t4. K imposé\t5. Tc imposé"));
 }
 
 TEST_F(FrmEditTest, DividerSheetsListTheLinksOfEachNode) {
@@ -364,11 +362,14 @@ TEST_F(FrmEditTest, SaveToTextWritesEverySheetAndComesBack) {
   EXPECT_EQ(text.find("ancien"), std::string::npos);
   const std::string cac_block =
       "Id. (16 car maxi)\tZ radier amont (ngf)\tZ radier aval (ngf)\tDiam\xE8tre (m)\tLongueur "
-      "(m)\tCoef. de Strickler (-)\t Hmoy sous chauss\xE9" "e (m)\t Surface du r\xE9servoir fictif "
+      "(m)\tCoef. de Strickler (-)\t Hmoy sous chauss\xE9"
+      "e (m)\t Surface du r\xE9servoir fictif "
       "(m2)\rCac_1\t10.5\t10\t0.8\t";
   EXPECT_NE(text.find(cac_block), std::string::npos);
   EXPECT_NE(text.find("\rAval non valid\xE9\t0\t0\t1\t"), std::string::npos);
-  EXPECT_NE(text.find("Id. (16 car maxi)\tD\xE9" "bit de temps sec (m3/s)\t"), std::string::npos);
+  EXPECT_NE(text.find("Id. (16 car maxi)\tD\xE9"
+                      "bit de temps sec (m3/s)\t"),
+            std::string::npos);
   EXPECT_NE(text.find("\rBv_1\t5\t50\t0.005\t0.60\t1. CR constant\t0.50\t\t\t1. K Desbordes\t\r"),
             std::string::npos);
   EXPECT_EQ(text.find("\n"), std::string::npos);
