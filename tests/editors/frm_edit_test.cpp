@@ -316,6 +316,33 @@ TEST_F(FrmEditTest, ABasinTakesItsOutletsFromTheLinksOfItsNode) {
   EXPECT_EQ(TagOf(rs, "Qf"), "0.35");
 }
 
+TEST_F(FrmEditTest, TheLawsOfABasinOpenWithFourColumnsUnderTheButtonsHead) {
+  BuildNetwork();
+  Link("X_CAC", n2, Node(3000, 3000));
+  const int rsp = Symbol("X_RSP", 0, 0, n2);
+  Set(rsp, {{"NbPt", "2"}, {"X2", "1"}, {"Y2", "50"}, {"Z2", "0.1"}, {"T2", "0.2"}});
+  FrmEdit form(context);
+  ASSERT_EQ(form.CurrentTab(), kRsp);
+  EXPECT_EQ(form.Sheet(kRsp).ColHead(5), "Courbes caractériques");
+  on_form = [](FormController& shown) {
+    auto& editor = dynamic_cast<FrmCrbx&>(shown);
+    EXPECT_EQ(editor.Caption(), "Courbes caractériques");
+    EXPECT_EQ(editor.Columns(), 4);
+    EXPECT_EQ(editor.grid().ColHead(1), "Z retenue (ngf)");
+    EXPECT_EQ(editor.grid().ColHead(2), "Surface au miroir (m2)");
+    EXPECT_EQ(editor.grid().ColHead(3), "Debit de fuite (m3/s)");
+    EXPECT_EQ(editor.grid().ColHead(4), "Debit de surverse (m3/s)");
+    editor.grid().SetText(3, 2, "0.15");
+    editor.Run("mnSave");
+  };
+  form.ButtonCell(form.Sheet(kRsp), 5, 1);
+  EXPECT_EQ(Val(TagOf(rsp, "Z2")), 0.15);
+  EXPECT_EQ(Val(TagOf(rsp, "T2")), 0.2);
+  // A click on another column of the row opens nothing.
+  form.ButtonCell(form.Sheet(kRsp), 4, 1);
+  EXPECT_EQ(shown_forms.size(), 1u);
+}
+
 TEST_F(FrmEditTest, ANetworkWithoutElementsHasNoSheetToSave) {
   Node(1000, 1000);
   FrmEdit form(context);
