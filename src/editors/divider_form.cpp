@@ -44,7 +44,8 @@ DividerForm::DividerForm(EditorContext& context, std::string caption, int cols)
                           "Id. de la dérivation 1 (16 car maxi)=",
                           "Id. de la dérivation 2 (16 car maxi)=",
                           "Id. de la dérivation 3 (16 car maxi)="};
-  for (int row = kRowLabel; row <= kRowDer3; ++row) spread1_.SetText(kColLabel, row, labels[row - 1]);
+  for (int row = kRowLabel; row <= kRowDer3; ++row)
+    spread1_.SetText(kColLabel, row, labels[row - 1]);
   old_label_ = TagOfObject(surface, element_, "libell");
   spread1_.SetText(kColValue, kRowLabel, old_label_);
   spread1_.SetType(kColValue, kRowCount, CellType::Integer(0, 0));

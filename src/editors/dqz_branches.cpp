@@ -14,9 +14,9 @@ namespace pluvane {
 namespace {
 
 constexpr std::array<DqzBranch, 4> kBranches{{{2, "TypeAval", "Xav", "Yav", "NbPtAv"},
-                                               {4, "TypeDer_a", "Xda", "Yda", "NbPtDa"},
-                                               {5, "TypeDer_b", "Xdb", "Ydb", "NbPtDb"},
-                                               {6, "TypeDer_c", "Xdc", "Ydc", "NbPtDc"}}};
+                                              {4, "TypeDer_a", "Xda", "Yda", "NbPtDa"},
+                                              {5, "TypeDer_b", "Xdb", "Ydb", "NbPtDb"},
+                                              {6, "TypeDer_c", "Xdc", "Ydc", "NbPtDc"}}};
 
 std::string Field(double value) { return FormatFixed(value, 10, 2); }
 

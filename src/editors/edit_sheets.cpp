@@ -37,15 +37,15 @@ std::vector<SheetColumn> CatchmentColumns(bool simple) {
 std::vector<SheetLayout> MakeSheets() {
   const SheetCurve basin{2, {"Z retenue (ngf)", "Surface au miroir (m2)", "", ""}, "", 10};
   const SheetCurve basin_laws{4,
-                              {"Z retenue (ngf)", "Surface au miroir (m2)",
-                               "Debit de fuite (m3/s)", "Debit de surverse (m3/s)"},
+                              {"Z retenue (ngf)", "Surface au miroir (m2)", "Debit de fuite (m3/s)",
+                               "Debit de surverse (m3/s)"},
                               "",
                               10};
-  const SheetCurve shares{4,
-                          {"Débit amont (m3/s)", "Débit der1 (m3/s)", "Débit der2 (m3/s)",
-                           "Débit der3 (m3/s)"},
-                          "",
-                          10};
+  const SheetCurve shares{
+      4,
+      {"Débit amont (m3/s)", "Débit der1 (m3/s)", "Débit der2 (m3/s)", "Débit der3 (m3/s)"},
+      "",
+      10};
   const SheetCurve hydrograph{2, {"Temps (mn)", "Debit (m3/s)", "", ""}, "Hydrogramme", 100};
   return {
       {kINamePLU,
@@ -80,7 +80,8 @@ std::vector<SheetLayout> MakeSheets() {
        shares},
       {kINameCAO,
        "Collecteurs ouverts",
-       {Label(), Number("Z radier amont (ngf)", "ZRam", -kLevel, kLevel, 2),
+       {Label(),
+        Number("Z radier amont (ngf)", "ZRam", -kLevel, kLevel, 2),
         Number("Z radier aval (ngf)", "ZRav", -kLevel, kLevel, 2),
         {" Id.  de la section", "IdSect", SheetCell::kSection},
         Number("Longueur (m)", "L", 0, kLevel, 2),
@@ -89,7 +90,8 @@ std::vector<SheetLayout> MakeSheets() {
         Number(" Coef. de Strickler du lit majeur(-)", "Kmaj", 0, kLevel, 2)}},
       {kINameCAF,
        "Collecteurs fermés",
-       {Label(), Number("Z radier amont (ngf)", "ZRam", -kLevel, kLevel, 2),
+       {Label(),
+        Number("Z radier amont (ngf)", "ZRam", -kLevel, kLevel, 2),
         Number("Z radier aval (ngf)", "ZRav", -kLevel, kLevel, 2),
         {" Id.  de la section", "IdSect", SheetCell::kSection},
         Number("Longueur (m)", "L", 0, kLevel, 2),

@@ -12,10 +12,10 @@ namespace {
 constexpr int kRows = 3;
 constexpr double kLimit = 99999999.999;
 
-const char* const kWeirLabels[kRows] = {"Cote seuil (ngf)=", "Largeur (m)=",
-                                        "Coefficient de seuil (.)="};
-const char* const kOrificeLabels[kRows] = {"Cote radier d'orifice (ngf)=", "Diamètre (m)=",
-                                           "Coefficient d'orifice (.)="};
+const char* const kWeirLabels[kRows] = {
+    "Cote seuil (ngf)=", "Largeur (m)=", "Coefficient de seuil (.)="};
+const char* const kOrificeLabels[kRows] = {
+    "Cote radier d'orifice (ngf)=", "Diamètre (m)=", "Coefficient d'orifice (.)="};
 
 }  // namespace
 

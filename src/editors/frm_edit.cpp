@@ -174,8 +174,8 @@ void FrmEdit::Fill(SheetState& sheet) {
       const LeavingLinks leaving = LinksLeavingNode(surface, object);
       if (leaving.handles.empty()) {
         context_.ui.ShowMessage(
-            "attention " + TagOfObject(surface, object, "libell") + " : pas d'elm aval ?",
-            kCaption, MessageIcon::kExclamation);
+            "attention " + TagOfObject(surface, object, "libell") + " : pas d'elm aval ?", kCaption,
+            MessageIcon::kExclamation);
       }
       links = leaving.List();
     }
@@ -219,7 +219,8 @@ void FrmEdit::SetParameterNotes(SheetState& sheet, int row) {
   const int production = ColumnOf(sheet, SheetCell::kProduction);
   const int first = ColumnOf(sheet, SheetCell::kParameter);
   const auto heads = ProductionParameterHeads(ValInt(sheet.grid.Text(production, row)));
-  for (int i = 0; i < 3; ++i) sheet.grid.SetNote(first + i, row, heads[static_cast<std::size_t>(i)]);
+  for (int i = 0; i < 3; ++i)
+    sheet.grid.SetNote(first + i, row, heads[static_cast<std::size_t>(i)]);
 }
 
 void FrmEdit::ClickCell(Grid& grid, int col, int row) {
@@ -234,9 +235,11 @@ void FrmEdit::ButtonCell(Grid& grid, int col, int row) {
   if (!sheet || row < 1 || row > static_cast<int>(sheet->objects.size())) return;
   if (col != ColumnOf(*sheet, SheetCell::kButton)) return;
   if (sheet->layout->i_name == kINameDQZ) {
-    context_.ui.ShowMessage("Ouvrir le détail de la répartition de débits\r\npour éditer le "
-                            "déversoir " + grid.Text(1, row),
-                            "Déversoir géométrique", MessageIcon::kInformation);
+    context_.ui.ShowMessage(
+        "Ouvrir le détail de la répartition de débits\r\npour éditer le "
+        "déversoir " +
+            grid.Text(1, row),
+        "Déversoir géométrique", MessageIcon::kInformation);
     return;
   }
   if (sheet->layout->curve.columns > 0) EditCurve(*sheet, col, row);
@@ -264,7 +267,7 @@ void FrmEdit::EditCurve(SheetState& sheet, int col, int row) {
   CurveFileToTags(surface, context_.ui, file, kCurveName, curve.columns);
 }
 
-void FrmEdit::DropDownList(Grid& grid, int col, int /*row*/) {
+void FrmEdit::ListDropDown(Grid& grid, int col, int /*row*/) {
   SheetState* sheet = SheetOf(grid);
   if (!sheet || col == 0 || col != ColumnOf(*sheet, SheetCell::kSection)) return;
   if (SectionIds(context_.surface).empty()) {
@@ -328,8 +331,8 @@ std::vector<std::string> FrmEdit::SheetLines(int tab) const {
     std::string line;
     for (int col = 1; col <= grid.MaxCols(); ++col) {
       if (col > 1) line += '\t';
-      const bool button = sheet.layout->columns[static_cast<std::size_t>(col - 1)].cell ==
-                          SheetCell::kButton;
+      const bool button =
+          sheet.layout->columns[static_cast<std::size_t>(col - 1)].cell == SheetCell::kButton;
       if (row == 0 || !button) line += grid.Text(col, row);
     }
     lines.push_back(std::move(line));
@@ -383,8 +386,9 @@ void FrmEdit::mnuSave2Txt() {
     std::ofstream out(target, std::ios::binary | std::ios::app);
     out << Utf8ToCp1252(block);
     out.close();
-    if (!out) AppendTextLines(log, {"Erreur d'écriture de la feuille " + TabCaption(tab) +
-                                    " dans " + target});
+    if (!out)
+      AppendTextLines(log,
+                      {"Erreur d'écriture de la feuille " + TabCaption(tab) + " dans " + target});
   }
   // Back to the sheet of before, as it stood.
   ClearHighlight(context_.surface);

@@ -5,8 +5,7 @@
 // parallel to them; grid edits reach the elements only through mnSave.
 //
 // The window shows the sheets as tabs (TabCount, TabCaption, ClickTab) with
-// the commands as its menu; it tells the form when a list of a cell drops
-// down (DropDownList).
+// the commands as its menu.
 #pragma once
 
 #include <string>
@@ -54,7 +53,7 @@ class FrmEdit : public FormController {
   // The button of a row opens its curve in the curve editor.
   void ButtonCell(Grid& grid, int col, int row) override;
   // A list drops down: the sections' list warns when there is no section.
-  void DropDownList(Grid& grid, int col, int row);
+  void ListDropDown(Grid& grid, int col, int row) override;
 
   // --- Commands -------------------------------------------------------------
   // Stores every row of the current sheet in its element.

@@ -58,8 +58,7 @@ TEST_F(FrmDqzTest, OpensWithTheTypesOfANewDivider) {
   EXPECT_EQ(s1.Text(2, 3), "3");
   for (int row : {2, 4, 5, 6}) {
     EXPECT_EQ(s1.Type(2, row), CellType::List("Cac_2\tCac_3\tFossé\tCac_4")) << row;
-    EXPECT_EQ(s1.Type(3, row),
-              CellType::List("1. Seuil\t2. Orifice\t3. Strickler\t4. Z = f(Q)"))
+    EXPECT_EQ(s1.Type(3, row), CellType::List("1. Seuil\t2. Orifice\t3. Strickler\t4. Z = f(Q)"))
         << row;
     EXPECT_EQ(s1.Text(3, row), "3. Strickler") << row;
     EXPECT_EQ(s1.Type(4, row), CellType::Button()) << row;
@@ -169,8 +168,8 @@ TEST_F(FrmDqzTest, AWeirOpensItsThreeParametersAndSavesThemAtOnce) {
   AnswerParameters("101.5", "2", "0.4");
   form.ButtonCell(form.spread1(), 4, 4);
   EXPECT_EQ(shown_forms, std::vector<std::string>{"Seuil déversant"});
-  EXPECT_EQ(seen_labels, (std::vector<std::string>{"Cote seuil (ngf)=", "Largeur (m)=",
-                                                   "Coefficient de seuil (.)="}));
+  EXPECT_EQ(seen_labels, (std::vector<std::string>{
+                             "Cote seuil (ngf)=", "Largeur (m)=", "Coefficient de seuil (.)="}));
   // The values of the former type stay on show until replaced.
   EXPECT_EQ(seen_values, (std::vector<std::string>{"1", "2", ""}));
   EXPECT_EQ(seen_cursor, 1);
@@ -183,8 +182,8 @@ TEST_F(FrmDqzTest, AWeirOpensItsThreeParametersAndSavesThemAtOnce) {
   AnswerParameters("99", "0.3", "0.6");
   form.ButtonCell(form.spread1(), 4, 6);
   EXPECT_EQ(shown_forms.back(), "Orifice");
-  EXPECT_EQ(seen_labels, (std::vector<std::string>{"Cote radier d'orifice (ngf)=",
-                                                   "Diamètre (m)=", "Coefficient d'orifice (.)="}));
+  EXPECT_EQ(seen_labels, (std::vector<std::string>{"Cote radier d'orifice (ngf)=", "Diamètre (m)=",
+                                                   "Coefficient d'orifice (.)="}));
   EXPECT_EQ(TagOf(divider, "Xdc2"), "0.3");
   form.Run("cmdAnnul");
   EXPECT_EQ(TagOf(divider, "Xda1"), "101.5");
@@ -192,8 +191,8 @@ TEST_F(FrmDqzTest, AWeirOpensItsThreeParametersAndSavesThemAtOnce) {
 }
 
 TEST_F(FrmDqzTest, ACurveBranchIsEditedThroughTheCurveFile) {
-  Set(divider, {{"NbPtDa", "2"}, {"Xda1", "100"}, {"Yda1", "0"}, {"Xda2", "101.5"},
-                {"Yda2", "0.8"}});
+  Set(divider,
+      {{"NbPtDa", "2"}, {"Xda1", "100"}, {"Yda1", "0"}, {"Xda2", "101.5"}, {"Yda2", "0.8"}});
   FrmDqz form(context);
   Branch(form, 4, "Cac_3", "4. Z = f(Q)");
   std::string file_at_opening;

@@ -156,10 +156,7 @@ TEST_F(FrmEditTest, ARowWhoseElementIsGoneReportsItAndTheLoopGoesOn) {
 
 TEST_F(FrmEditTest, AFunctionFourRowWithoutParametersStoresThemEmpty) {
   BuildNetwork();
-  Set(bv, {{"Fpluie", "3. selon Holtan"},
-           {"Fpluie1", "10"},
-           {"Fpluie2", "20"},
-           {"Fpluie3", "30"}});
+  Set(bv, {{"Fpluie", "3. selon Holtan"}, {"Fpluie1", "10"}, {"Fpluie2", "20"}, {"Fpluie3", "30"}});
   FrmEdit form(context);
   form.ClickTab(kBv);
   Grid& sheet = form.Sheet(kBv);
@@ -210,8 +207,9 @@ TEST_F(FrmEditTest, TheTwoCatchmentSheetsDifferInTheirLastTransferAndTheDryFlow)
   EXPECT_EQ(simple.Type(6, 1), CellType::List("1. CR constant\t2. selon Horner\t3. selon "
                                               "Holtan\t4. Socose (SCS)"));
   form.ClickTab(kBv);
-  EXPECT_EQ(form.Sheet(kBv).Type(10, 1),
-            CellType::List("1. K Desbordes\t2. K Giandotti\t3. K Passini\t4. K imposé\t5. Tc imposé"));
+  EXPECT_EQ(
+      form.Sheet(kBv).Type(10, 1),
+      CellType::List("1. K Desbordes\t2. K Giandotti\t3. K Passini\t4. K imposé\t5. Tc imposé"));
 }
 
 TEST_F(FrmEditTest, DividerSheetsListTheLinksOfEachNode) {
@@ -297,6 +295,66 @@ TEST_F(FrmEditTest, TheLawOfADividerOpensWithFourColumns) {
   EXPECT_EQ(Val(TagOf(dqq, "Z2")), 0.25);
 }
 
+TEST_F(FrmEditTest, ABasinTakesItsOutletsFromTheLinksOfItsNode) {
+  BuildNetwork();
+  const int n4 = Node(3000, 3000);
+  Link("X_CAC", n2, n4);
+  const int rs = Symbol("X_RS", 0, 0, n2);
+  FrmEdit form(context);
+  EXPECT_EQ(form.CurrentTab(), kRs);
+  Grid& sheet = form.Sheet(kRs);
+  ASSERT_EQ(sheet.MaxCols(), 6);
+  EXPECT_EQ(sheet.ColHead(2), "Id. de la restitution aval");
+  EXPECT_EQ(sheet.ColHead(6), "Courbe de remplissage S=f(Z)");
+  EXPECT_EQ(sheet.Type(3, 1), CellType::List("Cac_2\tCac_3"));
+  sheet.SetListIndex(2, 1, 0);
+  sheet.SetListIndex(3, 1, 1);
+  sheet.SetText(4, 1, "0.35");
+  form.Run("mnSave");
+  EXPECT_EQ(TagOf(rs, "IdAval"), "Cac_2");
+  EXPECT_EQ(TagOf(rs, "IdSurv"), "Cac_3");
+  EXPECT_EQ(TagOf(rs, "Qf"), "0.35");
+}
+
+TEST_F(FrmEditTest, TheLawsOfABasinOpenWithFourColumnsUnderTheButtonsHead) {
+  BuildNetwork();
+  Link("X_CAC", n2, Node(3000, 3000));
+  const int rsp = Symbol("X_RSP", 0, 0, n2);
+  Set(rsp, {{"NbPt", "2"}, {"X2", "1"}, {"Y2", "50"}, {"Z2", "0.1"}, {"T2", "0.2"}});
+  FrmEdit form(context);
+  ASSERT_EQ(form.CurrentTab(), kRsp);
+  EXPECT_EQ(form.Sheet(kRsp).ColHead(5), "Courbes caractériques");
+  on_form = [](FormController& shown) {
+    auto& editor = dynamic_cast<FrmCrbx&>(shown);
+    EXPECT_EQ(editor.Caption(), "Courbes caractériques");
+    EXPECT_EQ(editor.Columns(), 4);
+    EXPECT_EQ(editor.grid().ColHead(1), "Z retenue (ngf)");
+    EXPECT_EQ(editor.grid().ColHead(2), "Surface au miroir (m2)");
+    EXPECT_EQ(editor.grid().ColHead(3), "Debit de fuite (m3/s)");
+    EXPECT_EQ(editor.grid().ColHead(4), "Debit de surverse (m3/s)");
+    editor.grid().SetText(3, 2, "0.15");
+    editor.Run("mnSave");
+  };
+  form.ButtonCell(form.Sheet(kRsp), 5, 1);
+  EXPECT_EQ(Val(TagOf(rsp, "Z2")), 0.15);
+  EXPECT_EQ(Val(TagOf(rsp, "T2")), 0.2);
+  // A click on another column of the row opens nothing.
+  form.ButtonCell(form.Sheet(kRsp), 4, 1);
+  EXPECT_EQ(shown_forms.size(), 1u);
+}
+
+TEST_F(FrmEditTest, ANetworkWithoutElementsHasNoSheetToSave) {
+  Node(1000, 1000);
+  FrmEdit form(context);
+  EXPECT_EQ(form.CurrentTab(), -1);
+  for (int tab = 0; tab < form.TabCount(); ++tab) EXPECT_EQ(form.TabCaption(tab), "") << tab;
+  for (const FormCommand& command : form.Commands()) {
+    if (command.name == "mnSave" || command.name == "mnPrint") EXPECT_FALSE(command.enabled);
+  }
+  form.Run("mnSave");
+  EXPECT_TRUE(ui.Progress().empty());
+}
+
 TEST_F(FrmEditTest, TheSectionListWarnsWhenTheLibraryIsEmpty) {
   BuildNetwork();
   Link("X_CAF", n1, n3);
@@ -304,13 +362,13 @@ TEST_F(FrmEditTest, TheSectionListWarnsWhenTheLibraryIsEmpty) {
   form.ClickTab(kCaf);
   Grid& sheet = form.Sheet(kCaf);
   EXPECT_EQ(sheet.ColHead(4), " Id.  de la section");
-  form.DropDownList(sheet, 4, 1);
+  form.ListDropDown(sheet, 4, 1);
   ExpectLastMessage(ui,
                     "Voir 'Option/Sections de collecteur' pour définir la géométrie de la section "
                     "des collecteurs paramétriques.",
                     kCaption, MessageIcon::kInformation);
   ui.Clear();
-  form.DropDownList(sheet, 2, 1);
+  form.ListDropDown(sheet, 2, 1);
   EXPECT_TRUE(ui.Empty());
 }
 
@@ -331,11 +389,14 @@ TEST_F(FrmEditTest, SaveToTextWritesEverySheetAndComesBack) {
   EXPECT_EQ(text.find("ancien"), std::string::npos);
   const std::string cac_block =
       "Id. (16 car maxi)\tZ radier amont (ngf)\tZ radier aval (ngf)\tDiam\xE8tre (m)\tLongueur "
-      "(m)\tCoef. de Strickler (-)\t Hmoy sous chauss\xE9" "e (m)\t Surface du r\xE9servoir fictif "
+      "(m)\tCoef. de Strickler (-)\t Hmoy sous chauss\xE9"
+      "e (m)\t Surface du r\xE9servoir fictif "
       "(m2)\rCac_1\t10.5\t10\t0.8\t";
   EXPECT_NE(text.find(cac_block), std::string::npos);
   EXPECT_NE(text.find("\rAval non valid\xE9\t0\t0\t1\t"), std::string::npos);
-  EXPECT_NE(text.find("Id. (16 car maxi)\tD\xE9" "bit de temps sec (m3/s)\t"), std::string::npos);
+  EXPECT_NE(text.find("Id. (16 car maxi)\tD\xE9"
+                      "bit de temps sec (m3/s)\t"),
+            std::string::npos);
   EXPECT_NE(text.find("\rBv_1\t5\t50\t0.005\t0.60\t1. CR constant\t0.50\t\t\t1. K Desbordes\t\r"),
             std::string::npos);
   EXPECT_EQ(text.find("\n"), std::string::npos);

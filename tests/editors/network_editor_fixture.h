@@ -33,7 +33,9 @@ class NetworkEditorTest : public ModelTest {
   std::vector<std::string> viewer_scripts;
   // The context the main window gives a form: further forms are handed to
   // `on_form`, which plays the user's part in them.
-  EditorContext context{surface, state, ui,
+  EditorContext context{surface,
+                        state,
+                        ui,
                         [this](FormController& form) {
                           shown_forms.push_back(form.Caption());
                           if (on_form) on_form(form);
