@@ -153,6 +153,18 @@ TEST_F(Basins, ElevenStoredPointsWarnOnceAndShowTen) {
   EXPECT_EQ(ui.Messages().size(), 1u);
 }
 
+TEST_F(Basins, AParametricBasinIsLimitedToTenPointsToo) {
+  const int rsp = Symbol("X_RSP", 0, 0, n1);
+  Set(rsp, {{"NbPt", "12"}, {"X10", "10"}, {"T10", "0.5"}, {"X11", "11"}});
+  auto form = Open<FrmRsp>(rsp);
+  ASSERT_EQ(ui.Messages().size(), 1u);
+  ExpectLastMessage(ui, "Attention la courbe de remplissage du bassin est limitée à 10 points",
+                    "Bassin à Qf et Qs paramétriques", MessageIcon::kInformation);
+  ASSERT_EQ(form->spread2().MaxRows(), 10);
+  EXPECT_EQ(form->spread2().Text(1, 10), "10");
+  EXPECT_EQ(form->spread2().Text(4, 10), "0.5");
+}
+
 TEST_F(Basins, EqualLevelsPassAndTheInitialLevelMayBeEitherEnd) {
   const int rs = Symbol("X_RS", 0, 0, n1);
   auto form = Open<FrmRs>(rs);
