@@ -4,8 +4,7 @@
 // at a time. Each sheet keeps the object numbers of its rows in an array
 // parallel to them; grid edits reach the elements only through mnSave.
 //
-// The window shows the sheets as tabs (TabCount, TabCaption, ClickTab) with
-// the commands as its menu.
+// The window shows the sheets as tabs (TabCount, TabCaption, ClickTab).
 #pragma once
 
 #include <string>
@@ -34,14 +33,14 @@ class FrmEdit : public FormController {
   std::vector<FormCommand> Commands() override;
 
   // --- Tabs -----------------------------------------------------------------
-  int TabCount() const { return static_cast<int>(sheets_.size()); }
+  int TabCount() const override { return static_cast<int>(sheets_.size()); }
   // The caption of a tab (from 0), empty for a kind without element.
-  std::string TabCaption(int tab) const;
+  std::string TabCaption(int tab) const override;
   // The tab shown, -1 when no kind has an element.
-  int CurrentTab() const { return current_; }
+  int CurrentTab() const override { return current_; }
   // A tab without caption cannot be entered: the former tab stays. Otherwise
   // the highlight goes and the sheet chosen is filled from the tags.
-  void ClickTab(int tab);
+  void ClickTab(int tab) override;
   Grid& Sheet(int tab) { return sheets_.at(static_cast<std::size_t>(tab)).grid; }
   // The element kind of a tab, and the object numbers of its rows.
   int SheetIName(int tab) const;

@@ -52,6 +52,15 @@ class FormController {
   // cell: the cell still shows the former one.
   virtual void ListDropDown(Grid& /*grid*/, int /*col*/, int /*row*/) {}
 
+  // A form whose grids are sheets shown one at a time under tabs, one tab per
+  // grid: how many, the caption of each (from 0; an empty caption is a tab
+  // that cannot be entered), the one shown, and a click on a tab. A form
+  // without tabs shows all its grids.
+  virtual int TabCount() const { return 0; }
+  virtual std::string TabCaption(int /*tab*/) const { return ""; }
+  virtual int CurrentTab() const { return 0; }
+  virtual void ClickTab(int /*tab*/) {}
+
   // True once a command has unloaded the form.
   bool Closed() const { return closed_; }
 

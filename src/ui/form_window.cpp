@@ -68,6 +68,15 @@ FormWindow::FormWindow(FormController& controller, QWidget* parent)
     : QDialog(parent), controller_(controller) {
   setWindowTitle(QString::fromStdString(controller_.Caption()));
   auto* layout = new QVBoxLayout(this);
+  if (controller_.TabCount() > 0) {
+    tabs_ = new QTabBar(this);
+    for (int tab = 0; tab < controller_.TabCount(); ++tab) tabs_->addTab({});
+    connect(tabs_, &QTabBar::tabBarClicked, this, [this](int tab) {
+      controller_.ClickTab(tab);
+      AfterEvent();
+    });
+    layout->addWidget(tabs_);
+  }
   for (Grid* grid : controller_.Grids()) {
     auto* table = new GridTableView(*grid, this);
     GridTableModel* model = table->gridModel();
@@ -104,6 +113,7 @@ FormWindow::FormWindow(FormController& controller, QWidget* parent)
     buttons_.emplace_back(command.name, button);
   }
   layout->addLayout(buttons);
+  RefreshTabs();
   RefreshButtons();
   FitToGrids();
 }
@@ -160,7 +170,24 @@ void FormWindow::AfterEvent() {
     accept();
     return;
   }
+  RefreshTabs();
   RefreshButtons();
+}
+
+// The tab bar shows the form's tabs, and the table of the current one alone.
+void FormWindow::RefreshTabs() {
+  if (tabs_ == nullptr) return;
+  const QSignalBlocker quiet(tabs_);
+  for (int tab = 0; tab < tabs_->count(); ++tab) {
+    const std::string caption = controller_.TabCaption(tab);
+    tabs_->setTabText(tab, QString::fromStdString(caption));
+    tabs_->setTabEnabled(tab, !caption.empty());
+  }
+  const int current = controller_.CurrentTab();
+  if (current >= 0 && current < tabs_->count()) tabs_->setCurrentIndex(current);
+  for (std::size_t i = 0; i < tables_.size(); ++i) {
+    tables_[i]->setVisible(static_cast<int>(i) == current);
+  }
 }
 
 void FormWindow::RefreshButtons() {

@@ -7,6 +7,7 @@
 
 #include <QDialog>
 #include <QPushButton>
+#include <QTabBar>
 #include <QTableView>
 #include <map>
 #include <string>
@@ -24,6 +25,8 @@ class FormWindow : public QDialog {
   explicit FormWindow(FormController& controller, QWidget* parent = nullptr);
 
   GridTableView* Table(int index) const { return tables_.at(index); }
+  // The tabs of a form whose grids are sheets; null for the others.
+  QTabBar* Tabs() const { return tabs_; }
   QPushButton* Button(const std::string& command) const;
   // Runs a command as its button does.
   void RunCommand(const std::string& command);
@@ -41,10 +44,12 @@ class FormWindow : public QDialog {
  private:
   void AfterEvent();
   void RefreshButtons();
+  void RefreshTabs();
   void FitToGrids();
   static std::map<std::string, QPoint>& Positions();
 
   FormController& controller_;
+  QTabBar* tabs_ = nullptr;
   std::vector<GridTableView*> tables_;
   std::vector<GridTableModel*> models_;
   std::vector<std::pair<std::string, QPushButton*>> buttons_;
