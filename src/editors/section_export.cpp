@@ -25,12 +25,14 @@ int WriteSecFile(Surface& surface, const std::string& file, std::vector<std::str
     std::string heights_line, widths_line;
     for (int i = 1; i <= points; ++i) {
       const std::string index = std::to_string(i);
-      heights.push_back(Val(surface.ObjTag("Y" + index)));
+      // The heights are tested as the import will read them back.
+      const std::string height = NumToText(Val(surface.ObjTag("Y" + index)));
+      heights.push_back(Val(height));
       if (i > 1) {
         heights_line += ' ';
         widths_line += ' ';
       }
-      heights_line += NumToText(heights.back());
+      heights_line += height;
       widths_line += NumToText(Val(surface.ObjTag("X" + index)));
     }
     int fault = 0;
