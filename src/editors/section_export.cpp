@@ -55,8 +55,9 @@ std::string ExportReport(int count, const std::vector<std::string>& skipped) {
   std::string text = "ok " + std::to_string(count) +
                      (count >= 2 ? " sections ont été exportées." : " section a été exportée.");
   if (skipped.empty()) return text;
-  text += "\r\nSections non exportées (nom avec apostrophe, moins de 2 points ou hauteurs non "
-          "croissantes) : ";
+  text +=
+      "\r\nSections non exportées (nom avec apostrophe, moins de 2 points ou hauteurs non "
+      "croissantes) : ";
   for (std::size_t i = 0; i < skipped.size(); ++i) {
     if (i > 0) text += ", ";
     text += skipped[i];
@@ -71,8 +72,8 @@ bool mnuOpt_SecExport(Surface& surface, const NetworkState& state, UserInterface
     SplitPath(state.NetworkFile, folder, name, base, extension);
     if (!base.empty()) initial = base + ".sec";
   }
-  const std::string file = ui.AskSaveFile(kExportTitle, "Fichier texte sec|*.sec|Autre fichier|*.*",
-                                          "sec", initial);
+  const std::string file =
+      ui.AskSaveFile(kExportTitle, "Fichier texte sec|*.sec|Autre fichier|*.*", "sec", initial);
   if (file.empty()) return false;
   return ExportSections(surface, ui, file) >= 0;
 }

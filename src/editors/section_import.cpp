@@ -179,10 +179,9 @@ int ImportSectionFile(Surface& surface, const NetworkState& state, UserInterface
 
 bool mnuOpt_SecImport(Surface& surface, const NetworkState& state, UserInterface& ui,
                       Console& console) {
-  const std::string file =
-      ui.AskOpenFile("Import d'un fichier de section",
-                     "Fichier texte sec|*.sec|crb|*.crb|Autre fichier|*.*", "sec",
-                     "*.sec;*.crb;*.txt");
+  const std::string file = ui.AskOpenFile("Import d'un fichier de section",
+                                          "Fichier texte sec|*.sec|crb|*.crb|Autre fichier|*.*",
+                                          "sec", "*.sec;*.crb;*.txt");
   if (file.empty()) return false;
   const std::string report = SectionReportPath(file);
   ImportSectionFile(surface, state, ui, file, report);
