@@ -5,6 +5,7 @@
 #include "editors/frm_cac.h"
 #include "editors/frm_caf.h"
 #include "editors/frm_cao.h"
+#include "editors/frm_sect.h"
 #include "editors/section_library.h"
 #include "foundation/expect_message.h"
 
@@ -222,9 +223,18 @@ TEST_F(CollectorForms, KeepingItsOwnLabelIsNoDuplicate) {
 
 TEST_F(CollectorForms, ASectionThatWasDeletedKeepsItsName) {
   AddSection(surface, state, "Ovoide");
+  AddSection(surface, state, "Supprimee");
   const int n = Caf();
   SetTag(n, "IdSect", "Supprimee");
+  {
+    FrmSect library(context);
+    library.grid().SetActiveCell(1, 2);
+    library.Run("mnuDel");
+  }
+  ASSERT_EQ(SectionIds(surface), (std::vector<std::string>{"Ovoide"}));
+  surface.SetCurrentObject(n);
   FrmCaf form(context);
+  EXPECT_EQ(form.grid().Type(2, 4), CellType::List("Ovoide"));
   EXPECT_EQ(form.grid().Text(2, 4), "Supprimee");
   EXPECT_EQ(form.grid().ListIndex(2, 4), -1);
   form.Run("cmdOk");
