@@ -26,8 +26,8 @@ std::vector<TagRow> CollectorRows(const std::string& label_of_identifier, TagRow
 }
 
 TagRow SectionRow(Surface& surface) {
-  return {"IdSect", "Id. de la section (16 car maxi)=",
-          CellType::List(SectionListEntries(surface))};
+  return {"IdSect",
+          "Id. de la section (16 car maxi)=", CellType::List(SectionListEntries(surface))};
 }
 
 void TellEmptySectionLibrary(EditorContext& context, const std::string& caption) {

@@ -7,8 +7,8 @@ namespace pluvane {
 namespace {
 
 std::vector<TagRow> Rows() {
-  std::vector<TagRow> rows = CollectorRows("Identificateur (16 car. maxi)=",
-                                           {"Dn", "Diamètre (m)=", QuantityCell()});
+  std::vector<TagRow> rows =
+      CollectorRows("Identificateur (16 car. maxi)=", {"Dn", "Diamètre (m)=", QuantityCell()});
   rows.push_back({"K", "Coef. Strickler (-)=", QuantityCell()});
   rows.push_back({"HD", "H moyenne sous chaussée (m)=", QuantityCell()});
   rows.push_back(

@@ -14,8 +14,7 @@
 
 namespace pluvane {
 
-FrmSect::FrmSect(EditorContext& context)
-    : context_(context), grid_(kCurveCol, 0) {
+FrmSect::FrmSect(EditorContext& context) : context_(context), grid_(kCurveCol, 0) {
   grid_.SetCaption(Caption());
   grid_.SetColHead(kIdCol, "Id. de la section");
   grid_.SetColHead(kCurveCol, "Courbe hauteur/largeur");
@@ -23,7 +22,8 @@ FrmSect::FrmSect(EditorContext& context)
   grid_.SetColumnType(kCurveCol, CellType::Button());
   const std::vector<std::string> ids = SectionIds(context_.surface);
   grid_.SetMaxRows(static_cast<int>(ids.size()));
-  for (std::size_t i = 0; i < ids.size(); ++i) grid_.SetText(kIdCol, static_cast<int>(i) + 1, ids[i]);
+  for (std::size_t i = 0; i < ids.size(); ++i)
+    grid_.SetText(kIdCol, static_cast<int>(i) + 1, ids[i]);
   ShowButtons();
   // A paste over the buttons leaves them as they were.
   grid_.AddListener([this](const GridChange& change) {

@@ -25,12 +25,14 @@ int WriteSecFile(Surface& surface, const std::string& file, std::vector<std::str
     std::string heights_line, widths_line;
     for (int i = 1; i <= points; ++i) {
       const std::string index = std::to_string(i);
-      heights.push_back(Val(surface.ObjTag("Y" + index)));
+      // The heights are tested as the import will read them back.
+      const std::string height = NumToText(Val(surface.ObjTag("Y" + index)));
+      heights.push_back(Val(height));
       if (i > 1) {
         heights_line += ' ';
         widths_line += ' ';
       }
-      heights_line += NumToText(heights.back());
+      heights_line += height;
       widths_line += NumToText(Val(surface.ObjTag("X" + index)));
     }
     int fault = 0;
@@ -53,8 +55,9 @@ std::string ExportReport(int count, const std::vector<std::string>& skipped) {
   std::string text = "ok " + std::to_string(count) +
                      (count >= 2 ? " sections ont été exportées." : " section a été exportée.");
   if (skipped.empty()) return text;
-  text += "\r\nSections non exportées (nom avec apostrophe, moins de 2 points ou hauteurs non "
-          "croissantes) : ";
+  text +=
+      "\r\nSections non exportées (nom avec apostrophe, moins de 2 points ou hauteurs non "
+      "croissantes) : ";
   for (std::size_t i = 0; i < skipped.size(); ++i) {
     if (i > 0) text += ", ";
     text += skipped[i];
@@ -69,8 +72,8 @@ bool mnuOpt_SecExport(Surface& surface, const NetworkState& state, UserInterface
     SplitPath(state.NetworkFile, folder, name, base, extension);
     if (!base.empty()) initial = base + ".sec";
   }
-  const std::string file = ui.AskSaveFile(kExportTitle, "Fichier texte sec|*.sec|Autre fichier|*.*",
-                                          "sec", initial);
+  const std::string file =
+      ui.AskSaveFile(kExportTitle, "Fichier texte sec|*.sec|Autre fichier|*.*", "sec", initial);
   if (file.empty()) return false;
   return ExportSections(surface, ui, file) >= 0;
 }

@@ -53,9 +53,9 @@ std::string SectionsDone(int count) {
          (count >= 2 ? " sections ont été importées." : " section a été importée.");
 }
 
-// The flow both formats share: each section named is reported as already
-// there, or tested and made. `next` gives the sections one by one (false at
-// the end of the file); `points` is read only for a name new to the library.
+// The flow both formats share: each section named counts; a name the
+// library holds is reported and its points left unread; the points of a new
+// one are read, their heights tested, and the section made.
 class ImportRun {
  public:
   ImportRun(Surface& surface, const NetworkState& state) : surface_(surface), state_(state) {}
@@ -179,10 +179,9 @@ int ImportSectionFile(Surface& surface, const NetworkState& state, UserInterface
 
 bool mnuOpt_SecImport(Surface& surface, const NetworkState& state, UserInterface& ui,
                       Console& console) {
-  const std::string file =
-      ui.AskOpenFile("Import d'un fichier de section",
-                     "Fichier texte sec|*.sec|crb|*.crb|Autre fichier|*.*", "sec",
-                     "*.sec;*.crb;*.txt");
+  const std::string file = ui.AskOpenFile("Import d'un fichier de section",
+                                          "Fichier texte sec|*.sec|crb|*.crb|Autre fichier|*.*",
+                                          "sec", "*.sec;*.crb;*.txt");
   if (file.empty()) return false;
   const std::string report = SectionReportPath(file);
   ImportSectionFile(surface, state, ui, file, report);

@@ -35,8 +35,7 @@ std::string SectionReportPath(const std::string& file);
 // The import by the file's extension: "sec" in any case reads the text
 // format, anything else the curve format.
 int ImportSectionFile(Surface& surface, const NetworkState& state, UserInterface& ui,
-                      const std::string& file, const std::string& report,
-                      bool* complete = nullptr);
+                      const std::string& file, const std::string& report, bool* complete = nullptr);
 
 // Option > Importer des sections: the file asked, imported, the report shown
 // in the console under "import de section" and then deleted. False when the

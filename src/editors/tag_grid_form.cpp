@@ -41,8 +41,7 @@ TagGridForm::TagGridForm(EditorContext& context, std::string caption, std::vecto
 }
 
 std::vector<FormCommand> TagGridForm::Commands() {
-  return {{"cmdOk", "&Ok", [this] { cmdOk(); }},
-          {"cmdAnnul", "&Annuler", [this] { cmdAnnul(); }}};
+  return {{"cmdOk", "&Ok", [this] { cmdOk(); }}, {"cmdAnnul", "&Annuler", [this] { cmdAnnul(); }}};
 }
 
 void TagGridForm::ClickCell(Grid& grid, int col, int row) {

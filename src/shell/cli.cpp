@@ -1,12 +1,17 @@
 #include "shell/cli.h"
 
 #include <algorithm>
+#include <filesystem>
+#include <random>
 
 #include "foundation/scripted_ui.h"
 #include "foundation/text.h"
 #include "network/network_summary.h"
 #include "network/persistence.h"
 #include "drawing/surface.h"
+#include "editors/section_export.h"
+#include "editors/section_import.h"
+#include "foundation/paths.h"
 #include "shell/application.h"
 #include "shell/cli_network.h"
 #include "shell/cli_options.h"
@@ -114,6 +119,55 @@ int Recap(const std::vector<std::string>& args, const std::string& app_path, std
   return 0;
 }
 
+// The output option of the section commands.
+const CliOption kOutput{{"-o", "--output"}, true, true};
+
+// A report file of its own in the temporary folder, so that the import
+// writes nothing beside the user's file.
+std::string TemporaryReport() {
+  std::random_device random;
+  const std::filesystem::path folder = std::filesystem::temp_directory_path();
+  return (folder / ("pluvane_sections_" + std::to_string(random()) + ".msg")).string();
+}
+
+// Imports sections into a network as Option > Importer des sections does,
+// prints the report and writes the network to the output file.
+int ImportSections(const std::vector<std::string>& args, const std::string& app_path,
+                   std::ostream& out, ScriptedUi& ui) {
+  CliOptions words;
+  if (!words.Parse(args, {kOutput}, 2, 2) || words.Value("-o").empty()) return 2;
+  const std::string& file = words.Positional()[1];
+  CliNetwork network(ui);
+  if (!network.Open(app_path, words.Positional()[0])) return 1;
+  if (!FileExist(file)) {
+    ui.ShowMessage("Fichier " + file + " introuvable!", "pluvane-cli", MessageIcon::kExclamation);
+    return 1;
+  }
+  const std::string report = TemporaryReport();
+  bool complete = false;
+  ImportSectionFile(network.surface, network.state(), ui, file, report, &complete);
+  std::vector<std::string> lines;
+  ReadTextLines(report, lines);
+  std::error_code ignored;
+  std::filesystem::remove(report, ignored);
+  for (const std::string& line : lines) out << line << "\n";
+  NetworkSession session = network.application.session();
+  if (!SaveNetwork(session, words.Value("-o"))) return 1;
+  return complete ? 0 : 1;
+}
+
+// Writes the section library of a network to a text file that the import reads.
+int ExportSectionsCommand(const std::vector<std::string>& args, const std::string& app_path,
+                          std::ostream& out, ScriptedUi& ui) {
+  CliOptions words;
+  if (!words.Parse(args, {kOutput}, 1, 1) || words.Value("-o").empty()) return 2;
+  CliNetwork network(ui);
+  if (!network.Open(app_path, words.Positional()[0])) return 1;
+  if (ExportSections(network.surface, ui, words.Value("-o")) < 0) return 1;
+  out << words.Value("-o") << "\n";
+  return 0;
+}
+
 }  // namespace
 
 std::vector<CliCommand> CoreCliCommands() {
@@ -141,6 +195,17 @@ std::vector<CliCommand> CoreCliCommands() {
        "                writes the data recap report of the scenario beside its\n"
        "                model and prints its path\n",
        Recap},
+      {"import-sections",
+       "  import-sections NETWORK.mtf FILE.sec|FILE.crb -o OUT.mtf\n"
+       "                imports the sections of a text (.sec) or curve file into the\n"
+       "                network's library, prints the report and writes the network\n"
+       "                to OUT.mtf\n",
+       ImportSections},
+      {"export-sections",
+       "  export-sections NETWORK.mtf -o FILE.sec\n"
+       "                writes the network's section library to a text file that\n"
+       "                import-sections reads back, and prints its path\n",
+       ExportSectionsCommand},
   };
 }
 

@@ -5,6 +5,7 @@
 #include "editors/frm_cac.h"
 #include "editors/frm_caf.h"
 #include "editors/frm_cao.h"
+#include "editors/frm_sect.h"
 #include "editors/section_library.h"
 #include "foundation/expect_message.h"
 
@@ -15,22 +16,40 @@ class CollectorForms : public EditorTest {
  protected:
   // A circular collector as created, made current.
   int Cac(const std::string& label = "Cac_1") {
-    const int n = AddObject({{"iName", "5"}, {"iGroup", "2"}, {"Id", label}, {"libell", label},
-                             {"ZRam", "0"}, {"ZRav", "0"}, {"Dn", "1"}, {"L", "250.4"},
+    const int n = AddObject({{"iName", "5"},
+                             {"iGroup", "2"},
+                             {"Id", label},
+                             {"libell", label},
+                             {"ZRam", "0"},
+                             {"ZRav", "0"},
+                             {"Dn", "1"},
+                             {"L", "250.4"},
                              {"K", "60"}});
     surface.SetCurrentObject(n);
     return n;
   }
   int Caf(const std::string& label = "Caf_1") {
-    const int n = AddObject({{"iName", "6"}, {"iGroup", "2"}, {"Id", label}, {"libell", label},
-                             {"ZRam", "0"}, {"ZRav", "0"}, {"IdSect", ""}});
+    const int n = AddObject({{"iName", "6"},
+                             {"iGroup", "2"},
+                             {"Id", label},
+                             {"libell", label},
+                             {"ZRam", "0"},
+                             {"ZRav", "0"},
+                             {"IdSect", ""}});
     surface.SetCurrentObject(n);
     return n;
   }
   int Cao(const std::string& label = "Cao_1") {
-    const int n = AddObject({{"iName", "7"}, {"iGroup", "2"}, {"Id", label}, {"libell", label},
-                             {"ZRam", "0"}, {"ZRav", "0"}, {"IdSect", ""}, {"L", "12"},
-                             {"Kmin", "50"}, {"Largeur", "100"}});
+    const int n = AddObject({{"iName", "7"},
+                             {"iGroup", "2"},
+                             {"Id", label},
+                             {"libell", label},
+                             {"ZRam", "0"},
+                             {"ZRav", "0"},
+                             {"IdSect", ""},
+                             {"L", "12"},
+                             {"Kmin", "50"},
+                             {"Largeur", "100"}});
     surface.SetCurrentObject(n);
     return n;
   }
@@ -61,12 +80,12 @@ TEST_F(CollectorForms, CircularRowsAndCells) {
   FrmCac form(context);
   Grid& grid = form.grid();
   EXPECT_EQ(grid.Caption(), "Collecteur circulaire");
-  EXPECT_EQ(Labels(grid),
-            (std::vector<std::string>{"Identificateur (16 car. maxi)=", "Cote radier amont (ngf)=",
-                                      "Cote radier aval (ngf)=", "Diamètre (m)=",
-                                      "Longueur (m)=", "Coef. Strickler (-)=",
-                                      "H moyenne sous chaussée (m)=",
-                                      "Surface du réservoir fictif en cas de mise en charge (m2)="}));
+  EXPECT_EQ(
+      Labels(grid),
+      (std::vector<std::string>{
+          "Identificateur (16 car. maxi)=", "Cote radier amont (ngf)=", "Cote radier aval (ngf)=",
+          "Diamètre (m)=", "Longueur (m)=", "Coef. Strickler (-)=", "H moyenne sous chaussée (m)=",
+          "Surface du réservoir fictif en cas de mise en charge (m2)="}));
   EXPECT_EQ(grid.Text(2, 1), "Cac_1");
   EXPECT_EQ(grid.Text(2, 4), "1.00");
   EXPECT_EQ(grid.Text(2, 5), "250.40");
@@ -88,21 +107,20 @@ TEST_F(CollectorForms, ClosedAndOpenRows) {
   Caf();
   FrmCaf caf(context);
   EXPECT_EQ(Labels(caf.grid()),
-            (std::vector<std::string>{"Identificateur (16 car maxi)=", "Cote radier amont (ngf)=",
-                                      "Cote radier aval (ngf)=",
-                                      "Id. de la section (16 car maxi)=", "Longueur (m)=",
-                                      "Coef. Strickler (-)=", "H moyenne sous chaussée (m)=",
-                                      "Surface du réservoir fictif en cas de mise en charge (m2)="}));
+            (std::vector<std::string>{
+                "Identificateur (16 car maxi)=", "Cote radier amont (ngf)=",
+                "Cote radier aval (ngf)=", "Id. de la section (16 car maxi)=", "Longueur (m)=",
+                "Coef. Strickler (-)=", "H moyenne sous chaussée (m)=",
+                "Surface du réservoir fictif en cas de mise en charge (m2)="}));
   EXPECT_EQ(caf.grid().Type(2, 4), CellType::List("Ovoide\tDalot 2x1"));
   Cao();
   FrmCao cao(context);
-  EXPECT_EQ(Labels(cao.grid()),
-            (std::vector<std::string>{"Identificateur (16 car maxi)=", "Cote radier amont (ngf)=",
-                                      "Cote radier aval (ngf)=",
-                                      "Id. de la section (16 car maxi)=", "Longueur (m)=",
-                                      "Coef. Strickler du lit mineur (-)=",
-                                      "Largeur du lit majeur (m)=",
-                                      "Coef. Strickler du lit majeur (-)="}));
+  EXPECT_EQ(
+      Labels(cao.grid()),
+      (std::vector<std::string>{
+          "Identificateur (16 car maxi)=", "Cote radier amont (ngf)=", "Cote radier aval (ngf)=",
+          "Id. de la section (16 car maxi)=", "Longueur (m)=", "Coef. Strickler du lit mineur (-)=",
+          "Largeur du lit majeur (m)=", "Coef. Strickler du lit majeur (-)="}));
   EXPECT_EQ(cao.grid().Type(2, 4), CellType::List("Ovoide\tDalot 2x1"));
   EXPECT_EQ(cao.grid().Text(2, 6), "50.00");
   EXPECT_EQ(cao.grid().Text(2, 7), "100.00");
@@ -205,9 +223,18 @@ TEST_F(CollectorForms, KeepingItsOwnLabelIsNoDuplicate) {
 
 TEST_F(CollectorForms, ASectionThatWasDeletedKeepsItsName) {
   AddSection(surface, state, "Ovoide");
+  AddSection(surface, state, "Supprimee");
   const int n = Caf();
   SetTag(n, "IdSect", "Supprimee");
+  {
+    FrmSect library(context);
+    library.grid().SetActiveCell(1, 2);
+    library.Run("mnuDel");
+  }
+  ASSERT_EQ(SectionIds(surface), (std::vector<std::string>{"Ovoide"}));
+  surface.SetCurrentObject(n);
   FrmCaf form(context);
+  EXPECT_EQ(form.grid().Type(2, 4), CellType::List("Ovoide"));
   EXPECT_EQ(form.grid().Text(2, 4), "Supprimee");
   EXPECT_EQ(form.grid().ListIndex(2, 4), -1);
   form.Run("cmdOk");

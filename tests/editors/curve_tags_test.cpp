@@ -14,8 +14,14 @@ class CurveTagsTest : public EditorTest {
 };
 
 TEST_F(CurveTagsTest, TwoColumnsToTheFile) {
-  const int n = AddObject({{"NbPt", "3"}, {"X1", "100"}, {"Y1", "0"}, {"X2", "100.5"},
-                           {"Y2", "1.25"}, {"X3", "-2"}, {"Y3", "12345.6789"}, {"Z1", "9"}});
+  const int n = AddObject({{"NbPt", "3"},
+                           {"X1", "100"},
+                           {"Y1", "0"},
+                           {"X2", "100.5"},
+                           {"Y2", "1.25"},
+                           {"X3", "-2"},
+                           {"Y3", "12345.6789"},
+                           {"Z1", "9"}});
   surface.SetCurrentObject(n);
   TagsToCurveFile2(surface, File(), "CrbX");
   EXPECT_EQ(ReadBytes(File()),
@@ -23,8 +29,15 @@ TEST_F(CurveTagsTest, TwoColumnsToTheFile) {
 }
 
 TEST_F(CurveTagsTest, ThreeAndFourColumns) {
-  const int n = AddObject({{"NbPt", "2"}, {"X1", "1"}, {"Y1", "2"}, {"Z1", "3"}, {"T1", "4"},
-                           {"X2", "5"}, {"Y2", "6"}, {"Z2", "7"}, {"T2", "8"}});
+  const int n = AddObject({{"NbPt", "2"},
+                           {"X1", "1"},
+                           {"Y1", "2"},
+                           {"Z1", "3"},
+                           {"T1", "4"},
+                           {"X2", "5"},
+                           {"Y2", "6"},
+                           {"Z2", "7"},
+                           {"T2", "8"}});
   surface.SetCurrentObject(n);
   TagsToCurveFile3(surface, File(), "CrbX");
   EXPECT_EQ(ReadBytes(File()),
@@ -45,8 +58,9 @@ TEST_F(CurveTagsTest, NoPointGivesTheNameAlone) {
 
 TEST_F(CurveTagsTest, TheFileBackToTheTags) {
   const int n = AddObject({{"NbPt", "1"}, {"X1", "7"}});
-  WriteBytes(File(), "'CrbX'\r\n     1.000     2.000     3.000     4.000\r\n"
-                     "     5.500     6.000     7.000     8.000\r\n");
+  WriteBytes(File(),
+             "'CrbX'\r\n     1.000     2.000     3.000     4.000\r\n"
+             "     5.500     6.000     7.000     8.000\r\n");
   surface.SetCurrentObject(n);
   EXPECT_EQ(CurveFileToTags4(surface, ui, File(), "crbx"), 2);
   EXPECT_EQ(Tag(n, "NbPt"), "2");
@@ -81,8 +95,13 @@ TEST_F(CurveTagsTest, AMissingFileOrCurveLeavesTheTags) {
 }
 
 TEST_F(CurveTagsTest, RoundTrip) {
-  const int n = AddObject({{"NbPt", "3"}, {"X1", "0.5"}, {"Y1", "0"}, {"X2", "1"}, {"Y2", "0.25"},
-                           {"X3", "1.5"}, {"Y3", "1"}});
+  const int n = AddObject({{"NbPt", "3"},
+                           {"X1", "0.5"},
+                           {"Y1", "0"},
+                           {"X2", "1"},
+                           {"Y2", "0.25"},
+                           {"X3", "1.5"},
+                           {"Y3", "1"}});
   surface.SetCurrentObject(n);
   TagsToCurveFile2(surface, File(), "S");
   const int m = AddObject({});
@@ -106,8 +125,9 @@ TEST_F(CurveTagsTest, TheSectionIsTakenByItsId) {
   EXPECT_EQ(ReadBytes(File()), "'OVO'\r\n     1.000     0.000\r\n     2.000     1.500\r\n");
   EXPECT_FALSE(SectionToCurveFile(surface, "ovo", File(), "OVO"));
 
-  WriteBytes(File(), "'OVO'\r\n     3.000     0.000\r\n     4.000     2.000\r\n"
-                     "     5.000     3.000\r\n");
+  WriteBytes(File(),
+             "'OVO'\r\n     3.000     0.000\r\n     4.000     2.000\r\n"
+             "     5.000     3.000\r\n");
   EXPECT_EQ(CurveFileToSection(surface, ui, "OVO", File(), "OVO"), 3);
   EXPECT_EQ(surface.CurrentObject(), element);
   EXPECT_EQ(Tag(section, "NbPt"), "3");

@@ -52,8 +52,7 @@ TEST_F(FrmCrbxTest, OpensOnTheCurveOfTheFile) {
 }
 
 TEST_F(FrmCrbxTest, ColumnsThreeAndFourOnlyWithTheirLabel) {
-  WriteBytes(folder.File("tmp.crb"),
-             "'CrbX'\r\n     1.000     2.000     3.000     4.000\r\n");
+  WriteBytes(folder.File("tmp.crb"), "'CrbX'\r\n     1.000     2.000     3.000     4.000\r\n");
   CrbxParams p = Params();
   p.labels = {"Z retenue (ngf)", "Surface au miroir (m2)", "Debit de fuite (m3/s)", ""};
   {
@@ -104,8 +103,7 @@ TEST_F(FrmCrbxTest, FewerThanTwoRowsAreRefused) {
   FrmCrbx form(context, Params());
   Fill(form.grid(), {{"1", "2"}, {"", "3"}});
   form.Run("mnSave");
-  ExpectLastMessage(ui, "Il faut au moins 2 lignes pour la courbe !", "Q=f(Z)",
-                    MessageIcon::kNone);
+  ExpectLastMessage(ui, "Il faut au moins 2 lignes pour la courbe !", "Q=f(Z)", MessageIcon::kNone);
   EXPECT_FALSE(form.Closed());
   // The file was written all the same, and the grid cut.
   EXPECT_EQ(ReadBytes(folder.File("tmp.crb")), "'CrbX'\r\n     1.000     2.000\r\n");

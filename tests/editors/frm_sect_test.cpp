@@ -172,8 +172,8 @@ TEST_F(FrmSectTest, TheButtonOpensTheCurveEditorOnTheSection) {
   EXPECT_EQ(edited.caption, "Section paramétrique");
   EXPECT_EQ(edited.plot_title, "Section paramétrique");
   EXPECT_EQ(edited.mode, "SEC");
-  EXPECT_EQ(opened_rows, (std::vector<std::vector<std::string>>{
-                             {"0.2", "0"}, {"1.2", "0.5"}, {"0.8", "1.5"}}));
+  EXPECT_EQ(opened_rows,
+            (std::vector<std::vector<std::string>>{{"0.2", "0"}, {"1.2", "0.5"}, {"0.8", "1.5"}}));
   EXPECT_TRUE(ui.Empty());
   EXPECT_EQ(Tag(s, "NbPt"), "4");
   EXPECT_EQ(Tag(s, "X3"), "0.8");

@@ -90,9 +90,15 @@ TEST_F(SectionImport, TextFormat) {
   EXPECT_EQ(Report(), (std::vector<std::string>{"Ovoide T180\t: importé", "Dalot\t: importé", "",
                                                 "ok 2 sections ont été importées."}));
   EXPECT_EQ(ReadBytes(folder.File("s.msg")).substr(0, 28), "Ovoide T180\t: import\xE9\r\nDalot");
-  EXPECT_EQ(TagsOf("Ovoide T180"),
-            (Tags{{"iName", "101"}, {"Id", "Ovoide T180"}, {"NbPt", "3"}, {"X1", "0.6"},
-                  {"Y1", "0"}, {"X2", "1.2"}, {"Y2", "0.50"}, {"X3", "0.4"}, {"Y3", "1.8"}}));
+  EXPECT_EQ(TagsOf("Ovoide T180"), (Tags{{"iName", "101"},
+                                         {"Id", "Ovoide T180"},
+                                         {"NbPt", "3"},
+                                         {"X1", "0.6"},
+                                         {"Y1", "0"},
+                                         {"X2", "1.2"},
+                                         {"Y2", "0.50"},
+                                         {"X3", "0.4"},
+                                         {"Y3", "1.8"}}));
   EXPECT_EQ(SectionIds(surface), (std::vector<std::string>{"Ovoide T180", "Dalot"}));
   const int n = FindSection(surface, "Dalot");
   surface.SetCurrentObject(n);
@@ -108,9 +114,9 @@ TEST_F(SectionImport, OneSectionIsSaidInTheSingular) {
 TEST_F(SectionImport, ANameInTheLibraryIsReportedAndItsLinesSkipped) {
   AddSection(surface, state, "Dalot");
   EXPECT_EQ(Sec("'Dalot'\n0 1\n2 2\n'B'\n0 1\n1 1\n"), 2);
-  EXPECT_EQ(Report(), (std::vector<std::string>{"Dalot\t: existe déjà dans la BD section",
-                                                "B\t: importé", "",
-                                                "ok 2 sections ont été importées."}));
+  EXPECT_EQ(Report(),
+            (std::vector<std::string>{"Dalot\t: existe déjà dans la BD section", "B\t: importé", "",
+                                      "ok 2 sections ont été importées."}));
   EXPECT_EQ(TagsOf("Dalot").size(), 3u);  // untouched
 }
 
@@ -187,9 +193,15 @@ TEST_F(SectionImport, CurveFormat) {
             2);
   EXPECT_EQ(Report(), (std::vector<std::string>{"Ovoide\t: importé", "Dalot\t: importé", "",
                                                 "ok 2 sections ont été importées."}));
-  EXPECT_EQ(TagsOf("Ovoide"),
-            (Tags{{"iName", "101"}, {"Id", "Ovoide"}, {"NbPt", "3"}, {"X1", "0.6"}, {"Y1", "0"},
-                  {"X2", "1.2"}, {"Y2", "0.5"}, {"X3", "0.4"}, {"Y3", "1.8"}}));
+  EXPECT_EQ(TagsOf("Ovoide"), (Tags{{"iName", "101"},
+                                    {"Id", "Ovoide"},
+                                    {"NbPt", "3"},
+                                    {"X1", "0.6"},
+                                    {"Y1", "0"},
+                                    {"X2", "1.2"},
+                                    {"Y2", "0.5"},
+                                    {"X3", "0.4"},
+                                    {"Y3", "1.8"}}));
   // The last line of the file, without its end, counts.
   EXPECT_EQ(TagsOf("Dalot")[2], (std::pair<std::string, std::string>{"NbPt", "2"}));
   EXPECT_EQ(TagsOf("Dalot")[6], (std::pair<std::string, std::string>{"Y2", "3"}));
@@ -231,8 +243,8 @@ TEST_F(SectionImport, TheMenuShowsTheReportInTheConsole) {
   EXPECT_EQ(dialog_ui.filter, "Fichier texte sec|*.sec|crb|*.crb|Autre fichier|*.*");
   EXPECT_EQ(dialog_ui.default_ext, "sec");
   EXPECT_EQ(console.calls, (std::vector<std::string>{"Debut import de section", "Fin"}));
-  EXPECT_EQ(console.lines, (std::vector<std::string>{"A\t: importé", "",
-                                                     "ok 1 section a été importée."}));
+  EXPECT_EQ(console.lines,
+            (std::vector<std::string>{"A\t: importé", "", "ok 1 section a été importée."}));
   // The report, beside the file, is gone once shown.
   EXPECT_FALSE(FileExist(folder.File("Secteur Nord.msg")));
   EXPECT_EQ(SectionIds(surface), (std::vector<std::string>{"A"}));
