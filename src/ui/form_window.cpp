@@ -197,20 +197,28 @@ void FormWindow::RefreshButtons() {
 }
 
 void FormWindow::FitToGrids() {
-  int width = 0, height = 0;
+  int width = 0, height = 0;  // the widest table, the tallest
   for (QTableView* table : tables_) {
     int w = table->verticalHeader()->sizeHint().width() + 2 * table->frameWidth() + 4;
     for (int c = 0; c < table->model()->columnCount(); ++c) w += table->columnWidth(c);
     width = std::max(width, w);
-    // A table shows all its rows up to 15, then scrolls.
-    const int rows = std::min(table->model()->rowCount(), 15);
+    // A table shows all its rows up to 15, then scrolls; sheets under tabs,
+    // filled as they are chosen, have the room of 15 rows.
+    const int rows = tabs_ != nullptr ? 15 : std::min(table->model()->rowCount(), 15);
     const QHeaderView* heads = table->horizontalHeader();
     const int h = std::max(heads->sizeHint().height(), heads->minimumHeight()) +
                   std::max(rows, 1) * table->verticalHeader()->defaultSectionSize() +
                   2 * table->frameWidth();
     table->setMinimumHeight(h);
     if (table->model()->rowCount() <= 15) table->setMaximumHeight(h);
-    height += h;
+    height = std::max(height, h);
+  }
+  // Sheets under tabs all take the room of the tallest, shown one at a time.
+  if (tabs_ != nullptr) {
+    for (QTableView* table : tables_) {
+      table->setMinimumHeight(height);
+      table->setMaximumHeight(QWIDGETSIZE_MAX);
+    }
   }
   // Within the screen; the window may be resized by hand past that.
   QSize size(std::max(width + 24, 320), sizeHint().height());

@@ -11,6 +11,8 @@
 #include <QTimer>
 #include <vector>
 
+#include "editors/section_export.h"
+#include "editors/section_import.h"
 #include "shell/frm_impfile_dlg.h"
 #include "foundation/paths.h"
 #include "network/link_direction.h"
@@ -162,6 +164,16 @@ void MainWindow::BindCommands() {
        })},
       {"mnuOpt_SecOpn", after([this] {
          if (NetworkLoaded(application_->state(), ui_)) OpenNamedForm("frmSect", 0);
+       })},
+      {"mnuOpt_SecImport", after([this] {
+         if (!NetworkLoaded(application_->state(), ui_)) return;
+         UndoStep step(surface_, "Annuler : Importer des sections");
+         mnuOpt_SecImport(surface_, application_->state(), ui_, NewConsole());
+       })},
+      {"mnuOpt_SecExport", after([this] {
+         if (NetworkLoaded(application_->state(), ui_)) {
+           mnuOpt_SecExport(surface_, application_->state(), ui_);
+         }
        })},
       {"mnuScn_ModeleGen", after([this] { RunScenarioCommand(false); })},
       {"mnuScn_ModeleRun", after([this] { RunScenarioCommand(true); })},
@@ -346,17 +358,22 @@ void MainWindow::PrintDrawing() {
   if (!error.empty()) ui_.ShowStatus(error);
 }
 
-void MainWindow::RunScenarioCommand(bool with_sidrel) {
-  AppState& state = application_->state();
-  if (!NetworkLoaded(state, ui_)) return;
+// A new message console, in place of the former one.
+Console& MainWindow::NewConsole() {
   log_window_.reset();
   log_model_ = std::make_unique<ConsoleModel>(ui_, true);
   log_window_ = std::make_unique<ConsoleWindow>(*log_model_, this);
+  return *log_model_;
+}
+
+void MainWindow::RunScenarioCommand(bool with_sidrel) {
+  AppState& state = application_->state();
+  if (!NetworkLoaded(state, ui_)) return;
   ModelContext context{surface_, state, ui_};
   if (with_sidrel) {
-    mnuScn_ModeleRun(context, *log_model_);
+    mnuScn_ModeleRun(context, NewConsole());
   } else {
-    mnuScn_ModeleGen(context, *log_model_);
+    mnuScn_ModeleGen(context, NewConsole());
   }
 }
 

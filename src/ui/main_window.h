@@ -101,6 +101,7 @@ class MainWindow : public QMainWindow {
   void ImportBackground();
   void PrintDrawing();
   void RunScenarioCommand(bool with_sidrel);
+  Console& NewConsole();
   void RecapData();
   PictureFolders Folders() const;
   // The interaction modes: built with the window, their requests answered

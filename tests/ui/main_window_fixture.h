@@ -9,10 +9,12 @@
 #include <QMessageBox>
 #include <QTimer>
 #include <filesystem>
+#include <functional>
 #include <string>
 #include <vector>
 
 #include "foundation/test_files.h"
+#include "ui/form_window.h"
 #include "ui/main_window.h"
 #include "ui/test_app.h"
 
@@ -96,6 +98,16 @@ class MessageAnswerer {
   std::size_t next_ = 0;
   std::vector<SeenMessage> seen_;
 };
+
+// Runs `step` on the next form window that shows as the modal one (other
+// than `after`).
+inline void OnNextForm(std::function<void(FormWindow*)> step, QWidget* after = nullptr) {
+  QTimer::singleShot(10, [step, after] {
+    auto* form = qobject_cast<FormWindow*>(QApplication::activeModalWidget());
+    if (!form || form == after || !form->isVisible()) return OnNextForm(step, after);
+    step(form);
+  });
+}
 
 // The first load and the first activation of the window on the copy, with
 // `command_line` as the program was given it.

@@ -21,15 +21,6 @@
 namespace pluvane {
 namespace {
 
-// Runs `step` on the next form window that shows as the modal one.
-void OnNextForm(std::function<void(FormWindow*)> step, QWidget* after = nullptr) {
-  QTimer::singleShot(10, [step, after] {
-    auto* form = qobject_cast<FormWindow*>(QApplication::activeModalWidget());
-    if (!form || form == after || !form->isVisible()) return OnNextForm(step, after);
-    step(form);
-  });
-}
-
 TEST(ScenarioForms, TheEditButtonCellOpensTheScenarioForm) {
   TestApp();
   AppFolder app;
