@@ -15,7 +15,9 @@
 #include "editors/section_import.h"
 #include "shell/frm_impfile_dlg.h"
 #include "foundation/paths.h"
+#include "network/frm_bief_lst.h"
 #include "network/link_direction.h"
+#include "network/reach_creation.h"
 #include "network/locate_element.h"
 #include "network/merge_network.h"
 #include "network/persistence.h"
@@ -161,6 +163,21 @@ void MainWindow::BindCommands() {
          if (!NetworkLoaded(application_->state(), ui_)) return;
          FrmScnSimParamSelect form(surface_, application_->state(), ui_);
          OpenForm(form);
+       })},
+      {"mnuOpt_Bief_New", after([this] {
+         if (!NetworkLoaded(application_->state(), ui_)) return;
+         mnuOpt_Bief_New(application_->state(), interaction_->placement(), ui_);
+         ShowArmedTool();
+       })},
+      {"mnuOpt_Bief_Old", after([this] {
+         if (!NetworkLoaded(application_->state(), ui_)) return;
+         FrmBiefLst form(surface_, application_->state(), ui_, [this](const ReachHighlight& line) {
+           std::vector<QPointF> points;
+           for (const Point& p : line.points) points.emplace_back(p.x, p.y);
+           view_->SetHighlight(std::move(points), line.color, line.width, line.style);
+         });
+         OpenForm(form);
+         view_->SetHighlight({}, 0, 0, 0);
        })},
       {"mnuOpt_SecOpn", after([this] {
          if (NetworkLoaded(application_->state(), ui_)) OpenNamedForm("frmSect", 0);

@@ -233,6 +233,15 @@ void SurfaceView::paintEvent(QPaintEvent*) {
 
 QRectF SurfaceView::GestureRect() const { return QRectF(press_, pointer_).normalized(); }
 
+void SurfaceView::SetHighlight(std::vector<QPointF> points, std::int32_t color, double width,
+                               int style) {
+  highlight_ = std::move(points);
+  highlight_width_ = width;
+  highlight_pen_ = QPen(QColor(color & 0xFF, (color >> 8) & 0xFF, (color >> 16) & 0xFF), 1,
+                        style == 1 ? Qt::DashLine : style == 2 ? Qt::DotLine : Qt::SolidLine);
+  viewport()->update();
+}
+
 void SurfaceView::PaintOverlay(QPainter& painter) {
   painter.setRenderHint(QPainter::Antialiasing, false);
   if (gesture_ == Gesture::kBand || gesture_ == Gesture::kZoom) {
@@ -251,6 +260,16 @@ void SurfaceView::PaintOverlay(QPainter& painter) {
       painter.drawRect(t.ToClient(surface_.ObjectShape(n)->box).normalized().translated(offset));
       ++shown;
     }
+  }
+  if (highlight_.size() >= 2) {
+    const ViewTransform t = Transform();
+    QPen pen = highlight_pen_;
+    // A width in logical units follows the zoom.
+    pen.setWidthF(highlight_width_ < 0 ? -highlight_width_ / t.per_pixel : highlight_width_);
+    painter.setPen(pen);
+    QPolygonF line;
+    for (const QPointF& p : highlight_) line << t.ToClient(p.x(), p.y());
+    painter.drawPolyline(line);
   }
   if (rubber_start_) {
     const ViewTransform t = Transform();

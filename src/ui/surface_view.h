@@ -14,6 +14,7 @@
 #include <QPoint>
 #include <QPointF>
 #include <optional>
+#include <vector>
 
 #include "drawing/surface.h"
 #include "ui/surface_painter.h"
@@ -70,6 +71,12 @@ class SurfaceView : public QAbstractScrollArea {
   void ClearRubberLine();
   bool HasRubberLine() const { return rubber_start_.has_value(); }
 
+  // A line drawn over the drawing through logical points (a reach chosen in
+  // its list), in its colour (blue in the high byte), pen width (negative:
+  // logical units) and style; an empty list of points takes it away.
+  void SetHighlight(std::vector<QPointF> points, std::int32_t color, double width, int style);
+  const std::vector<QPointF>& Highlight() const { return highlight_; }
+
   // Zooms by `factor` (below 1 closer) keeping the logical point under the
   // client point where it is.
   void ZoomAbout(QPointF client, double factor);
@@ -124,6 +131,9 @@ class SurfaceView : public QAbstractScrollArea {
   QPointF press_;
   QPointF pointer_;
   std::optional<QPointF> rubber_start_;  // logical
+  std::vector<QPointF> highlight_;       // logical
+  QPen highlight_pen_;
+  double highlight_width_ = 0;
   bool rubber_box_ = false;
 };
 
