@@ -2,7 +2,12 @@
 // records of the rain library as their forms leave them.
 #pragma once
 
+#include <functional>
 #include <string>
+#include <vector>
+
+#include "editors/editor_context.h"
+#include "plot/plot_viewer.h"
 
 #include "foundation/expect_message.h"
 #include "rain/rain_records.h"
@@ -12,6 +17,21 @@ namespace pluvane {
 
 class RainTest : public ScenarioTest {
  protected:
+  // The forms opened from a form go to `on_form`, in order; the viewer's
+  // openings are counted with the script shown.
+  EditorContext Context() {
+    return EditorContext{surface_, state_, ui_,
+                         [this](FormController& form) {
+                           ++forms_opened_;
+                           if (on_form_) on_form_(form);
+                         },
+                         viewer_, [this](ViewerState& viewer) { shown_.push_back(viewer.script); }};
+  }
+  std::function<void(FormController&)> on_form_;
+  int forms_opened_ = 0;
+  ViewerState viewer_;
+  std::vector<std::string> shown_;
+
   int AddMontana(const std::string& id, const std::string& ca, const std::string& cb,
                  const std::string& design = "Paris", const std::string& pret = "10") {
     const int n = AddRainRecord(surface_, state_, kMontanaEntry, id);
