@@ -204,6 +204,7 @@ void RainLibrary::mnSave() {
   if (!CheckRows()) return;
   CursorKeeper keeper(surface_);
   DeleteMarkedRecords(surface_, setup_.kind);
+  BeforeWrite();
   for (int row = 1; row <= grid_.MaxRows(); ++row) {
     if (RowDeleted(row)) continue;
     const std::string id = Trim(grid_.Text(1, row));
@@ -212,7 +213,7 @@ void RainLibrary::mnSave() {
     }
     WriteRow(row);
   }
-  Close();
+  mnClose();
 }
 
 }  // namespace pluvane

@@ -67,6 +67,8 @@ class RainLibrary : public FormController {
  protected:
   // The checks of a save; the default is the grid's filled and doubles checks.
   virtual bool CheckRows();
+  // Called by the save once the checks passed and the marked records went.
+  virtual void BeforeWrite() {}
   // Writes the row's tags on its record, current.
   virtual void WriteRow(int row);
   // The edition form of the record `number` named `id`; null when the kind has none.
