@@ -10,6 +10,7 @@
 #include "shell/application.h"
 #include "shell/cli_network.h"
 #include "shell/cli_options.h"
+#include "shell/cli_rain.h"
 #include "simulation/data_recap.h"
 #include "simulation/engine_commands.h"
 #include "simulation/engine_run.h"
@@ -141,6 +142,13 @@ std::vector<CliCommand> CoreCliCommands() {
        "                writes the data recap report of the scenario beside its\n"
        "                model and prints its path\n",
        Recap},
+      {"import-rain",
+       "  import-rain NETWORK.mtf FILE --key PR|PPHY|CAQ|PPST|PPDT|PRAD -o OUT.mtf\n"
+       "                imports the rain blocks of that key from the rain text\n"
+       "                FILE into the network as the external rain library does,\n"
+       "                and writes the network to OUT.mtf (also when the import\n"
+       "                was refused); prints the count imported\n",
+       ImportRainCommand},
   };
 }
 

@@ -272,3 +272,51 @@ TEST(RainTextTest, BlocksAreCutAtTheirHeads) {
 
 }  // namespace
 }  // namespace pluvane
+
+namespace pluvane {
+namespace {
+
+// Damaged copies of a good file (bytes dropped, swapped, changed) never stop
+// the reader: every key reads them, and a refused import adds nothing.
+TEST_F(RainImportTest, DamagedFilesNeverBreakTheReader) {
+  AddGauge(10000, 20000, 10100, 20100);
+  const std::string good =
+      "PR     'Pluie1'\r\n    1    1\r\n   'Plu_1' 0\r\n    10050.    79950.\r\n    2\r\n"
+      "      0.00      0.00\r\n     10.00      2.50\r\n\r\nCAQ       'C'\r\n  5.9 -.59\r\n"
+      "PPST 'S'\r\n 1 2 3\r\n 4 5\r\n 6 7\r\nPPDT 'D'\r\n 1 2 3\r\n 4 5\r\n 6 7\r\n 8 9 10\r\n"
+      "PPHY 'H'\r\n 1 2 3\r\n 2\r\n 0 0\r\n 5 \"6\r\nPRAD 'R'\r\n a\r\n b\r\n";
+  std::uint32_t seed = 12345;
+  auto next = [&seed] { return seed = seed * 1664525u + 1013904223u; };
+  const std::string noise = " '\"\r\n\t0123456789.-+ePRCAQ\xE9\xC3";
+  for (int round = 0; round < 300; ++round) {
+    std::string bytes = good;
+    const int edits = 1 + static_cast<int>(next() % 6);
+    for (int e = 0; e < edits && !bytes.empty(); ++e) {
+      const std::size_t at = next() % bytes.size();
+      switch (next() % 3) {
+        case 0:
+          bytes.erase(at, 1 + next() % 8);
+          break;
+        case 1:
+          bytes.insert(at, 1, noise[next() % noise.size()]);
+          break;
+        default:
+          bytes[at] = noise[next() % noise.size()];
+          break;
+      }
+    }
+    const std::string path = File(bytes, "damaged.plu");
+    for (const char* key : {"PR", "CAQ", "PPST", "PPDT", "PPHY", "PRAD"}) {
+      const int kind = ImportedKind(key);
+      const int before = Count(kind);
+      const RainImportResult result = Import(key, path);
+      EXPECT_EQ(Count(kind) - before, result.imported);
+      if (result.refused) EXPECT_EQ(result.imported, 0);
+      // Empty the kind again for the next round.
+      for (int n : RecordsOfKind(surface_, kind)) surface_.DeleteObject(n);
+    }
+  }
+}
+
+}  // namespace
+}  // namespace pluvane
