@@ -34,6 +34,28 @@ void SayFault(UserInterface& ui, const RainTextBlock& block, const RainBlockFaul
                  kImportTitle, MessageIcon::kExclamation);
 }
 
+// Writes the tags on the new record, current: those it holds already by name,
+// the others added at its end at once (a gauge table has a tag per row, and
+// looking each one up would cost the square of their count).
+void WriteNewTags(Surface& surface, const std::vector<std::pair<std::string, std::string>>& tags) {
+  std::set<std::string> present;
+  for (int i = 0; i < surface.ObjTagCount(); ++i) present.insert(surface.ObjTagName(i));
+  std::vector<const std::pair<std::string, std::string>*> added;
+  for (const auto& tag : tags) {
+    if (present.count(tag.first) != 0) {
+      surface.SetObjTag(tag.first, tag.second);
+    } else if (present.insert(tag.first).second) {
+      added.push_back(&tag);
+    }
+  }
+  const int base = surface.ObjTagCount();
+  surface.SetObjTagCount(base + static_cast<int>(added.size()));
+  for (std::size_t i = 0; i < added.size(); ++i) {
+    surface.SetObjTagName(base + static_cast<int>(i), added[i]->first);
+    surface.SetObjTagValue(base + static_cast<int>(i), added[i]->second);
+  }
+}
+
 }  // namespace
 
 int ImportedKind(const std::string& key) {
@@ -117,7 +139,7 @@ RainImportResult ImportRainFile(Surface& surface, const NetworkState& state, Use
     }
     if (!gauges_exist) continue;
     AddRainRecord(surface, state, kind, block.name);
-    for (const auto& [tag, value] : rain.tags) surface.SetObjTag(tag, value);
+    WriteNewTags(surface, rain.tags);
     ++result.imported;
   }
   ui.ShowProgress(-1);

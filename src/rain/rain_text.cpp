@@ -1,6 +1,7 @@
 #include "rain/rain_text.h"
 
 #include <cmath>
+#include <string_view>
 
 #include "drawing/tag_match.h"
 #include "foundation/line_parsing.h"
@@ -15,16 +16,30 @@ namespace {
 // The largest count a block may announce (16-bit counts of the engine).
 constexpr double kMaxCount = 32767;
 
-// Reads the numbers of a line, at least `needed` of them.
-bool Numbers(UserInterface& ui, const std::string& line, std::size_t needed,
-             std::vector<double>& values) {
-  std::vector<std::string> fields;
-  SplitLine(ui, line, fields);
-  if (fields.size() < needed) return false;
+// The fields of a line of numbers, split at blanks and tabs.
+std::vector<std::string_view> Fields(std::string_view line) {
+  std::vector<std::string_view> fields;
+  std::size_t i = 0;
+  while (i < line.size()) {
+    while (i < line.size() && (line[i] == ' ' || line[i] == '\t')) ++i;
+    const std::size_t start = i;
+    while (i < line.size() && line[i] != ' ' && line[i] != '\t') ++i;
+    if (i > start) fields.push_back(line.substr(start, i - start));
+  }
+  return fields;
+}
+
+// Reads the numbers of a line, at least `needed` of them; `fields` keeps the
+// line's fields as they stand.
+bool Numbers(const std::string& line, std::size_t needed, std::vector<double>& values,
+             std::vector<std::string_view>* fields = nullptr) {
+  std::vector<std::string_view> found = Fields(line);
+  if (found.size() < needed) return false;
   values.assign(needed, 0);
   for (std::size_t i = 0; i < needed; ++i) {
-    if (!ReadWholeNumber(fields[i], values[i])) return false;
+    if (!ReadWholeNumber(found[i], values[i])) return false;
   }
+  if (fields) *fields = std::move(found);
   return true;
 }
 
@@ -43,9 +58,13 @@ class BlockLines {
     line = block_.lines[next_++];
     return true;
   }
-  bool NextNumbers(UserInterface& ui, std::size_t needed, std::vector<double>& values) {
-    std::string line;
-    return Next(line) && Numbers(ui, line, needed, values);
+  bool NextNumbers(UserInterface& /*ui*/, std::size_t needed, std::vector<double>& values) {
+    const std::string* line = Next();
+    return line && Numbers(*line, needed, values);
+  }
+  const std::string* Next() {
+    if (next_ >= block_.lines.size()) return nullptr;
+    return &block_.lines[next_++];
   }
 
  private:
@@ -72,11 +91,16 @@ bool GaugeLine(UserInterface& ui, const std::string& line, Gauge& gauge) {
   return true;
 }
 
-std::string FirstField(UserInterface& ui, const std::string& line, std::string& second) {
+// The keyword of a head line (its first field, in capitals) when the line is
+// one, else empty: a keyword of the six followed by a field with an apostrophe.
+std::string HeadKeyword(UserInterface& ui, const std::string& line) {
+  const std::size_t end = line.find_first_of(" \t");
+  if (end == std::string::npos || end > 4) return "";
+  const std::string keyword = UCase(line.substr(0, end));
+  if (!IsRainKeyword(keyword)) return "";
   std::vector<std::string> fields;
-  if (SplitLine(ui, line, fields) < 1) return "";
-  second = fields.size() > 1 ? fields[1] : "";
-  return UCase(fields[0]);
+  if (SplitLine(ui, line, fields) < 2 || fields[1].find('\'') == std::string::npos) return "";
+  return keyword;
 }
 
 bool DecodeGauges(UserInterface& ui, BlockLines& in, DecodedRain& rain, RainBlockFault& fault) {
@@ -95,11 +119,12 @@ bool DecodeGauges(UserInterface& ui, BlockLines& in, DecodedRain& rain, RainBloc
     int records = 0;
     if (!in.NextNumbers(ui, 2, v)) return false;
     if (!in.NextNumbers(ui, 1, v) || !Count(v[0], records)) return false;
+    gauge.records.reserve(static_cast<std::size_t>(records));
     for (int i = 0; i < records; ++i) {
-      std::vector<std::string> fields;
-      if (!in.Next(line) || !Numbers(ui, line, 2, v)) return false;
-      SplitLine(ui, line, fields);
-      gauge.records.emplace_back(fields[0], fields[1]);
+      std::vector<std::string_view> fields;
+      const std::string* record = in.Next();
+      if (!record || !Numbers(*record, 2, v, &fields)) return false;
+      gauge.records.emplace_back(std::string(fields[0]), std::string(fields[1]));
     }
   }
   // Records are joined by position; the last gauge gives the times.
@@ -152,12 +177,11 @@ std::vector<RainTextBlock> ReadRainBlocks(UserInterface& ui,
                                           const std::vector<std::string>& lines) {
   std::vector<RainTextBlock> blocks;
   for (std::size_t i = 0; i < lines.size(); ++i) {
-    const std::string line = Trim(lines[i]);
+    std::string line = Trim(lines[i]);
     if (line.empty()) continue;
-    std::string second;
-    const std::string keyword = FirstField(ui, line, second);
+    const std::string keyword = HeadKeyword(ui, line);
     int position = 0;
-    if (IsRainKeyword(keyword) && second.find('\'') != std::string::npos) {
+    if (!keyword.empty()) {
       // The name is the quoted part of the line after the keyword, blanks and all.
       const std::string name = QuotedPart(line, position);
       blocks.push_back({keyword, name, static_cast<int>(i) + 1, {}});
