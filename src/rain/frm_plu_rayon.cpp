@@ -23,12 +23,15 @@ FrmPluRayon::FrmPluRayon(EditorContext& context) : context_(context), grid_(1, 3
   grid_.SetText(0, kRowX, "Coord Xc (m)=");
   grid_.SetText(0, kRowY, "Coord Yc (m)=");
   grid_.SetColWidth(1, 14);
-  const int radius = FindRadius(context_.surface);
-  if (radius == 0) return;
   Surface& surface = context_.surface;
-  grid_.SetText(1, kRowRadius, TagOfObject(surface, radius, "Rayon"));
-  grid_.SetText(1, kRowX, TagOfObject(surface, radius, "Xus"));
-  grid_.SetText(1, kRowY, TagOfObject(surface, radius, "Yus"));
+  const int current = surface.CurrentObject();
+  radius_ = current > 10 && TagOfObject(surface, current, "iName") == "17" ? current
+                                                                            : FindRadius(surface);
+  if (radius_ == 0) return;
+  // A circle just drawn carries the tags of its centre and radius already.
+  grid_.SetText(1, kRowRadius, TagOfObject(surface, radius_, "Rayon"));
+  grid_.SetText(1, kRowX, TagOfObject(surface, radius_, "Xus"));
+  grid_.SetText(1, kRowY, TagOfObject(surface, radius_, "Yus"));
 }
 
 std::vector<FormCommand> FrmPluRayon::Commands() {
@@ -51,7 +54,11 @@ void FrmPluRayon::cmdOk() {
   const std::int32_t r_log = RoundLong(std::sqrt(dx * dx + dy * dy));
 
   CursorKeeper keeper(surface);
-  int radius = FindRadius(surface);
+  int radius = radius_ > 10 && TagOfObject(surface, radius_, "iName") == "17" ? radius_ : 0;
+  // At most one radius: the others go.
+  for (int other : FindObjectList(surface, "iName", kRainRadius)) {
+    if (other != radius) surface.DeleteObject(other);
+  }
   if (radius == 0) {
     radius = surface.AddObject(kKindEllipse, x_log - r_log, y_log - r_log, x_log + r_log,
                                y_log + r_log);
@@ -70,8 +77,7 @@ void FrmPluRayon::cmdOk() {
 
 void FrmPluRayon::cmdDel() {
   Surface& surface = context_.surface;
-  const int radius = FindRadius(surface);
-  if (radius > 10) surface.DeleteObject(radius);
+  for (int radius : FindObjectList(surface, "iName", kRainRadius)) surface.DeleteObject(radius);
   Close();
 }
 

@@ -17,6 +17,8 @@ class FrmPluRayon : public FormController {
   static constexpr int kRowX = 2;
   static constexpr int kRowY = 3;
 
+  // On the radius just drawn when it is the current object, else on the
+  // drawing's radius if any.
   explicit FrmPluRayon(EditorContext& context);
 
   std::string Caption() const override { return "Rayon d'action de la pluie projet"; }
@@ -33,6 +35,7 @@ class FrmPluRayon : public FormController {
 
  private:
   EditorContext& context_;
+  int radius_ = 0;
   Grid grid_;
 };
 

@@ -254,3 +254,30 @@ TEST_F(GaugeTest, TheEventLibraryChecksItsIdentifiersAndRenamesScenarios) {
 
 }  // namespace
 }  // namespace pluvane
+
+namespace pluvane {
+namespace {
+
+class RadiusTest : public RainTest {};
+
+TEST_F(RadiusTest, ACircleJustDrawnShowsItsCentreAndRadiusAndReplacesTheOldOne) {
+  const int old_radius = AddRadius(0, 0, 100, 100);
+  surface_.SetObjTag("Rayon", "50");
+  const int drawn = AddRadius(20000, 60000, 30000, 70000);
+  surface_.SetCurrentObject(drawn);
+  EditorContext context = Context();
+  FrmPluRayon form(context);
+  EXPECT_EQ(form.grid().Text(1, 1), "5000");
+  EXPECT_EQ(form.grid().Text(1, 2), "25000");
+  EXPECT_EQ(form.grid().Text(1, 3), "35000");
+  form.grid().SetText(1, 1, "4000");
+  form.Run("cmdOk");
+  EXPECT_FALSE(Exists(old_radius));
+  ASSERT_TRUE(Exists(drawn));
+  EXPECT_EQ(FindRadius(surface_), drawn);
+  EXPECT_EQ(Tag(drawn, "Rayon"), "4000");
+  EXPECT_EQ(Count(17), 1);
+}
+
+}  // namespace
+}  // namespace pluvane
