@@ -336,3 +336,72 @@ TEST_F(PitPlusTest, VisuShowsTheCurveThroughTheViewer) {
 
 }  // namespace
 }  // namespace pluvane
+
+namespace pluvane {
+namespace {
+
+class StormGenerationTest : public RainTest {
+ protected:
+  std::string Generate() {
+    const std::string plu = folder_.File("t.PLU");
+    EXPECT_EQ(GenFicPlu(surface_, ui_, state_.calibration, "Scn-1", folder_.File("t.Scn"), plu),
+              1);
+    return ReadBytes(plu);
+  }
+};
+
+TEST_F(StormGenerationTest, AnEditedCaquotGeneratesItsBlock) {
+  AddMontana("Mont1", "5.9", "-0.59");
+  AddScenario("Scn-1", "CAQ_1", 104);
+  EditorContext context = Context();
+  FrmCaqBib library(context);
+  library.Run("mnAdd");
+  on_form_ = [](FormController& form) {
+    auto& storm = dynamic_cast<FrmStormPlus&>(form);
+    storm.ButtonCell(storm.montana(), FrmStormPlus::kColChoose, 1);
+    storm.DoubleClickCell(storm.library(), 1, 1);
+    storm.Run("mnSave");
+  };
+  library.ButtonCell(library.grid(), 3, 1);
+  library.Run("mnSave");
+  EXPECT_EQ(Generate(), "CAQ       'CAQ_1'\r\n      5.90      -.59\r\n");
+}
+
+TEST_F(StormGenerationTest, AnEditedDoubleTriangleGeneratesItsBlock) {
+  AddMontana("Mont1", "5.9", "-0.59");
+  AddMontana("Mont2", "12.25", "-0.8");
+  AddScenario("Scn-1", "PDT_1", 106);
+  const int n = AddRecord(106, "PDT_1");
+  EditorContext context = Context();
+  FrmPdtPlus form(context, "PDT_1", n);
+  form.ButtonCell(form.montana(), FrmStormPlus::kColChoose, 1);
+  form.DoubleClickCell(form.library(), 1, 1);
+  form.ButtonCell(form.montana_int(), FrmStormPlus::kColChoose, 1);
+  form.DoubleClickCell(form.library(), 1, 2);
+  form.triangle().SetText(1, 1, "240");
+  form.triangle().SetText(1, 2, "30");
+  form.triangle().SetText(1, 3, "100");
+  form.Run("mnSave");
+  EXPECT_EQ(Generate(),
+            "PPDT     'PDT_1'\r\n    50000.    50000. 9999999.0\r\n      5.90      -.59\r\n"
+            "     12.25      -.80\r\n    240.00     30.00    100.00\r\n");
+}
+
+TEST_F(StormGenerationTest, AnEditedSyntheticStormGeneratesItsBlock) {
+  AddScenario("Scn-1", "PIT_1", 107);
+  EditorContext context = Context();
+  FrmPitPlus form(context, "PIT_1", 0);
+  form.Run("mnAdd");
+  form.Run("mnAdd");
+  form.grid().SetText(1, 1, "0");
+  form.grid().SetText(2, 1, "0");
+  form.grid().SetText(1, 2, "15");
+  form.grid().SetText(2, 2, "72.5");
+  form.Run("mnSave");
+  EXPECT_EQ(Generate(),
+            "PPHY     'PIT_1'\r\n    50000.    50000. 9999999.0\r\n    2\r\n      0.00      0.00\r\n"
+            "     15.00     72.50\r\n");
+}
+
+}  // namespace
+}  // namespace pluvane
