@@ -93,13 +93,11 @@ bool GaugeLine(UserInterface& ui, const std::string& line, Gauge& gauge) {
 
 // The keyword of a head line (its first field, in capitals) when the line is
 // one, else empty: a keyword of the six followed by a field with an apostrophe.
-std::string HeadKeyword(UserInterface& ui, const std::string& line) {
-  const std::size_t end = line.find_first_of(" \t");
-  if (end == std::string::npos || end > 4) return "";
-  const std::string keyword = UCase(line.substr(0, end));
-  if (!IsRainKeyword(keyword)) return "";
-  std::vector<std::string> fields;
-  if (SplitLine(ui, line, fields) < 2 || fields[1].find('\'') == std::string::npos) return "";
+std::string HeadKeyword(const std::string& line) {
+  const std::vector<std::string_view> fields = Fields(line);
+  if (fields.size() < 2 || fields[0].size() > 4) return "";
+  const std::string keyword = UCase(fields[0]);
+  if (!IsRainKeyword(keyword) || fields[1].find('\'') == std::string_view::npos) return "";
   return keyword;
 }
 
@@ -173,13 +171,13 @@ bool IsRainKeyword(const std::string& keyword) {
          keyword == "PPHY" || keyword == "PRAD";
 }
 
-std::vector<RainTextBlock> ReadRainBlocks(UserInterface& ui,
+std::vector<RainTextBlock> ReadRainBlocks(UserInterface& /*ui*/,
                                           const std::vector<std::string>& lines) {
   std::vector<RainTextBlock> blocks;
   for (std::size_t i = 0; i < lines.size(); ++i) {
     std::string line = Trim(lines[i]);
     if (line.empty()) continue;
-    const std::string keyword = HeadKeyword(ui, line);
+    const std::string keyword = HeadKeyword(line);
     int position = 0;
     if (!keyword.empty()) {
       // The name is the quoted part of the line after the keyword, blanks and all.

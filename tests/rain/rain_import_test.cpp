@@ -320,3 +320,24 @@ TEST_F(RainImportTest, DamagedFilesNeverBreakTheReader) {
 
 }  // namespace
 }  // namespace pluvane
+
+namespace pluvane {
+namespace {
+
+TEST(RainTextTest, TabsSeparateFieldsAndAQuoteInANumberIsAFault) {
+  ScriptedUi ui;
+  const std::vector<RainTextBlock> blocks =
+      ReadRainBlocks(ui, {"CAQ\t'A'", "5.9\t-0.59", "CAQ 'B'", "\"6 1"});
+  ASSERT_EQ(blocks.size(), 2u);
+  DecodedRain rain;
+  RainBlockFault fault;
+  ASSERT_TRUE(DecodeRainBlock(ui, blocks[0], rain, fault));
+  EXPECT_EQ(rain.tags[2], (std::pair<std::string, std::string>{"Ca", "5.9"}));
+  EXPECT_EQ(rain.tags[3], (std::pair<std::string, std::string>{"Cb", "-0.59"}));
+  EXPECT_FALSE(DecodeRainBlock(ui, blocks[1], rain, fault));
+  EXPECT_EQ(fault.kind, RainBlockFault::kFormat);
+  EXPECT_TRUE(ui.Empty());
+}
+
+}  // namespace
+}  // namespace pluvane
