@@ -1,6 +1,8 @@
 // Times the import of a PR rain file of 50 gauges and 20 000 records each into
 // a network that holds the 50 gauges, and the rain file the generation writes
 // back from it.
+#include "rain/rain_import.h"
+
 #include <chrono>
 #include <cstdio>
 #include <filesystem>
@@ -14,7 +16,6 @@
 #include "foundation/text.h"
 #include "network/default_tags.h"
 #include "network/georeferencing.h"
-#include "rain/rain_import.h"
 #include "rain/rain_records.h"
 #include "shell/app_state.h"
 #include "simulation/rain_file.h"

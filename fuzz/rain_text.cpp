@@ -2,6 +2,8 @@
 // input is the file, imported under every key into a network holding one
 // gauge. The import never counts more rains than the file has blocks of the
 // key, and a refused import adds nothing.
+#include "rain/rain_text.h"
+
 #include <unistd.h>
 
 #include <cstddef>
@@ -17,7 +19,6 @@
 #include "network/network_state.h"
 #include "rain/rain_import.h"
 #include "rain/rain_records.h"
-#include "rain/rain_text.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   using namespace pluvane;

@@ -23,7 +23,8 @@ std::vector<std::string> TabFields(const std::string& line) {
   std::size_t start = 0;
   while (true) {
     const std::size_t tab = line.find('\t', start);
-    fields.push_back(line.substr(start, tab == std::string::npos ? std::string::npos : tab - start));
+    fields.push_back(
+        line.substr(start, tab == std::string::npos ? std::string::npos : tab - start));
     if (tab == std::string::npos) return fields;
     start = tab + 1;
   }
@@ -106,9 +107,9 @@ void FrmPluHtCrb::mnSave() {
   for (int row = 3; row <= grid_.MaxRows(); ++row) {
     if (RisesEnough(grid_.Value(1, row - 1), grid_.Value(1, row))) continue;
     grid_.SetActiveCell(1, row - 1);
-    ui.ShowMessage("Les temps doivent être croissants !\r\n revoir ligne " +
-                       std::to_string(row - 1),
-                   Caption(), MessageIcon::kExclamation);
+    ui.ShowMessage(
+        "Les temps doivent être croissants !\r\n revoir ligne " + std::to_string(row - 1),
+        Caption(), MessageIcon::kExclamation);
     return;
   }
   std::vector<std::string> lines;
@@ -129,6 +130,8 @@ void FrmPluHtCrb::mnSave() {
   Close();
 }
 
-void FrmPluHtCrb::mnVisu() { ShowRainCurves(context_, grid_, "Pluvio", "Pluvio", " Courbe Pluvio"); }
+void FrmPluHtCrb::mnVisu() {
+  ShowRainCurves(context_, grid_, "Pluvio", "Pluvio", " Courbe Pluvio");
+}
 
 }  // namespace pluvane

@@ -75,9 +75,9 @@ void FrmPluImport::mnEdit() {
 }
 
 void FrmPluImport::mnImporter() {
-  const std::string path =
-      ui_.AskOpenFile("Importer le fichier pluie", "Fichier Text|*.Txt|Fichier Plu|*.Plu|Tout (*.*)|*.*",
-                      "Txt", "*.Txt;*.plu;*.dat");
+  const std::string path = ui_.AskOpenFile("Importer le fichier pluie",
+                                           "Fichier Text|*.Txt|Fichier Plu|*.Plu|Tout (*.*)|*.*",
+                                           "Txt", "*.Txt;*.plu;*.dat");
   if (path.empty()) return;
   last_ = ImportRainFile(surface_, state_, ui_, key_, path);
 }

@@ -26,7 +26,7 @@ FrmPluRayon::FrmPluRayon(EditorContext& context) : context_(context), grid_(1, 3
   Surface& surface = context_.surface;
   const int current = surface.CurrentObject();
   radius_ = current > 10 && TagOfObject(surface, current, "iName") == "17" ? current
-                                                                            : FindRadius(surface);
+                                                                           : FindRadius(surface);
   if (radius_ == 0) return;
   // A circle just drawn carries the tags of its centre and radius already.
   grid_.SetText(1, kRowRadius, TagOfObject(surface, radius_, "Rayon"));
@@ -60,8 +60,8 @@ void FrmPluRayon::cmdOk() {
     if (other != radius) surface.DeleteObject(other);
   }
   if (radius == 0) {
-    radius = surface.AddObject(kKindEllipse, x_log - r_log, y_log - r_log, x_log + r_log,
-                               y_log + r_log);
+    radius =
+        surface.AddObject(kKindEllipse, x_log - r_log, y_log - r_log, x_log + r_log, y_log + r_log);
     CreateDefaultTags(surface, context_.state, "X_RAYON", false);
   }
   surface.SetCurrentObject(radius);

@@ -22,8 +22,7 @@ FrmPluXy::FrmPluXy(EditorContext& context)
 }
 
 std::vector<FormCommand> FrmPluXy::Commands() {
-  return {{"cmdOk", "&Ok", [this] { cmdOk(); }},
-          {"cmdAnnul", "&Annuler", [this] { cmdAnnul(); }}};
+  return {{"cmdOk", "&Ok", [this] { cmdOk(); }}, {"cmdAnnul", "&Annuler", [this] { cmdAnnul(); }}};
 }
 
 void FrmPluXy::cmdOk() {

@@ -20,12 +20,11 @@ LibrarySetup PrealSetup() {
   setup.add_prefix = "Pluie";
   setup.insert_prefix = "Pluie";
   setup.create_on_add = false;
-  setup.columns = {
-      {LibraryColumn::kTag, "Désignation de l'événement", "Design", "", 24},
-      {LibraryColumn::kList, "Méthode d'interpolation", "iModePluie",
-       std::string(kThiessen) + "\t" + kWeightedDistance, 20},
-      {LibraryColumn::kTag, "Commentaire", "UsId", "", 24},
-      {LibraryColumn::kEdit, "Courbes H(t)", "", "&Editer...", 10}};
+  setup.columns = {{LibraryColumn::kTag, "Désignation de l'événement", "Design", "", 24},
+                   {LibraryColumn::kList, "Méthode d'interpolation", "iModePluie",
+                    std::string(kThiessen) + "\t" + kWeightedDistance, 20},
+                   {LibraryColumn::kTag, "Commentaire", "UsId", "", 24},
+                   {LibraryColumn::kEdit, "Courbes H(t)", "", "&Editer...", 10}};
   return setup;
 }
 

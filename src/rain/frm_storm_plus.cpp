@@ -61,9 +61,10 @@ FrmStormPlus::FrmStormPlus(EditorContext& context, int kind, std::string id, int
     grid.SetCaption(Caption());
     MontanaHeads(grid);
     grid.SetColHead(kColChoose, "");
-    grid.SetText(0, 1, kind_ != kDoubleTriangleRain ? "Coef. de Montana"
-                       : which == 0                  ? "Coef. de Montana pour l'épisode total"
-                                                     : "Coef de Montana pour l'épisode intense");
+    grid.SetText(0, 1,
+                 kind_ != kDoubleTriangleRain ? "Coef. de Montana"
+                 : which == 0                 ? "Coef. de Montana pour l'épisode total"
+                                              : "Coef de Montana pour l'épisode intense");
     for (int col = kColId; col <= kColCb; ++col) grid.SetLocked(col, 1, true);
     grid.SetType(kColChoose, 1, CellType::Button());
     grid.SetText(kColChoose, 1, "Choix des coef. de Montana");

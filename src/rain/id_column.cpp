@@ -13,7 +13,8 @@ void IdColumnMemory::Reset(const Grid& grid) {
 
 void IdColumnMemory::Inserted(int row) {
   if (row < 1) return;
-  if (static_cast<std::size_t>(row) > ids_.size() + 1) ids_.resize(static_cast<std::size_t>(row) - 1);
+  if (static_cast<std::size_t>(row) > ids_.size() + 1)
+    ids_.resize(static_cast<std::size_t>(row) - 1);
   ids_.insert(ids_.begin() + (row - 1), std::string());
 }
 

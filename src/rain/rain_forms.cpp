@@ -14,10 +14,14 @@ std::unique_ptr<FormController> MakeRainForm(const std::string& name, EditorCont
   if (name == "mnuPlu_Proj_Montana" || name == "frmMontana") {
     return std::make_unique<FrmMontana>(context.surface, context.state, context.ui);
   }
-  if (name == "mnuPlu_Proj_Caquot" || name == "frmCaqBib") return std::make_unique<FrmCaqBib>(context);
-  if (name == "mnuPlu_Proj_1Tri" || name == "frmPstBib") return std::make_unique<FrmPstBib>(context);
-  if (name == "mnuPlu_Proj_2Tri" || name == "frmPdtBib") return std::make_unique<FrmPdtBib>(context);
-  if (name == "mnuPlu_Proj_Synth" || name == "frmPitBib") return std::make_unique<FrmPitBib>(context);
+  if (name == "mnuPlu_Proj_Caquot" || name == "frmCaqBib")
+    return std::make_unique<FrmCaqBib>(context);
+  if (name == "mnuPlu_Proj_1Tri" || name == "frmPstBib")
+    return std::make_unique<FrmPstBib>(context);
+  if (name == "mnuPlu_Proj_2Tri" || name == "frmPdtBib")
+    return std::make_unique<FrmPdtBib>(context);
+  if (name == "mnuPlu_Proj_Synth" || name == "frmPitBib")
+    return std::make_unique<FrmPitBib>(context);
   if (name == "mnuPlu_Real_Pluvio" || name == "frmPrealBib") {
     return std::make_unique<FrmPrealBib>(context);
   }

@@ -143,9 +143,9 @@ RainImportResult ImportRainFile(Surface& surface, const NetworkState& state, Use
     ++result.imported;
   }
   ui.ShowProgress(-1);
-  ui.ShowStatus(result.imported == 1 ? std::string("ok une pluie a été importée.")
-                                     : "ok " + std::to_string(result.imported) +
-                                           " pluies ont été importées.");
+  ui.ShowStatus(result.imported == 1
+                    ? std::string("ok une pluie a été importée.")
+                    : "ok " + std::to_string(result.imported) + " pluies ont été importées.");
   return result;
 }
 

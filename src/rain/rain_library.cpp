@@ -133,9 +133,7 @@ void RainLibrary::mnIns() {
   NameNewRow(row, setup_.insert_prefix);
 }
 
-void RainLibrary::mnDel() {
-  SSMarkRowDeleted(surface_, setup_.kind, grid_, grid_.ActiveRow());
-}
+void RainLibrary::mnDel() { SSMarkRowDeleted(surface_, setup_.kind, grid_, grid_.ActiveRow()); }
 
 void RainLibrary::LeaveCell(Grid& grid, int col, int row) {
   if (&grid != &grid_ || col != 1) return;

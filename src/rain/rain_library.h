@@ -11,8 +11,8 @@
 #include <vector>
 
 #include "drawing/surface.h"
-#include "foundation/form_controller.h"
 #include "editors/editor_context.h"
+#include "foundation/form_controller.h"
 #include "foundation/user_interface.h"
 #include "network/network_state.h"
 #include "rain/id_column.h"

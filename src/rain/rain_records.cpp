@@ -33,8 +33,8 @@ int AddRainRecord(Surface& surface, const NetworkState& state, int kind, std::st
   return number;
 }
 
-int RewriteReferences(Surface& surface, int kind, std::string_view ref_tag,
-                      std::string_view old_id, std::string_view new_id) {
+int RewriteReferences(Surface& surface, int kind, std::string_view ref_tag, std::string_view old_id,
+                      std::string_view new_id) {
   const std::string key = IdKey(old_id);
   CursorKeeper keeper(surface);
   int count = 0;

@@ -51,8 +51,8 @@ void RenameScenarioRain(Surface& surface, std::string_view old_id, std::string_v
 
 // Sets a tag of every object of the kind whose tag `ref_tag` is `old_id`
 // (trimmed, in capitals) to `new_id`; the number of objects rewritten.
-int RewriteReferences(Surface& surface, int kind, std::string_view ref_tag,
-                      std::string_view old_id, std::string_view new_id);
+int RewriteReferences(Surface& surface, int kind, std::string_view ref_tag, std::string_view old_id,
+                      std::string_view new_id);
 
 // A tag of an object, read with the cursor put back.
 std::string RecordTag(Surface& surface, int number, std::string_view tag);

@@ -204,10 +204,9 @@ bool DecodeRainBlock(UserInterface& ui, const RainTextBlock& block, DecodedRain&
   } else if (block.keyword == "PPST") {
     ok = NumberLines(ui, in, {centre, {"Ca", "Cb"}, {"Duree", "Timax"}}, rain);
   } else if (block.keyword == "PPDT") {
-    ok = NumberLines(ui, in,
-                     {centre, {"CaTot", "CbTot"}, {"CaInt", "CbInt"},
-                      {"DureeTot", "DureeInt", "Timax"}},
-                     rain);
+    ok = NumberLines(
+        ui, in, {centre, {"CaTot", "CbTot"}, {"CaInt", "CbInt"}, {"DureeTot", "DureeInt", "Timax"}},
+        rain);
   } else if (block.keyword == "PPHY") {
     std::vector<double> v;
     int count = 0;

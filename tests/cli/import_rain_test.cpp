@@ -12,8 +12,8 @@ TEST(ImportRainCli, ImportsTheBlocksAndWritesTheNetwork) {
   ProgramFolder folder;
   WriteBytes(folder.Work("pluie.txt"),
              "CAQ       'Orage_A'\r\n      5.90      -.59\r\nPPST 'Autre'\r\n 1 2 3\r\n");
-  const ProgramRun run = folder.Start(
-      "pluvane-cli", "import-rain Exemples/Demo.mtf pluie.txt --key CAQ -o out.mtf");
+  const ProgramRun run =
+      folder.Start("pluvane-cli", "import-rain Exemples/Demo.mtf pluie.txt --key CAQ -o out.mtf");
   EXPECT_EQ(run.status, 0) << run.output;
   EXPECT_NE(run.output.find("ok une pluie a été importée."), std::string::npos) << run.output;
   const std::string network = ReadBytes(folder.Work("out.mtf"));
@@ -35,8 +35,8 @@ TEST(ImportRainCli, ImportsTheBlocksAndWritesTheNetwork) {
 TEST(ImportRainCli, AFileWithNothingOfTheKeyStillRuns) {
   ProgramFolder folder;
   WriteBytes(folder.Work("pluie.txt"), "PRAD 'R'\na.Crb\nb.Prf\n");
-  const ProgramRun run = folder.Start(
-      "pluvane-cli", "import-rain Exemples/Demo.mtf pluie.txt --key PPHY -o out.mtf");
+  const ProgramRun run =
+      folder.Start("pluvane-cli", "import-rain Exemples/Demo.mtf pluie.txt --key PPHY -o out.mtf");
   EXPECT_EQ(run.status, 0) << run.output;
   EXPECT_NE(run.output.find("ok 0 pluies ont été importées."), std::string::npos) << run.output;
   EXPECT_FALSE(ReadBytes(folder.Work("out.mtf")).empty());

@@ -89,9 +89,9 @@ TEST_F(PluImportTest, TheListedFilesAreLoadedAndAMissingOneIsNamed) {
   g.SetText(3, 2, path);
   library.Run("mnLoad");
   EXPECT_EQ(ui_.Messages().front().text, "fichier introuvable:\r" + missing);
-  EXPECT_NE(std::find(ui_.Statuses().begin(), ui_.Statuses().end(),
-                      "c.plu en cours de chargement..."),
-            ui_.Statuses().end());
+  EXPECT_NE(
+      std::find(ui_.Statuses().begin(), ui_.Statuses().end(), "c.plu en cours de chargement..."),
+      ui_.Statuses().end());
   EXPECT_GT(FindRainRecord(surface_, 104, "C1"), 10);
   g.SetActiveCell(1, 2);
   library.Run("mnEdit");

@@ -22,8 +22,7 @@ class GaugeTest : public RainTest {
   }
   std::string Generate() {
     const std::string plu = folder_.File("t.PLU");
-    EXPECT_EQ(GenFicPlu(surface_, ui_, state_.calibration, "Scn-1", folder_.File("t.Scn"), plu),
-              1);
+    EXPECT_EQ(GenFicPlu(surface_, ui_, state_.calibration, "Scn-1", folder_.File("t.Scn"), plu), 1);
     return ReadBytes(plu);
   }
 };

@@ -7,9 +7,8 @@
 #include <vector>
 
 #include "editors/editor_context.h"
-#include "plot/plot_viewer.h"
-
 #include "foundation/expect_message.h"
+#include "plot/plot_viewer.h"
 #include "rain/rain_records.h"
 #include "simulation/scenario_fixture.h"
 
@@ -20,12 +19,15 @@ class RainTest : public ScenarioTest {
   // The forms opened from a form go to `on_form`, in order; the viewer's
   // openings are counted with the script shown.
   EditorContext Context() {
-    return EditorContext{surface_, state_, ui_,
+    return EditorContext{surface_,
+                         state_,
+                         ui_,
                          [this](FormController& form) {
                            ++forms_opened_;
                            if (on_form_) on_form_(form);
                          },
-                         viewer_, [this](ViewerState& viewer) { shown_.push_back(viewer.script); }};
+                         viewer_,
+                         [this](ViewerState& viewer) { shown_.push_back(viewer.script); }};
   }
   std::function<void(FormController&)> on_form_;
   int forms_opened_ = 0;

@@ -27,8 +27,7 @@ class RainImportTest : public RainTest {
   }
   std::string Generate(const std::string& name) {
     const std::string plu = folder_.File(name);
-    EXPECT_EQ(GenFicPlu(surface_, ui_, state_.calibration, "Scn-1", folder_.File("t.Scn"), plu),
-              1);
+    EXPECT_EQ(GenFicPlu(surface_, ui_, state_.calibration, "Scn-1", folder_.File("t.Scn"), plu), 1);
     return ReadBytes(plu);
   }
   // Generates the scenario's rain, deletes the rain, imports the file back and

@@ -248,8 +248,8 @@ TEST_F(StormPlusTest, TimaxOutsideTheDurationIsNotChecked) {
   Choose(form, form.montana(), 1);
   form.triangle().SetText(1, 1, "60");
   form.Run("mnSave");
-  ExpectLastMessage(ui_, "Renseignez toutes les données necessaires",
-                    "Pluie simple triangle PST_1", MessageIcon::kExclamation);
+  ExpectLastMessage(ui_, "Renseignez toutes les données necessaires", "Pluie simple triangle PST_1",
+                    MessageIcon::kExclamation);
   form.triangle().SetText(1, 2, "200");
   form.Run("mnSave");
   EXPECT_TRUE(form.Closed());
@@ -344,8 +344,7 @@ class StormGenerationTest : public RainTest {
  protected:
   std::string Generate() {
     const std::string plu = folder_.File("t.PLU");
-    EXPECT_EQ(GenFicPlu(surface_, ui_, state_.calibration, "Scn-1", folder_.File("t.Scn"), plu),
-              1);
+    EXPECT_EQ(GenFicPlu(surface_, ui_, state_.calibration, "Scn-1", folder_.File("t.Scn"), plu), 1);
     return ReadBytes(plu);
   }
 };
@@ -398,9 +397,10 @@ TEST_F(StormGenerationTest, AnEditedSyntheticStormGeneratesItsBlock) {
   form.grid().SetText(1, 2, "15");
   form.grid().SetText(2, 2, "72.5");
   form.Run("mnSave");
-  EXPECT_EQ(Generate(),
-            "PPHY     'PIT_1'\r\n    50000.    50000. 9999999.0\r\n    2\r\n      0.00      0.00\r\n"
-            "     15.00     72.50\r\n");
+  EXPECT_EQ(
+      Generate(),
+      "PPHY     'PIT_1'\r\n    50000.    50000. 9999999.0\r\n    2\r\n      0.00      0.00\r\n"
+      "     15.00     72.50\r\n");
 }
 
 }  // namespace
