@@ -310,7 +310,9 @@ TEST_F(RainImportTest, DamagedFilesNeverBreakTheReader) {
       const int before = Count(kind);
       const RainImportResult result = Import(key, path);
       EXPECT_EQ(Count(kind) - before, result.imported);
-      if (result.refused) EXPECT_EQ(result.imported, 0);
+      if (result.refused) {
+        EXPECT_EQ(result.imported, 0);
+      }
       // Empty the kind again for the next round.
       for (int n : RecordsOfKind(surface_, kind)) surface_.DeleteObject(n);
     }
