@@ -166,7 +166,12 @@ std::string RainLibrary::ChooseFile(int col) {
 }
 
 void RainLibrary::Edit(int row) {
-  if (row < 1 || row > grid_.MaxRows()) return;
+  if (row < 1 || row > grid_.MaxRows() || RowDeleted(row)) return;
+  bool editable = false;
+  for (const LibraryColumn& column : setup_.columns) {
+    editable = editable || column.kind == LibraryColumn::kEdit;
+  }
+  if (!editable) return;
   const std::string id = Trim(grid_.Text(1, row));
   BeforeEdit(id);
   int number = 0;

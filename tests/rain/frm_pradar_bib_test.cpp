@@ -68,3 +68,19 @@ TEST_F(RadarTest, ACancelledChooserLeavesThePath) {
 
 }  // namespace
 }  // namespace pluvane
+
+namespace pluvane {
+namespace {
+
+TEST_F(RadarTest, ADoubleClickOpensNothingWhereRowsHaveNoEdition) {
+  EditorContext context = Context();
+  FrmPradarBib library(context);
+  library.grid().SetMaxRows(1);
+  library.grid().SetText(1, 1, "Orage");
+  library.DoubleClickCell(library.grid(), 1, 1);
+  EXPECT_EQ(forms_opened_, 0);
+  EXPECT_EQ(Count(108), 0);
+}
+
+}  // namespace
+}  // namespace pluvane

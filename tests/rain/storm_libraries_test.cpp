@@ -405,3 +405,19 @@ TEST_F(StormGenerationTest, AnEditedSyntheticStormGeneratesItsBlock) {
 
 }  // namespace
 }  // namespace pluvane
+
+namespace pluvane {
+namespace {
+
+TEST_F(StormLibraryTest, ADeletedRowOpensNoEdition) {
+  AddRecord(104, "CAQ_1");
+  EditorContext context = Context();
+  FrmCaqBib library(context);
+  library.grid().SetActiveCell(1, 1);
+  library.Run("mnDel");
+  library.ButtonCell(library.grid(), 3, 1);
+  EXPECT_EQ(forms_opened_, 0);
+}
+
+}  // namespace
+}  // namespace pluvane
