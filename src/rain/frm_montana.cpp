@@ -36,8 +36,8 @@ FrmMontana::FrmMontana(Surface& surface, const NetworkState& state, UserInterfac
   grid_.SetColHead(kColPret, "Période de retour");
   grid_.SetColHead(kColCa, "Coefficient a");
   grid_.SetColHead(kColCb, "Coefficient b");
-  grid_.SetColWidth(kColDesign, 30);
-  grid_.SetColWidth(kColId, 16);
+  grid_.SetColWidth(kColDesign, 22);
+  grid_.SetColWidth(kColId, 13);
   Load();
 }
 

@@ -28,7 +28,7 @@ LibrarySetup ImportSetup(const std::string& key) {
   setup.add_prefix = "xPR_";
   setup.insert_prefix = "Prx_";
   setup.columns = {{LibraryColumn::kTag, "Commentaire", "UsId", "", 24},
-                   {LibraryColumn::kTag, FileHead(key), "FileSpec", "", 36},
+                   {LibraryColumn::kTag, FileHead(key), "FileSpec", "", 26},
                    {LibraryColumn::kBrowse, "", "", "parcourir...", 10}};
   return setup;
 }

@@ -13,12 +13,12 @@ LibrarySetup RadarSetup() {
   setup.id_head = "Désignation de l'événement";
   setup.add_prefix = "Radar_";
   setup.insert_prefix = "Radar_";
-  setup.columns = {{LibraryColumn::kTag, "Commentaire", "UsId", "", 24},
+  setup.columns = {{LibraryColumn::kTag, "Commentaire", "UsId", "", 16},
                    {LibraryColumn::kTag,
-                    "Fichier des surfaces actives des sous-BV découpés (*.CRB)", "CrbFile", "", 30},
+                    "Fichier des surfaces actives des sous-BV découpés (*.CRB)", "CrbFile", "", 22},
                    {LibraryColumn::kBrowse, "", "", "parcourir...", 10},
                    {LibraryColumn::kTag, "Fichier des hyétogrammes des mailles radars (*.PRF)",
-                    "PrfFile", "", 30},
+                    "PrfFile", "", 22},
                    {LibraryColumn::kBrowse, "", "", "parcourir...", 10}};
   return setup;
 }

@@ -36,8 +36,8 @@ void MontanaHeads(Grid& grid) {
   grid.SetColHead(FrmStormPlus::kColPret, "Période de retour");
   grid.SetColHead(FrmStormPlus::kColCa, "Coefficient a");
   grid.SetColHead(FrmStormPlus::kColCb, "Coefficient b");
-  grid.SetColWidth(FrmStormPlus::kColDesign, 30);
-  grid.SetColWidth(FrmStormPlus::kColId, 16);
+  grid.SetColWidth(FrmStormPlus::kColDesign, 20);
+  grid.SetColWidth(FrmStormPlus::kColId, 12);
 }
 
 }  // namespace
@@ -69,7 +69,7 @@ FrmStormPlus::FrmStormPlus(EditorContext& context, int kind, std::string id, int
     grid.SetType(kColChoose, 1, CellType::Button());
     grid.SetText(kColChoose, 1, "Choix des coef. de Montana");
     grid.SetNote(kColChoose, 1, "Parcourir les coef. de Montana");
-    grid.SetColWidth(kColChoose, 24);
+    grid.SetColWidth(kColChoose, 20);
     const std::string s = Suffix(which);
     grid.SetText(kColId, 1, tag(kind_ == kDoubleTriangleRain ? "Id" + s : "IdMonta"));
     grid.SetText(kColDesign, 1, tag("Design" + s));
