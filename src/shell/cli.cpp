@@ -15,6 +15,7 @@
 #include "shell/application.h"
 #include "shell/cli_network.h"
 #include "shell/cli_options.h"
+#include "shell/cli_rain.h"
 #include "simulation/data_recap.h"
 #include "simulation/engine_commands.h"
 #include "simulation/engine_run.h"
@@ -206,6 +207,13 @@ std::vector<CliCommand> CoreCliCommands() {
        "                writes the network's section library to a text file that\n"
        "                import-sections reads back, and prints its path\n",
        ExportSectionsCommand},
+      {"import-rain",
+       "  import-rain NETWORK.mtf FILE --key PR|PPHY|CAQ|PPST|PPDT|PRAD -o OUT.mtf\n"
+       "                imports the rain blocks of that key from the rain text\n"
+       "                FILE into the network as the external rain library does,\n"
+       "                and writes the network to OUT.mtf (also when the import\n"
+       "                was refused); prints the count imported\n",
+       ImportRainCommand},
   };
 }
 

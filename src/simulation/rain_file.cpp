@@ -66,14 +66,38 @@ void MapCentre(Surface& surface, const Calibration& calibration, double& x, doub
   y = LogicToUserY(calibration, x_log, y_log);
 }
 
-// The series of one gauge from the record table (object `table`), column g + 1.
-void WriteGaugeSeries(Surface& surface, int table, int gauge, double y_shift, Lines& out) {
+// The rows of the record table (object `table`): tag Pt j for j from 1 to
+// NbPt, read in one walk of its tags (a table may hold thousands of rows).
+std::vector<std::string> TableRows(Surface& surface, int table, std::int32_t& count) {
   CursorKeeper keeper(surface);
   surface.SetCurrentObject(table);
-  const std::int32_t rows = ValRoundLong(surface.ObjTag("NbPt"));
-  out.push_back(PadLong(rows - 1, 5));
-  for (std::int32_t j = 2; j <= rows; ++j) {
-    const std::vector<std::string> fields = TabFields(surface.ObjTag("Pt" + std::to_string(j)));
+  count = ValRoundLong(surface.ObjTag("NbPt"));
+  std::vector<std::string> rows(count > 0 ? static_cast<std::size_t>(count) : 0);
+  std::vector<bool> seen(rows.size(), false);
+  for (int i = 0; i < surface.ObjTagCount(); ++i) {
+    const std::string name = surface.ObjTagName(i);
+    if (name.size() < 3 || name[0] != 'P' || name[1] != 't') continue;
+    std::size_t j = 0;
+    bool digits = true;
+    for (std::size_t k = 2; k < name.size() && digits; ++k) {
+      digits = name[k] >= '0' && name[k] <= '9' && j <= rows.size();
+      j = j * 10 + static_cast<std::size_t>(name[k] - '0');
+    }
+    if (!digits || j < 1 || j > rows.size() || seen[j - 1] || std::to_string(j) != name.substr(2)) {
+      continue;
+    }
+    seen[j - 1] = true;
+    rows[j - 1] = surface.ObjTagValue(i);
+  }
+  return rows;
+}
+
+// The series of one gauge from the rows of the record table, column g + 1.
+void WriteGaugeSeries(const std::vector<std::vector<std::string>>& rows, std::int32_t count,
+                      int gauge, double y_shift, Lines& out) {
+  out.push_back(PadLong(count - 1, 5));
+  for (std::int32_t j = 2; j <= count; ++j) {
+    const std::vector<std::string>& fields = rows[static_cast<std::size_t>(j) - 1];
     const double value = static_cast<std::size_t>(gauge) + 1 <= fields.size()
                              ? Val(fields[static_cast<std::size_t>(gauge)])
                              : 0;
@@ -90,14 +114,19 @@ void WriteGaugeBlock(const RainContext& c, Lines& out) {
   out.push_back(PadLong(static_cast<std::int32_t>(gauges.size()), 5) +
                 PadInt(static_cast<std::int16_t>(ValInt(c.mode) - 1), 5));
   CursorKeeper keeper(surface);
+  const int table = FindObject(surface, "Id", c.name);
+  std::int32_t count = 0;
+  std::vector<std::vector<std::string>> rows;
+  if (table > 10) {
+    for (const std::string& row : TableRows(surface, table, count)) rows.push_back(TabFields(row));
+  }
   for (std::size_t g = 1; g <= gauges.size(); ++g) {
     surface.SetCurrentObject(gauges[g - 1]);
     out.push_back(PadText("'" + surface.ObjTag("Id") + "'", 10, 2));
     double x = 0, y = 0;
     MapCentre(surface, c.calibration, x, y);
     out.push_back(Fixed(x, 0) + Fixed(y - c.y_shift, 0));
-    const int table = FindObject(surface, "Id", c.name);
-    if (table > 10) WriteGaugeSeries(surface, table, static_cast<int>(g), c.y_shift, out);
+    if (table > 10) WriteGaugeSeries(rows, count, static_cast<int>(g), c.y_shift, out);
   }
 }
 
