@@ -30,6 +30,7 @@
 #include "results/result_access.h"
 #include "simulation/data_recap.h"
 #include "simulation/engine_commands.h"
+#include "simulation/frm_pluie_liste.h"
 #include "simulation/frm_scn_sim_param.h"
 #include "simulation/frm_scn_sim_param_select.h"
 #include "ui/background_dialog.h"
@@ -162,6 +163,11 @@ void MainWindow::BindCommands() {
       {"mnuScn_Select", after([this] {
          if (!NetworkLoaded(application_->state(), ui_)) return;
          FrmScnSimParamSelect form(surface_, application_->state(), ui_);
+         OpenForm(form);
+       })},
+      {"mnuPlu_Lst", after([this] {
+         if (!NetworkLoaded(application_->state(), ui_)) return;
+         FrmPluieListe form(surface_, application_->state(), ui_);
          OpenForm(form);
        })},
       {"mnuOpt_Bief_New", after([this] {

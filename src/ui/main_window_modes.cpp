@@ -8,9 +8,11 @@
 
 #include "editors/editor_forms.h"
 #include "network/frm_info_calage.h"
+#include "rain/rain_forms.h"
 #include "results/view_curve_file.h"
 #include "shell/interaction_modes.h"
 #include "shell/main_menus.h"
+#include "shell/menu_state.h"
 #include "simulation/model_names.h"
 #include "ui/form_window.h"
 #include "ui/main_window.h"
@@ -37,6 +39,16 @@ void MainWindow::ConnectInteraction() {
           [this](const QString& key) { RunWindowCommand(key.toStdString()); });
   connect(binder_, &InteractionBinder::Applied, this, &MainWindow::ShowArmedTool);
   commands_["mnuUtil_Vistrel"] = [this] { OpenVistrel(); };
+  // The rain libraries, each opened by the name of its menu entry.
+  for (const char* name : {"mnuPlu_Proj_Montana", "mnuPlu_Proj_Caquot", "mnuPlu_Proj_1Tri",
+                           "mnuPlu_Proj_2Tri", "mnuPlu_Proj_Synth", "mnuPlu_Real_Pluvio",
+                           "mnuPlu_Real_Hyeto", "mnuPlu_Real_PlvExt", "mnuPlu_Real_Radar"}) {
+    commands_[name] = [this, name] {
+      if (!NetworkLoaded(application_->state(), ui_)) return;
+      OpenNamedForm(name, 0);
+      RefreshMenuState();
+    };
+  }
 }
 
 void MainWindow::ShowArmedTool() {
@@ -53,7 +65,8 @@ void MainWindow::OpenNamedForm(const std::string& form, int object) {
     OpenForm(info);
     if (calage_) calage_->PointPlaced(info.PointId());
   } else {
-    // The element editors and the general editor, on the current object.
+    // The element editors, the general editor and the rain forms, on the
+    // current object.
     AppState& state = application_->state();
     if (object > 0) surface_.SetCurrentObject(object);
     EditorContext context{surface_,
@@ -62,10 +75,13 @@ void MainWindow::OpenNamedForm(const std::string& form, int object) {
                           [this](FormController& inner) { OpenForm(inner); },
                           viewer_state_,
                           ViewerWindow(this, ui_, state.WorkDir)};
-    if (std::unique_ptr<FormController> editor = MakeEditorForm(form, context)) {
-      OpenForm(*editor);
-    } else {
+    std::unique_ptr<FormController> editor = MakeEditorForm(form, context);
+    if (!editor) editor = MakeRainForm(form, context);
+    if (!editor) {
       ui_.ShowStatus(kNotAvailable);
+    } else if (!editor->Closed()) {
+      // A form that said why it has nothing to show is closed already.
+      OpenForm(*editor);
     }
   }
   view_->Invalidate();
