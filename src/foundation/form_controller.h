@@ -52,6 +52,10 @@ class FormController {
   // cell: the cell still shows the former one.
   virtual void ListDropDown(Grid& /*grid*/, int /*col*/, int /*row*/) {}
 
+  // The Escape key: true when the form took it (it hid a list, say); else
+  // the window closes as Cancel would.
+  virtual bool Escape() { return false; }
+
   // A form whose grids are sheets shown one at a time under tabs, one tab per
   // grid: how many, the caption of each (from 0; an empty caption is a tab
   // that cannot be entered), the one shown, and a click on a tab. A form

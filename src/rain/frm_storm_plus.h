@@ -43,6 +43,11 @@ class FrmStormPlus : public FormController {
 
   // Escape: the library is hidden again.
   void HideLibrary() { library_.SetVisible(false); }
+  bool Escape() override {
+    if (!library_.Visible()) return false;
+    HideLibrary();
+    return true;
+  }
   void mnSave();
   void mnClose() { Close(); }
 

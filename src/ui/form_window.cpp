@@ -3,7 +3,9 @@
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QKeyEvent>
 #include <QScreen>
+#include <QScrollBar>
 #include <QVBoxLayout>
 
 
@@ -113,7 +115,7 @@ FormWindow::FormWindow(FormController& controller, QWidget* parent)
     buttons_.emplace_back(command.name, button);
   }
   layout->addLayout(buttons);
-  RefreshTabs();
+  RefreshTables();
   RefreshButtons();
   FitToGrids();
 }
@@ -170,13 +172,16 @@ void FormWindow::AfterEvent() {
     accept();
     return;
   }
-  RefreshTabs();
+  RefreshTables();
   RefreshButtons();
 }
 
-// The tab bar shows the form's tabs, and the table of the current one alone.
-void FormWindow::RefreshTabs() {
-  if (tabs_ == nullptr) return;
+// The tables show as their grids ask; under tabs, the current one alone.
+void FormWindow::RefreshTables() {
+  if (tabs_ == nullptr) {
+    for (GridTableView* table : tables_) table->setVisible(table->grid().Visible());
+    return;
+  }
   const QSignalBlocker quiet(tabs_);
   for (int tab = 0; tab < tabs_->count(); ++tab) {
     const std::string caption = controller_.TabCaption(tab);
@@ -197,18 +202,30 @@ void FormWindow::RefreshButtons() {
 }
 
 void FormWindow::FitToGrids() {
-  int width = 0, height = 0;  // the widest table, the tallest
+  // Within the screen; the window may be resized by hand past that.
+  const QSize screen = this->screen() ? this->screen()->availableGeometry().size() * 0.9
+                                      : QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+  std::vector<int> widths;
+  int width = 0;  // the widest table
   for (QTableView* table : tables_) {
     int w = table->verticalHeader()->sizeHint().width() + 2 * table->frameWidth() + 4;
     for (int c = 0; c < table->model()->columnCount(); ++c) w += table->columnWidth(c);
+    widths.push_back(w);
     width = std::max(width, w);
+  }
+  const int window_width = std::min(std::max(width + 24, 320), screen.width());
+  int height = 0;  // the tallest table
+  for (std::size_t i = 0; i < tables_.size(); ++i) {
+    QTableView* table = tables_[i];
     // A table shows all its rows up to 15, then scrolls; sheets under tabs,
-    // filled as they are chosen, have the room of 15 rows.
+    // filled as they are chosen, have the room of 15 rows. A table wider than
+    // the window keeps room for its scroll bar.
     const int rows = tabs_ != nullptr ? 15 : std::min(table->model()->rowCount(), 15);
     const QHeaderView* heads = table->horizontalHeader();
-    const int h = std::max(heads->sizeHint().height(), heads->minimumHeight()) +
-                  std::max(rows, 1) * table->verticalHeader()->defaultSectionSize() +
-                  2 * table->frameWidth();
+    int h = std::max(heads->sizeHint().height(), heads->minimumHeight()) +
+            std::max(rows, 1) * table->verticalHeader()->defaultSectionSize() +
+            2 * table->frameWidth();
+    if (widths[i] > window_width - 24) h += table->horizontalScrollBar()->sizeHint().height();
     table->setMinimumHeight(h);
     if (table->model()->rowCount() <= 15) table->setMaximumHeight(h);
     height = std::max(height, h);
@@ -220,12 +237,15 @@ void FormWindow::FitToGrids() {
       table->setMaximumHeight(QWIDGETSIZE_MAX);
     }
   }
-  // Within the screen; the window may be resized by hand past that.
-  QSize size(std::max(width + 24, 320), sizeHint().height());
-  if (const QScreen* screen = this->screen()) {
-    size = size.boundedTo(screen->availableGeometry().size() * 0.9);
+  resize(QSize(window_width, sizeHint().height()).boundedTo(screen));
+}
+
+void FormWindow::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Escape && controller_.Escape()) {
+    AfterEvent();
+    return;
   }
-  resize(size);
+  QDialog::keyPressEvent(event);
 }
 
 // Each form opens where it was last left, for the program's run.

@@ -38,13 +38,14 @@ class FormWindow : public QDialog {
   void ListDropDown(int index, int col, int row);
 
  protected:
+  void keyPressEvent(QKeyEvent* event) override;
   void showEvent(QShowEvent* event) override;
   void done(int result) override;
 
  private:
   void AfterEvent();
   void RefreshButtons();
-  void RefreshTabs();
+  void RefreshTables();
   void FitToGrids();
   static std::map<std::string, QPoint>& Positions();
 
