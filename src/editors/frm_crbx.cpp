@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <utility>
 
+#include "editors/grid_plot_view.h"
 #include "foundation/fixed_width.h"
 #include "foundation/grid_curves.h"
 #include "foundation/grid_rows.h"
@@ -55,33 +56,18 @@ std::vector<FormCommand> FrmCrbx::Commands() {
 }
 
 void FrmCrbx::mnVisu() {
-  const std::string& work_dir = context_.state.WorkDir;
-  PlotxyRequest request{params_.mode, params_.curve_name, work_dir, JoinPath(work_dir, "xy.mst"),
-                        params_.plot_title};
-  std::string script;
-  if (params_.mode == kSectionMode) {
-    // The plot unfolds a section from its heights and widths, in that order;
-    // this table holds the widths first.
-    Grid section(2, grid_.MaxRows());
-    for (int row = 1; row <= grid_.MaxRows(); ++row) {
-      section.SetText(1, row, grid_.Text(2, row));
-      section.SetText(2, row, grid_.Text(1, row));
-    }
-    script = Plotxy(context_.ui, section, request);
-  } else {
-    script = Plotxy(context_.ui, grid_, request);
+  if (params_.mode != kSectionMode) {
+    ShowGridPlot(context_, grid_, params_.curve_name, params_.plot_title, params_.mode);
+    return;
   }
-  if (script.empty()) return;
-  const std::string shown = JoinPath(work_dir, "Vistrel.Mst");
-  std::error_code failed;
-  std::filesystem::copy_file(script, shown, std::filesystem::copy_options::overwrite_existing,
-                             failed);
-  if (failed) return;
-  context_.viewer.script = shown;
-  context_.viewer.action = kViewerInitial;
-  context_.viewer.page_title = params_.plot_title;
-  context_.viewer.selection_mode = params_.mode;
-  if (context_.show_viewer) context_.show_viewer(context_.viewer);
+  // The plot unfolds a section from its heights and widths, in that order;
+  // this table holds the widths first.
+  Grid section(2, grid_.MaxRows());
+  for (int row = 1; row <= grid_.MaxRows(); ++row) {
+    section.SetText(1, row, grid_.Text(2, row));
+    section.SetText(2, row, grid_.Text(1, row));
+  }
+  ShowGridPlot(context_, section, params_.curve_name, params_.plot_title, params_.mode);
 }
 
 void FrmCrbx::mnAdd() { SSAddRow(grid_); }

@@ -8,9 +8,9 @@
 namespace pluvane {
 
 bool ShowGridPlot(EditorContext& context, const Grid& grid, const std::string& curve_word,
-                  const std::string& title) {
+                  const std::string& title, const std::string& kind) {
   const std::string& folder = context.state.WorkDir;
-  PlotxyRequest request{"", curve_word, folder, JoinPath(folder, "xy.mst"), title};
+  PlotxyRequest request{kind, curve_word, folder, JoinPath(folder, "xy.mst"), title};
   const std::string script = Plotxy(context.ui, grid, request);
   if (script.empty()) return false;
   const std::string shown = JoinPath(folder, "Vistrel.Mst");
@@ -21,6 +21,7 @@ bool ShowGridPlot(EditorContext& context, const Grid& grid, const std::string& c
   context.viewer.script = shown;
   context.viewer.initial_script = shown;
   context.viewer.page_title = title;
+  context.viewer.selection_mode = kind;
   context.viewer.action = kViewerInitial;
   if (context.show_viewer) context.show_viewer(context.viewer);
   return true;

@@ -6,7 +6,7 @@
 #include "foundation/grid_checks.h"
 #include "foundation/grid_rows.h"
 #include "foundation/numbers.h"
-#include "rain/rain_plot.h"
+#include "editors/grid_plot_view.h"
 #include "rain/rain_records.h"
 
 namespace pluvane {
@@ -80,7 +80,7 @@ void FrmPitPlus::mnSave() {
 }
 
 void FrmPitPlus::mnVisu() {
-  ShowRainCurves(context_, grid_, "PluieIt", "PluieIt", " Pluie synthétique PluieIt");
+  ShowGridPlot(context_, grid_, "PluieIt", " Pluie synthétique PluieIt", "PluieIt");
 }
 
 }  // namespace pluvane

@@ -9,7 +9,7 @@
 #include "foundation/numbers.h"
 #include "foundation/paths.h"
 #include "foundation/text.h"
-#include "rain/rain_plot.h"
+#include "editors/grid_plot_view.h"
 #include "rain/rain_records.h"
 
 namespace pluvane {
@@ -131,7 +131,7 @@ void FrmPluHtCrb::mnSave() {
 }
 
 void FrmPluHtCrb::mnVisu() {
-  ShowRainCurves(context_, grid_, "Pluvio", "Pluvio", " Courbe Pluvio");
+  ShowGridPlot(context_, grid_, "Pluvio", " Courbe Pluvio", "Pluvio");
 }
 
 }  // namespace pluvane

@@ -349,7 +349,9 @@ TEST_F(FrmEditTest, ANetworkWithoutElementsHasNoSheetToSave) {
   EXPECT_EQ(form.CurrentTab(), -1);
   for (int tab = 0; tab < form.TabCount(); ++tab) EXPECT_EQ(form.TabCaption(tab), "") << tab;
   for (const FormCommand& command : form.Commands()) {
-    if (command.name == "mnSave" || command.name == "mnPrint") EXPECT_FALSE(command.enabled);
+    if (command.name == "mnSave" || command.name == "mnPrint") {
+      EXPECT_FALSE(command.enabled);
+    }
   }
   form.Run("mnSave");
   EXPECT_TRUE(ui.Progress().empty());
