@@ -3,6 +3,7 @@
 #include <cmath>
 #include <filesystem>
 #include <optional>
+#include <unordered_map>
 
 #include "drawing/surface_guards.h"
 #include "drawing/surface_helpers.h"
@@ -70,11 +71,21 @@ ReachProfile ReadReachProfile(Surface& surface, const std::string& reach_id) {
   if (record < 1) return reach;
   reach.found = true;
   surface.SetCurrentObject(record);
-  const int count = ValInt(surface.ObjTag("NbColl"));
+  // A long reach holds thousands of tags: they are read in one walk, the
+  // first of each name counting, as a search by name would find it.
+  std::unordered_map<std::string, std::string> tags;
+  for (int t = surface.ObjTagCount() - 1; t >= 0; --t) {
+    tags[surface.ObjTagName(t)] = surface.ObjTagValue(t);
+  }
+  const auto tag = [&tags](const std::string& name) {
+    const auto found = tags.find(name);
+    return found == tags.end() ? std::string() : found->second;
+  };
+  const int count = ValInt(tag("NbColl"));
   std::vector<std::pair<std::string, std::string>> ranks;
   for (int i = 1; i <= count; ++i) {
     const std::string rank = NumToText(i);
-    ranks.emplace_back(surface.ObjTag("IdColl" + rank), surface.ObjTag("InameColl" + rank));
+    ranks.emplace_back(tag("IdColl" + rank), tag("InameColl" + rank));
   }
   double distance = 0;
   for (std::size_t i = 0; i < ranks.size(); ++i) {

@@ -25,7 +25,7 @@ TEST_F(ProfileCommandTest, WritesTheProfileInTheScenarioFolderByDefault) {
   const std::string work = folder.Work("Exemples/Decennale");
   const std::string curves = ReadBytes(work + "/Prof.crb");
   // Cac_4 (kind 5, no section: no height) from Nod_3 at 49.6 m to Nod_4.
-  EXPECT_EQ(curves.substr(0, 48), "'ZR_1'\r\n     0.000    46.800\r\n   150.000    46.000\r\n");
+  EXPECT_EQ(curves.substr(0, 52), "'ZR_1'\r\n     0.000    46.800\r\n   150.000    46.000\r\n");
   EXPECT_NE(curves.find("'ZTN_1'\r\n     0.000    49.600\r\n   150.000    48.800\r\n"),
             std::string::npos);
   EXPECT_NE(curves.find("   750.000    42.800\r\n"), std::string::npos);
