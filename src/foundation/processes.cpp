@@ -94,6 +94,25 @@ int RunAndWait(UserInterface& ui, const std::string& command_line,
   return error;
 }
 
+int StartProgram(UserInterface& ui, const std::string& command_line,
+                 const std::string& working_folder) {
+  pid_t pid = 0;
+  const int error = StartProcess(command_line, working_folder, pid);
+  if (error == 0) {
+    // Nobody waits for the program; this thread only collects its end, so
+    // that no finished process lingers.
+    std::thread([pid] {
+      int status = 0;
+      while (::waitpid(pid, &status, 0) < 0 && errno == EINTR) {
+      }
+    }).detach();
+    return 0;
+  }
+  AppError pending(error, SystemErrorText(error));
+  ShowError(ui, &pending, "erreur no " + std::to_string(error) + " (" + command_line + ")");
+  return error;
+}
+
 std::int32_t ShellAndWait(UserInterface& ui, const std::string& command_line, int window_style) {
   (void)window_style;
   constexpr std::int32_t kObjectError = -2147221504;

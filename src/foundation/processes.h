@@ -31,6 +31,13 @@ int RunAndWait(UserInterface& ui, const std::string& command_line,
 // system has no meaning here.
 std::int32_t ShellAndWait(UserInterface& ui, const std::string& command_line, int window_style = 6);
 
+// Starts the command in `working_folder` (none when empty) and returns at
+// once, the program going on beside this one (its end is collected in the
+// background). 0 when it started, else the system's error code, also reported
+// through ShowError as RunAndWait does.
+int StartProgram(UserInterface& ui, const std::string& command_line,
+                 const std::string& working_folder);
+
 // Shows a text file in the desktop's text editor and returns at once. When no
 // editor can be started the user is told where to put one (`app_folder`).
 bool EditFile(UserInterface& ui, const std::string& path, const std::string& app_folder);

@@ -27,6 +27,7 @@
 #include "shell/frm_preference.h"
 #include "shell/main_menus.h"
 #include "shell/view_commands.h"
+#include "results/frm_prof.h"
 #include "results/result_access.h"
 #include "simulation/data_recap.h"
 #include "simulation/engine_commands.h"
@@ -184,6 +185,11 @@ void MainWindow::BindCommands() {
          });
          OpenForm(form);
          view_->SetHighlight({}, 0, 0, 0);
+       })},
+      {"mnuOpt_Bief_Profil", after([this] {
+         if (!NetworkLoaded(application_->state(), ui_)) return;
+         mnuOpt_Bief_Profil(surface_, application_->state(), ui_,
+                            [this](FormController& form) { OpenForm(form); });
        })},
       {"mnuOpt_SecOpn", after([this] {
          if (NetworkLoaded(application_->state(), ui_)) OpenNamedForm("frmSect", 0);

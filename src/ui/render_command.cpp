@@ -15,6 +15,7 @@
 #include "shell/cli.h"
 #include "shell/cli_network.h"
 #include "shell/cli_options.h"
+#include "shell/cli_profile.h"
 #include "ui/drawing_picture.h"
 #include "ui/picture_format.h"
 
@@ -113,6 +114,17 @@ int PlotCommand(const std::vector<std::string>& args, const std::string&, std::o
   if (!CompileScriptPage(ui, script, ctl)) return 1;
   if (!ctl.empty()) out << ctl << "\n";
   if (output.empty()) return 0;
+  return WriteScriptPicture(ui, script, output, out, width);
+}
+
+int WriteScriptPicture(ScriptedUi& ui, const std::string& script, const std::string& output,
+                       std::ostream& out, int width) {
+  if (PictureFormatOf(output) == PictureFormat::kUnknown) {
+    ui.ShowMessage(
+        "Erreur de sauvegarde : format d'image non reconnu (" + LastExtension(output) + ")", kTitle,
+        MessageIcon::kCritical);
+    return 1;
+  }
   PlotPicture page = DrawScriptPage(ui, script);
   if (!page.drawn) return 1;
   EnsureGuiApplication();
@@ -139,6 +151,10 @@ std::vector<CliCommand> RenderCliCommands() {
        "                picture (SVG, PDF, PNG, BMP or JPG by the extension),\n"
        "                PIXELS wide (1600 if not given)\n",
        RenderCommand},
+      ProfileCliCommand([](ScriptedUi& ui, const std::string& script, const std::string& picture,
+                           std::ostream& out) {
+        return WriteScriptPicture(ui, script, picture, out, kDefaultPictureWidth);
+      }),
   };
 }
 

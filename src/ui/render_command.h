@@ -24,7 +24,12 @@ int RenderCommand(const std::vector<std::string>& args, const std::string& app_p
 int PlotCommand(const std::vector<std::string>& args, const std::string& app_path,
                 std::ostream& out, ScriptedUi& ui);
 
-// "plot" and "render", for pluvane-cli's table.
+// Draws page 1 of `script` into the picture `output` (SVG, PDF, PNG... by its
+// extension), `width` pixels wide, and prints its path. 0 written, 1 refused.
+int WriteScriptPicture(ScriptedUi& ui, const std::string& script, const std::string& output,
+                       std::ostream& out, int width);
+
+// "plot", "render" and "profile", for pluvane-cli's table.
 std::vector<CliCommand> RenderCliCommands();
 
 }  // namespace pluvane
