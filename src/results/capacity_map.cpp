@@ -185,7 +185,7 @@ void CapacityMap::CopyNetwork() {
   map_.SetRedraw(true);
 }
 
-void CapacityMap::Load(const CapacityMapInput& input) {
+bool CapacityMap::Load(const CapacityMapInput& input) {
   input_ = input;
   calc_mode_ = 0;
   calc_duree_ = 0;
@@ -201,7 +201,7 @@ void CapacityMap::Load(const CapacityMapInput& input) {
   }
   CopyNetwork();
   DrawCoEch();
-  LoadResults();
+  return LoadResults();
 }
 
 void CapacityMap::DrawCoEch() {

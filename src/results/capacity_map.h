@@ -79,7 +79,8 @@ class CapacityMap {
 
   // The form's loading: the mode from ParamReseau and the caption, the copy
   // of the drawing with every collector grey, the legend, then the results.
-  void Load(const CapacityMapInput& input);
+  // False when the results were not applied in full.
+  bool Load(const CapacityMapInput& input);
 
   // The results alone (the second half of Load). False when they were not
   // applied in full: another mode, a collector missing, an error trapped.
