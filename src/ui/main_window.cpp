@@ -35,6 +35,7 @@
 #include "simulation/frm_scn_sim_param.h"
 #include "simulation/frm_scn_sim_param_select.h"
 #include "ui/background_dialog.h"
+#include "ui/capacity_map_window.h"
 #include "ui/drawing_picture.h"
 #include "ui/drawing_print.h"
 #include "ui/form_window.h"
@@ -218,6 +219,16 @@ void MainWindow::BindCommands() {
       {"mnuExploit_ResLim", [this] { ShowResult(mnuExploit_ResLim); }},
       {"mnuExploit_ResBV", [this] { mnuExploit_ResBV(application_->state(), ui_); }},
       {"mnuExploit_ResReso", [this] { mnuExploit_ResReso(application_->state(), ui_); }},
+      {"mnuExploit_ResCarto", [this] {
+         AppState& state = application_->state();
+         if (state.ScenarioName.empty() && state.NetworkBase.empty()) return;
+         const std::string mode = state.CurrentMode;
+         state.CurrentMode = "Carto_Capa";
+         CapacityMapWindow map(ui_, {&surface_, ResultPath(state, ".Sor"), state.WorkDir,
+                                     IniFilePath(state)}, this);
+         map.exec();
+         state.CurrentMode = mode;
+       }},
       {"mnuAbout", [this] { ShowAbout(true); }},
   };
 }

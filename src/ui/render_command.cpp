@@ -13,6 +13,8 @@
 #include "plot/morvex_draw.h"
 #include "plot/plot_command.h"
 #include "shell/cli.h"
+#include "shell/cli_capacity.h"
+#include "ui/capacity_picture.h"
 #include "shell/cli_network.h"
 #include "shell/cli_options.h"
 #include "shell/cli_profile.h"
@@ -139,6 +141,11 @@ int WriteScriptPicture(ScriptedUi& ui, const std::string& script, const std::str
 
 std::vector<CliCommand> RenderCliCommands() {
   return {
+      CapacityCliCommand([](const Surface& map, const Surface& legend, const std::string& path,
+                            const std::string& folder, const std::string& symbols) {
+        EnsureGuiApplication();
+        return SaveCapacityPicture(map, legend, path, folder, symbols);
+      }),
       {"plot",
        "  plot SCRIPT.Mst [--ctl OUT.ctl] [-o OUT.svg|pdf|png] [--width PIXELS]\n"
        "                compiles page 1 of a plot script in the script's folder;\n"

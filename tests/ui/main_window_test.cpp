@@ -59,7 +59,7 @@ TEST(MainWindow, EveryMenuItemExistsAndTheUnbuiltOnesSaySo) {
   }
   EXPECT_EQ(window.Action("mnuFile")->text(), "&Fichier");
   EXPECT_EQ(window.Action("mnuFile_SaveAs")->text(), "S&auvegarder sous...");
-  window.RunMenu("mnuExploit_ResCarto");
+  window.RunMenu("mnuMyUtil_Down");
   EXPECT_EQ(window.panels().Status()->text(), "Fonction non disponible dans cette version.");
   Quit(window);
 }
