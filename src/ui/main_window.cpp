@@ -19,6 +19,9 @@
 #include "network/link_direction.h"
 #include "network/reach_creation.h"
 #include "network/locate_element.h"
+#include "network/bulk_maintenance.h"
+#include "network/consistency_checks.h"
+#include "network/frm_tag_message.h"
 #include "network/merge_network.h"
 #include "network/persistence.h"
 #include "network/snap.h"
@@ -114,6 +117,22 @@ void MainWindow::BindCommands() {
       AfterCommand();
     };
   };
+  // A check of the network, its report shown.
+  auto check = [this, after](std::optional<CheckReport> (*run)(Surface&, UserInterface&)) {
+    return after([this, run] {
+      const std::optional<CheckReport> report = run(surface_, ui_);
+      if (!report) return;
+      FrmTagMessage form(surface_, application_->state(), ui_, report->title, report->lines);
+      OpenForm(form);
+    });
+  };
+  // A maintenance command of the network: one undo step.
+  auto maintain = [this, after](const char* caption, void (*run)(Surface&, UserInterface&)) {
+    return after([this, caption, run] {
+      UndoStep step(surface_, std::string("Annuler : ") + caption);
+      run(surface_, ui_);
+    });
+  };
   commands_ = {
       {"mnuFile_Open", after([this, session] {
          NetworkSession s = session();
@@ -206,6 +225,27 @@ void MainWindow::BindCommands() {
       {"mnuUtil_LocObjByUsId", after([this] {
          LocateElement(surface_, application_->state(), ui_, "libell");
        })},
+      // The checks list their faults in a report whose lines locate the element.
+      {"mnuExploit_Coherence_D0", check(CheckForbiddenValues)},
+      {"mnuExploit_Coherence_Doublon", check(CheckDoublets)},
+      {"mnuExploit_Coherence_orphelin", check(CheckOrphans)},
+      {"mnuUtil_MajObjByIname", maintain("Mettre à jour par type", mnuUtil_MajObjByIname)},
+      {"MnuDelTxt", maintain("Supprimer les textes", MnuDelTxt)},
+      {"mnuMyUtil_Tst1", maintain("Supprimer par identifiant", mnuMyUtil_Tst1)},
+      {"mnuMyUtil_Tst2", maintain("Supprimer par type", mnuMyUtil_Tst2)},
+      {"mnuMyUtil_Nod_iLinkUpdate",
+       maintain("Recompter les liaisons aux noeuds", mnuMyUtil_Nod_iLinkUpdate)},
+      {"mnuMyUtil_IdRegen", maintain("Régénérer les identifiants", mnuMyUtil_IdRegen)},
+      {"mnuMyUtil_WriteIdInNods",
+       maintain("Ecrire les identifiants des noeuds", mnuMyUtil_WriteIdInNods)},
+      {"mnuMyUtil_WriteLinkIdInGroup3",
+       maintain("Ecrire les identifiants des liaisons", mnuMyUtil_WriteLinkIdInGroup3)},
+      {"mnuMyUtil_WriteLinkLibInGroup3",
+       maintain("Ecrire les libellés des liaisons", mnuMyUtil_WriteLinkLibInGroup3)},
+      {"mnuMyUtil_WriteIdI2LibInNods",
+       maintain("Ecrire les identifiants en libellés", mnuMyUtil_WriteIdI2LibInNods)},
+      {"mnuMyUtil_WriteNodsLib2lib",
+       maintain("Copier les libellés des noeuds", mnuMyUtil_WriteNodsLib2lib)},
       {"mnuExploit_RecapData", [this] { RecapData(); }},
       {"mnuExploit_ResHys", [this] { ShowResult(mnuExploit_ResHys); }},
       {"mnuExploit_ResDeb", [this] { ShowResult(mnuExploit_ResDeb); }},
