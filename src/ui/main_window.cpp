@@ -22,6 +22,7 @@
 #include "network/bulk_maintenance.h"
 #include "network/consistency_checks.h"
 #include "network/frm_tag_message.h"
+#include "network/frm_tags_viewer.h"
 #include "network/merge_network.h"
 #include "network/persistence.h"
 #include "network/snap.h"
@@ -126,6 +127,15 @@ void MainWindow::BindCommands() {
       OpenForm(form);
     });
   };
+  // The tags viewer in one of its modes; a scan shows its report.
+  auto tags_viewer = [this](const char* mode) {
+    FrmTagsViewer form(surface_, application_->state(), ui_, mode,
+                       [this](const std::string& caption, const std::vector<std::string>& lines) {
+                         FrmTagMessage report(surface_, application_->state(), ui_, caption, lines);
+                         OpenForm(report);
+                       });
+    OpenForm(form);
+  };
   // A maintenance command of the network: one undo step.
   auto maintain = [this, after](const char* caption, void (*run)(Surface&, UserInterface&)) {
     return after([this, caption, run] {
@@ -229,6 +239,9 @@ void MainWindow::BindCommands() {
       {"mnuExploit_Coherence_D0", check(CheckForbiddenValues)},
       {"mnuExploit_Coherence_Doublon", check(CheckDoublets)},
       {"mnuExploit_Coherence_orphelin", check(CheckOrphans)},
+      {"mnuUtil_TagsViewer", after([tags_viewer] { tags_viewer("SCAN"); })},
+      {"mnuUtil_EtiqObjById", after([tags_viewer] { tags_viewer("ETIQ"); })},
+      {"mnuUtil_AppSymbolChange", after([tags_viewer] { tags_viewer("APPSYMBOLE"); })},
       {"mnuUtil_MajObjByIname", maintain("Mettre à jour par type", mnuUtil_MajObjByIname)},
       {"MnuDelTxt", maintain("Supprimer les textes", MnuDelTxt)},
       {"mnuMyUtil_Tst1", maintain("Supprimer par identifiant", mnuMyUtil_Tst1)},
