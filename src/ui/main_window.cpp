@@ -23,6 +23,7 @@
 #include "network/consistency_checks.h"
 #include "network/frm_tag_message.h"
 #include "network/frm_tags_viewer.h"
+#include "network/frm_tags_val_changer.h"
 #include "network/merge_network.h"
 #include "network/persistence.h"
 #include "network/snap.h"
@@ -242,6 +243,13 @@ void MainWindow::BindCommands() {
       {"mnuUtil_TagsViewer", after([tags_viewer] { tags_viewer("SCAN"); })},
       {"mnuUtil_EtiqObjById", after([tags_viewer] { tags_viewer("ETIQ"); })},
       {"mnuUtil_AppSymbolChange", after([tags_viewer] { tags_viewer("APPSYMBOLE"); })},
+      {"mnuMyUtil_TagsModif", after([this] {
+         FrmTagsValChanger form(surface_, ui_, [this](const std::vector<std::string>& lines) {
+           FrmTagEdit1 report(surface_, ui_, lines);
+           OpenForm(report);
+         });
+         OpenForm(form);
+       })},
       {"mnuUtil_MajObjByIname", maintain("Mettre à jour par type", mnuUtil_MajObjByIname)},
       {"MnuDelTxt", maintain("Supprimer les textes", MnuDelTxt)},
       {"mnuMyUtil_Tst1", maintain("Supprimer par identifiant", mnuMyUtil_Tst1)},
