@@ -3,7 +3,10 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QInputDialog>
 #include <QTest>
+#include <QTimer>
+#include <functional>
 
 #include "drawing/surface_helpers.h"
 #include "ui/main_window_fixture.h"
@@ -47,6 +50,39 @@ TEST(CheckMenu, ALineOfTheReportLocatesItsElement) {
   ASSERT_GT(route, 0);
   EXPECT_EQ(selected, std::vector<int>{route});
   EXPECT_EQ(current, route);
+  Quit(window);
+}
+
+
+TEST(CheckMenu, ARegenerationOfTheLabelsIsUndoneInOneStep) {
+  TestApp();
+  AppFolder app;
+  MainWindow window;
+  ASSERT_TRUE(Open(window, app, app.Demo(), true));
+  Surface& surface = window.surface();
+  const int church = FindObject(surface, "libell", "Église");
+  ASSERT_GT(church, 0);
+  const std::string id = TagOfObject(surface, church, "Id");
+  {
+    // The confirmation, then the type (nodes), then the report.
+    MessageAnswerer answers({"&Oui"});
+    std::function<void()> type_in = [&type_in] {
+      auto* box = qobject_cast<QInputDialog*>(QApplication::activeModalWidget());
+      if (!box) return QTimer::singleShot(5, type_in);
+      box->setTextValue("99");
+      box->accept();
+    };
+    QTimer::singleShot(5, type_in);
+    window.RunMenu("mnuUtil_MajObjByIname");
+    ASSERT_EQ(answers.seen().size(), 2u);
+    EXPECT_EQ(answers.seen()[0].text,
+              "Les libellés des elm prendront les valeurs internes des identifiants");
+    EXPECT_TRUE(answers.seen()[1].text.startsWith("ok, "));
+    EXPECT_TRUE(answers.seen()[1].text.endsWith(" libellés régénérés"));
+  }
+  EXPECT_EQ(TagOfObject(surface, church, "libell"), id);
+  QTest::keyClick(window.view(), Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(TagOfObject(surface, church, "libell"), "Église");
   Quit(window);
 }
 
