@@ -63,4 +63,12 @@ int LocateElement(Surface& surface, NetworkState& state, UserInterface& ui, std:
   return static_cast<int>(found.size());
 }
 
+void ShowElement(Surface& surface, NetworkState& state, int object) {
+  surface.DeselectAll();
+  surface.SetCurrentObject(object);
+  surface.SetSelected(true);
+  ZoomAround(surface, state, object);
+  surface.SetCurrentObject(object);
+}
+
 }  // namespace pluvane

@@ -18,4 +18,7 @@ inline constexpr const char* kLocateTitle = "Localisation d'élément";
 // and zooms around the first. Returns how many were found.
 int LocateElement(Surface& surface, NetworkState& state, UserInterface& ui, std::string_view tag_name);
 
+// Makes the object current and the only one selected, and zooms around it.
+void ShowElement(Surface& surface, NetworkState& state, int object);
+
 }  // namespace pluvane

@@ -19,6 +19,11 @@
 #include "network/link_direction.h"
 #include "network/reach_creation.h"
 #include "network/locate_element.h"
+#include "network/bulk_maintenance.h"
+#include "network/consistency_checks.h"
+#include "network/frm_tag_message.h"
+#include "network/frm_tags_viewer.h"
+#include "network/frm_tags_val_changer.h"
 #include "network/merge_network.h"
 #include "network/persistence.h"
 #include "network/snap.h"
@@ -115,6 +120,31 @@ void MainWindow::BindCommands() {
       run();
       AfterCommand();
     };
+  };
+  // A check of the network, its report shown.
+  auto check = [this, after](std::optional<CheckReport> (*run)(Surface&, UserInterface&)) {
+    return after([this, run] {
+      const std::optional<CheckReport> report = run(surface_, ui_);
+      if (!report) return;
+      FrmTagMessage form(surface_, application_->state(), ui_, report->title, report->lines);
+      OpenForm(form);
+    });
+  };
+  // The tags viewer in one of its modes; a scan shows its report.
+  auto tags_viewer = [this](const char* mode) {
+    FrmTagsViewer form(surface_, application_->state(), ui_, mode,
+                       [this](const std::string& caption, const std::vector<std::string>& lines) {
+                         FrmTagMessage report(surface_, application_->state(), ui_, caption, lines);
+                         OpenForm(report);
+                       });
+    OpenForm(form);
+  };
+  // A maintenance command of the network: one undo step.
+  auto maintain = [this, after](const char* caption, void (*run)(Surface&, UserInterface&)) {
+    return after([this, caption, run] {
+      UndoStep step(surface_, std::string("Annuler : ") + caption);
+      run(surface_, ui_);
+    });
   };
   commands_ = {
       {"mnuFile_Open", after([this, session] {
@@ -213,6 +243,37 @@ void MainWindow::BindCommands() {
       {"mnuUtil_LocObjByUsId", after([this] {
          LocateElement(surface_, application_->state(), ui_, "libell");
        })},
+      // The checks list their faults in a report whose lines locate the element.
+      {"mnuExploit_Coherence_D0", check(CheckForbiddenValues)},
+      {"mnuExploit_Coherence_Doublon", check(CheckDoublets)},
+      {"mnuExploit_Coherence_orphelin", check(CheckOrphans)},
+      {"mnuUtil_TagsViewer", after([tags_viewer] { tags_viewer("SCAN"); })},
+      {"mnuUtil_EtiqObjById", after([tags_viewer] { tags_viewer("ETIQ"); })},
+      {"mnuUtil_AppSymbolChange", after([tags_viewer] { tags_viewer("APPSYMBOLE"); })},
+      {"mnuMyUtil_TagsModif", after([this] {
+         FrmTagsValChanger form(surface_, ui_, [this](const std::vector<std::string>& lines) {
+           FrmTagEdit1 report(surface_, ui_, lines);
+           OpenForm(report);
+         });
+         OpenForm(form);
+       })},
+      {"mnuUtil_MajObjByIname", maintain("Mettre à jour par type", mnuUtil_MajObjByIname)},
+      {"MnuDelTxt", maintain("Supprimer les textes", MnuDelTxt)},
+      {"mnuMyUtil_Tst1", maintain("Supprimer par identifiant", mnuMyUtil_Tst1)},
+      {"mnuMyUtil_Tst2", maintain("Supprimer par type", mnuMyUtil_Tst2)},
+      {"mnuMyUtil_Nod_iLinkUpdate",
+       maintain("Recompter les liaisons aux noeuds", mnuMyUtil_Nod_iLinkUpdate)},
+      {"mnuMyUtil_IdRegen", maintain("Régénérer les identifiants", mnuMyUtil_IdRegen)},
+      {"mnuMyUtil_WriteIdInNods",
+       maintain("Ecrire les identifiants des noeuds", mnuMyUtil_WriteIdInNods)},
+      {"mnuMyUtil_WriteLinkIdInGroup3",
+       maintain("Ecrire les identifiants des liaisons", mnuMyUtil_WriteLinkIdInGroup3)},
+      {"mnuMyUtil_WriteLinkLibInGroup3",
+       maintain("Ecrire les libellés des liaisons", mnuMyUtil_WriteLinkLibInGroup3)},
+      {"mnuMyUtil_WriteIdI2LibInNods",
+       maintain("Ecrire les identifiants en libellés", mnuMyUtil_WriteIdI2LibInNods)},
+      {"mnuMyUtil_WriteNodsLib2lib",
+       maintain("Copier les libellés des noeuds", mnuMyUtil_WriteNodsLib2lib)},
       {"mnuExploit_RecapData", [this] { RecapData(); }},
       {"mnuExploit_ResHys", [this] { ShowResult(mnuExploit_ResHys); }},
       {"mnuExploit_ResDeb", [this] { ShowResult(mnuExploit_ResDeb); }},
