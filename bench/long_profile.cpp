@@ -1,6 +1,8 @@
 // Times the long profile of one reach of 5 000 collectors: the reach walked,
 // Prof.crb and Prof.Mst written, as frmProf's cmdVisu does. The target is
 // under 0.5 s.
+#include "results/long_profile.h"
+
 #include <chrono>
 #include <cstdio>
 #include <filesystem>
@@ -9,7 +11,6 @@
 #include "bench_clock.h"
 #include "drawing/surface.h"
 #include "foundation/scripted_ui.h"
-#include "results/long_profile.h"
 
 namespace {
 
@@ -61,8 +62,9 @@ int main() {
     if (run == 0) first = ms;
     if (ms < best) best = ms;
   }
-  std::printf("long profile of a reach of %d collectors: first %.1f ms, best of 5 %.1f ms"
-              " (target 500 ms)\n",
-              kCollectors, first, best);
+  std::printf(
+      "long profile of a reach of %d collectors: first %.1f ms, best of 5 %.1f ms"
+      " (target 500 ms)\n",
+      kCollectors, first, best);
   return first < 500 ? 0 : 1;
 }

@@ -33,8 +33,7 @@ std::vector<std::string> ReachesOfProfile(const std::string& curve_file) {
 
 }  // namespace
 
-FrmProf::FrmProf(Surface& surface, UserInterface& ui, std::string work_dir,
-                 std::string page_title)
+FrmProf::FrmProf(Surface& surface, UserInterface& ui, std::string work_dir, std::string page_title)
     : Spread1(2, 0),
       surface_(surface),
       ui_(ui),

@@ -171,9 +171,8 @@ ProfileScale ProfileScaleOf(double x_min, double x_max, double y_min, double y_m
   return scale;
 }
 
-bool WriteProfileScript(UserInterface& ui, const std::string& script,
-                        const std::string& curve_file, const std::vector<std::string>& reaches,
-                        const std::string& page_title) {
+bool WriteProfileScript(UserInterface& ui, const std::string& script, const std::string& curve_file,
+                        const std::vector<std::string>& reaches, const std::string& page_title) {
   double x_min = 0, x_max = 0, y_min = 0, y_max = 0;
   CurveMinMax(ui, curve_file, x_min, x_max, y_min, y_max);
   const ProfileScale s = ProfileScaleOf(x_min, x_max, y_min, y_max);
@@ -186,8 +185,8 @@ bool WriteProfileScript(UserInterface& ui, const std::string& script,
   lines.push_back(" Cadre " + N(2) + " " + N(28) + " " + N(2) + " " + N(20) + "  " + Quoted(title) +
                   "  6 0 0 6 0 0");
   lines.push_back("    Echelle \"F\" " + N(s.x_min) + " " + N(s.x_max) + " " + N(s.y_min) + " " +
-                  N(s.y_max) + " " + N(s.x_step) + " " + N(s.y_step) + " " + N(s.x_spacing) +
-                  " " + N(s.y_spacing) + " \"Distance cumulée (m)\"  \"Z (ngf)\"  \"V\" 4.5 " +
+                  N(s.y_max) + " " + N(s.x_step) + " " + N(s.y_step) + " " + N(s.x_spacing) + " " +
+                  N(s.y_spacing) + " \"Distance cumulée (m)\"  \"Z (ngf)\"  \"V\" 4.5 " +
                   Quoted(s.x_format) + " " + Quoted(s.y_format));
   lines.push_back("    Grille  0 0 2 0 0");
   for (const std::string& reach : reaches) {

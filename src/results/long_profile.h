@@ -52,9 +52,8 @@ ProfileScale ProfileScaleOf(double x_min, double x_max, double y_min, double y_m
 
 // Writes `script` for the curves of `curve_file` (named by its last component)
 // of the reaches, under the page title.
-bool WriteProfileScript(UserInterface& ui, const std::string& script,
-                        const std::string& curve_file, const std::vector<std::string>& reaches,
-                        const std::string& page_title);
+bool WriteProfileScript(UserInterface& ui, const std::string& script, const std::string& curve_file,
+                        const std::vector<std::string>& reaches, const std::string& page_title);
 
 // The whole of cmdVisu's work in `work_dir`: Prof.crb made anew from the
 // reaches (those not in the network are passed over), then Prof.Mst. Returns

@@ -20,9 +20,10 @@ namespace {
 int Profile(const ScriptPictureWriter& draw, const std::vector<std::string>& args,
             const std::string& app_path, std::ostream& out, ScriptedUi& ui) {
   CliOptions words;
-  if (!words.Parse(args,
-                   {{{"--reach"}, true, false}, {{"--dir"}, true, true}, {{"-o", "--output"}, true, true}},
-                   1, 1)) {
+  if (!words.Parse(
+          args,
+          {{{"--reach"}, true, false}, {{"--dir"}, true, true}, {{"-o", "--output"}, true, true}},
+          1, 1)) {
     return 2;
   }
   const std::vector<std::string> reaches = words.Values("--reach");
@@ -74,15 +75,16 @@ int Profile(const ScriptPictureWriter& draw, const std::vector<std::string>& arg
 }  // namespace
 
 CliCommand ProfileCliCommand(ScriptPictureWriter draw) {
-  return {"profile",
-          "  profile NETWORK.mtf --reach ID [--reach ID ...] [--dir DIR]\n"
-          "          [-o OUT.svg|pdf|png]\n"
-          "                writes the long profile of the reaches, in that order,\n"
-          "                as Option > Profil en long does: Prof.crb and Prof.Mst in\n"
-          "                DIR (by default the network's folder followed by the\n"
-          "                current scenario's name); -o draws its page into a picture\n",
-          [draw](const std::vector<std::string>& args, const std::string& app_path,
-                 std::ostream& out, ScriptedUi& ui) { return Profile(draw, args, app_path, out, ui); }};
+  return {
+      "profile",
+      "  profile NETWORK.mtf --reach ID [--reach ID ...] [--dir DIR]\n"
+      "          [-o OUT.svg|pdf|png]\n"
+      "                writes the long profile of the reaches, in that order,\n"
+      "                as Option > Profil en long does: Prof.crb and Prof.Mst in\n"
+      "                DIR (by default the network's folder followed by the\n"
+      "                current scenario's name); -o draws its page into a picture\n",
+      [draw](const std::vector<std::string>& args, const std::string& app_path, std::ostream& out,
+             ScriptedUi& ui) { return Profile(draw, args, app_path, out, ui); }};
 }
 
 }  // namespace pluvane

@@ -272,8 +272,9 @@ TEST_F(FrmProfTest, RowsListTheReachesAndRememberTheLastProfile) {
 
 TEST_F(FrmProfTest, QuitWritesNothingAndStartsNoViewer) {
   int started = 0;
-  mnuOpt_Bief_Profil(surface, state, ui, [](FormController& form) { form.Run("cmdQuit"); },
-                     [&started](const std::string&, const std::string&) { ++started; });
+  mnuOpt_Bief_Profil(
+      surface, state, ui, [](FormController& form) { form.Run("cmdQuit"); },
+      [&started](const std::string&, const std::string&) { ++started; });
   EXPECT_EQ(started, 0);
   EXPECT_FALSE(FileExist(work.File("Prof.Mst")));
   EXPECT_FALSE(FileExist(work.File("Vistrel.Mst")));
