@@ -40,15 +40,22 @@ void MainWindow::ConnectInteraction() {
   connect(binder_, &InteractionBinder::Applied, this, &MainWindow::ShowArmedTool);
   commands_["mnuUtil_Vistrel"] = [this] { OpenVistrel(); };
   // The rain libraries, each opened by the name of its menu entry.
-  for (const char* name : {"mnuPlu_Proj_Montana", "mnuPlu_Proj_Caquot", "mnuPlu_Proj_1Tri",
-                           "mnuPlu_Proj_2Tri", "mnuPlu_Proj_Synth", "mnuPlu_Real_Pluvio",
-                           "mnuPlu_Real_Hyeto", "mnuPlu_Real_PlvExt", "mnuPlu_Real_Radar"}) {
-    commands_[name] = [this, name] {
+  const auto rain = [this](const char* name) {
+    return [this, name] {
       if (!NetworkLoaded(application_->state(), ui_)) return;
       OpenNamedForm(name, 0);
       RefreshMenuState();
     };
-  }
+  };
+  commands_["mnuPlu_Proj_Montana"] = rain("mnuPlu_Proj_Montana");
+  commands_["mnuPlu_Proj_Caquot"] = rain("mnuPlu_Proj_Caquot");
+  commands_["mnuPlu_Proj_1Tri"] = rain("mnuPlu_Proj_1Tri");
+  commands_["mnuPlu_Proj_2Tri"] = rain("mnuPlu_Proj_2Tri");
+  commands_["mnuPlu_Proj_Synth"] = rain("mnuPlu_Proj_Synth");
+  commands_["mnuPlu_Real_Pluvio"] = rain("mnuPlu_Real_Pluvio");
+  commands_["mnuPlu_Real_Hyeto"] = rain("mnuPlu_Real_Hyeto");
+  commands_["mnuPlu_Real_PlvExt"] = rain("mnuPlu_Real_PlvExt");
+  commands_["mnuPlu_Real_Radar"] = rain("mnuPlu_Real_Radar");
 }
 
 void MainWindow::ShowArmedTool() {
