@@ -621,7 +621,19 @@ void Surface::SetRedraw(bool redraw) {
 }
 
 void Surface::Refresh() {
-  if (listener_ && redraw_) listener_();
+  if (!redraw_) return;
+  // A copy, so that a listener may remove itself (a view that closes).
+  const auto listeners = listeners_;
+  for (const auto& entry : listeners) entry.second();
+}
+
+int Surface::AddListener(std::function<void()> listener) {
+  listeners_.emplace_back(++last_listener_, std::move(listener));
+  return last_listener_;
+}
+
+void Surface::RemoveListener(int id) {
+  std::erase_if(listeners_, [id](const auto& entry) { return entry.first == id; });
 }
 
 }  // namespace pluvane

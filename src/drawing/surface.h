@@ -158,9 +158,11 @@ class Surface {
   void ClearDrawing();
   bool Redraw() const { return redraw_; }
   void SetRedraw(bool redraw);
-  // Tells the listener (the view) that the drawing changed.
+  // Tells the listeners (the views) that the drawing changed.
   void Refresh();
-  void SetChangeListener(std::function<void()> listener) { listener_ = std::move(listener); }
+  // Returns an id for RemoveListener.
+  int AddListener(std::function<void()> listener);
+  void RemoveListener(int id);
 
   // --- Style, on the current object, the selection, all, or the defaults ---
   std::int32_t LineColor() const;
@@ -380,7 +382,8 @@ class Surface {
   int file_format_ = kNativeFormat;
   nlohmann::ordered_json document_extra_;
   nlohmann::ordered_json page_extra_;
-  std::function<void()> listener_;
+  std::vector<std::pair<int, std::function<void()>>> listeners_;
+  int last_listener_ = 0;
 };
 
 }  // namespace pluvane

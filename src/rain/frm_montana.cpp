@@ -6,6 +6,7 @@
 #include "drawing/surface_helpers.h"
 #include "foundation/grid_rows.h"
 #include "foundation/text.h"
+#include "rain/montana_columns.h"
 #include "rain/rain_records.h"
 
 namespace pluvane {
@@ -31,14 +32,9 @@ constexpr StormReference kReferences[] = {
 FrmMontana::FrmMontana(Surface& surface, const NetworkState& state, UserInterface& ui)
     : surface_(surface), state_(state), ui_(ui), grid_(kColCb, 0) {
   grid_.SetCaption(Caption());
-  grid_.SetColHead(kColId, "Identif. de Montana");
-  grid_.SetColHead(kColDesign, "Désignation de la localisation");
-  grid_.SetColHead(kColPret, "Période de retour");
-  grid_.SetColHead(kColCa, "Coefficient a");
-  grid_.SetColHead(kColCb, "Coefficient b");
-  grid_.SetColWidth(kColDesign, 22);
-  grid_.SetColWidth(kColId, 13);
-  Load();
+  MontanaHeads(grid_);
+  AppendMontanaEntries(surface_, grid_);
+  ids_.Reset(grid_);
 }
 
 std::vector<FormCommand> FrmMontana::Commands() {
@@ -47,21 +43,6 @@ std::vector<FormCommand> FrmMontana::Commands() {
           {"mnDel", "&Supprimer", [this] { mnDel(); }},
           {"mnSave", "&Enregistrer", [this] { mnSave(); }},
           {"mnQuit", "&Quitter", [this] { mnQuit(); }}};
-}
-
-void FrmMontana::Load() {
-  CursorKeeper keeper(surface_);
-  for (int number : RecordsOfKind(surface_, kMontanaEntry)) {
-    surface_.SetCurrentObject(number);
-    const int row = grid_.MaxRows() + 1;
-    grid_.SetMaxRows(row);
-    grid_.SetText(kColId, row, surface_.ObjTag("Id"));
-    grid_.SetText(kColDesign, row, surface_.ObjTag("Design"));
-    grid_.SetText(kColPret, row, surface_.ObjTag("Pret"));
-    grid_.SetText(kColCa, row, surface_.ObjTag("Ca"));
-    grid_.SetText(kColCb, row, surface_.ObjTag("Cb"));
-  }
-  ids_.Reset(grid_);
 }
 
 void FrmMontana::mnAdd() {

@@ -8,6 +8,7 @@
 
 #include "drawing/surface.h"
 #include "foundation/form_controller.h"
+#include "rain/montana_columns.h"
 #include "foundation/user_interface.h"
 #include "network/network_state.h"
 #include "rain/id_column.h"
@@ -16,11 +17,11 @@ namespace pluvane {
 
 class FrmMontana : public FormController {
  public:
-  static constexpr int kColId = 1;
-  static constexpr int kColDesign = 2;
-  static constexpr int kColPret = 3;
-  static constexpr int kColCa = 4;
-  static constexpr int kColCb = 5;
+  static constexpr int kColId = kMontanaColId;
+  static constexpr int kColDesign = kMontanaColDesign;
+  static constexpr int kColPret = kMontanaColPret;
+  static constexpr int kColCa = kMontanaColCa;
+  static constexpr int kColCb = kMontanaColCb;
 
   FrmMontana(Surface& surface, const NetworkState& state, UserInterface& ui);
 
@@ -39,7 +40,6 @@ class FrmMontana : public FormController {
   void mnQuit() { Close(); }
 
  private:
-  void Load();
   void Rename(const std::string& old_id, const std::string& new_id);
   void PushToFirstStorms(const std::string& id, const std::string& ca, const std::string& cb);
 

@@ -4,7 +4,6 @@
 
 #include "drawing/surface_guards.h"
 #include "foundation/grid_checks.h"
-#include "foundation/grid_rows.h"
 #include "foundation/numbers.h"
 #include "editors/grid_plot_view.h"
 #include "rain/rain_records.h"
@@ -12,7 +11,7 @@
 namespace pluvane {
 
 FrmPitPlus::FrmPitPlus(EditorContext& context, std::string id, int number)
-    : context_(context), id_(std::move(id)), number_(number), grid_(2, 0) {
+    : CurveTableForm(2), context_(context), id_(std::move(id)), number_(number) {
   grid_.SetCaption(Caption());
   grid_.SetColHead(1, "Temps (mn)");
   grid_.SetColHead(2, "Intensité (mm/h)");
@@ -28,24 +27,6 @@ FrmPitPlus::FrmPitPlus(EditorContext& context, std::string id, int number)
     grid_.SetText(2, i, surface.ObjTag("Y" + std::to_string(i)));
   }
 }
-
-std::vector<FormCommand> FrmPitPlus::Commands() {
-  return {{"mnAdd", "&Ajouter", [this] { mnAdd(); }},
-          {"mnIns", "&Insérer", [this] { mnIns(); }},
-          {"mnDel", "&Supprimer", [this] { mnDel(); }},
-          {"mnSave", "&Enregistrer", [this] { mnSave(); }},
-          {"mnVisu", "&Visualiser", [this] { mnVisu(); }},
-          {"mnClose", "&Fermer", [this] { mnClose(); }}};
-}
-
-void FrmPitPlus::mnAdd() { SSAddRow(grid_); }
-
-void FrmPitPlus::mnIns() {
-  int row = 0;
-  SSInsertRow(grid_, row);
-}
-
-void FrmPitPlus::mnDel() { SSDeleteRow(grid_, grid_.ActiveRow()); }
 
 void FrmPitPlus::mnSave() {
   UserInterface& ui = context_.ui;

@@ -5,34 +5,25 @@
 #include <string>
 #include <vector>
 
+#include "editors/curve_table_form.h"
 #include "editors/editor_context.h"
-#include "foundation/form_controller.h"
 
 namespace pluvane {
 
-class FrmPitPlus : public FormController {
+class FrmPitPlus : public CurveTableForm {
  public:
   // `id` and `number` are the current rain: its name and its record.
   FrmPitPlus(EditorContext& context, std::string id, int number);
 
   std::string Caption() const override { return "Pluie de projet I(t)"; }
-  std::vector<Grid*> Grids() override { return {&grid_}; }
-  std::vector<FormCommand> Commands() override;
 
-  Grid& grid() { return grid_; }
-
-  void mnAdd();
-  void mnIns();
-  void mnDel();
-  void mnSave();
-  void mnVisu();
-  void mnClose() { Close(); }
+  void mnSave() override;
+  void mnVisu() override;
 
  private:
   EditorContext& context_;
   std::string id_;
   int number_;
-  Grid grid_;
 };
 
 }  // namespace pluvane

@@ -5,7 +5,6 @@
 #include "drawing/surface_guards.h"
 #include "drawing/surface_helpers.h"
 #include "foundation/grid_checks.h"
-#include "foundation/grid_rows.h"
 #include "foundation/numbers.h"
 #include "foundation/paths.h"
 #include "foundation/text.h"
@@ -36,7 +35,7 @@ std::vector<int> Md_nbPluvio(Surface& surface) { return RecordsOfKind(surface, k
 
 FrmPluHtCrb::FrmPluHtCrb(EditorContext& context, std::string id, int number,
                          std::string working_file)
-    : context_(context), id_(std::move(id)), working_file_(std::move(working_file)), grid_(1, 0) {
+    : CurveTableForm(1), context_(context), id_(std::move(id)), working_file_(std::move(working_file)) {
   Surface& surface = context_.surface;
   const std::vector<int> gauges = Md_nbPluvio(surface);
   grid_.SetMaxCols(1 + static_cast<int>(gauges.size()));
@@ -74,27 +73,12 @@ void FrmPluHtCrb::FillRow(int row, const std::string& line) {
   }
 }
 
-std::vector<FormCommand> FrmPluHtCrb::Commands() {
-  return {{"mnAdd", "&Ajouter", [this] { mnAdd(); }},
-          {"mnIns", "&Insérer", [this] { mnIns(); }},
-          {"mnDel", "&Supprimer", [this] { mnDel(); }},
-          {"mnSave", "&Enregistrer", [this] { mnSave(); }},
-          {"mnVisu", "&Visualiser", [this] { mnVisu(); }},
-          {"mnClose", "&Fermer", [this] { mnClose(); }}};
-}
-
-void FrmPluHtCrb::mnAdd() { SSAddRow(grid_); }
-
 void FrmPluHtCrb::mnIns() {
-  // The head row stays first.
-  if (grid_.ActiveRow() <= 1) return;
-  int row = 0;
-  SSInsertRow(grid_, row);
+  if (grid_.ActiveRow() > 1) CurveTableForm::mnIns();
 }
 
 void FrmPluHtCrb::mnDel() {
-  if (grid_.ActiveRow() <= 1) return;
-  SSDeleteRow(grid_, grid_.ActiveRow());
+  if (grid_.ActiveRow() > 1) CurveTableForm::mnDel();
 }
 
 void FrmPluHtCrb::mnSave() {

@@ -8,29 +8,24 @@
 #include <string>
 #include <vector>
 
+#include "editors/curve_table_form.h"
 #include "editors/editor_context.h"
-#include "foundation/form_controller.h"
 
 namespace pluvane {
 
-class FrmPluHtCrb : public FormController {
+class FrmPluHtCrb : public CurveTableForm {
  public:
   FrmPluHtCrb(EditorContext& context, std::string id, int number, std::string working_file);
 
   std::string Caption() const override {
     return "Evénement " + id_ + " - courbe des hauteurs cumulées H(t)";
   }
-  std::vector<Grid*> Grids() override { return {&grid_}; }
-  std::vector<FormCommand> Commands() override;
 
-  Grid& grid() { return grid_; }
-
-  void mnAdd();
-  void mnIns();
-  void mnDel();
-  void mnSave();
-  void mnVisu();
-  void mnClose() { Close(); }
+  // The head row of the gauges' states stays first.
+  void mnIns() override;
+  void mnDel() override;
+  void mnSave() override;
+  void mnVisu() override;
 
  private:
   void FillRow(int row, const std::string& line);
@@ -38,7 +33,6 @@ class FrmPluHtCrb : public FormController {
   EditorContext& context_;
   std::string id_;
   std::string working_file_;
-  Grid grid_;
 };
 
 // The gauges of the drawing in search order (Md_nbPluvio).

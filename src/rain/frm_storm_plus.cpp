@@ -6,6 +6,7 @@
 #include "foundation/grid_checks.h"
 #include "foundation/numbers.h"
 #include "foundation/text.h"
+#include "rain/montana_columns.h"
 #include "rain/rain_records.h"
 
 namespace pluvane {
@@ -28,16 +29,6 @@ std::vector<TriangleRow> TriangleRows(int kind) {
             {"Timax", "Instant du pic pluvieux (mn)="}};
   }
   return {};
-}
-
-void MontanaHeads(Grid& grid) {
-  grid.SetColHead(FrmStormPlus::kColId, "Identif. de Montana");
-  grid.SetColHead(FrmStormPlus::kColDesign, "Désignation de la localisation");
-  grid.SetColHead(FrmStormPlus::kColPret, "Période de retour");
-  grid.SetColHead(FrmStormPlus::kColCa, "Coefficient a");
-  grid.SetColHead(FrmStormPlus::kColCb, "Coefficient b");
-  grid.SetColWidth(FrmStormPlus::kColDesign, 20);
-  grid.SetColWidth(FrmStormPlus::kColId, 12);
 }
 
 }  // namespace
@@ -91,16 +82,7 @@ FrmStormPlus::FrmStormPlus(EditorContext& context, int kind, std::string id, int
   MontanaHeads(library_);
   for (int col = kColId; col <= kColCb; ++col) library_.SetColumnLocked(col, true);
   library_.SetRowSelect(true);
-  for (int entry : RecordsOfKind(surface, kMontanaEntry)) {
-    surface.SetCurrentObject(entry);
-    const int row = library_.MaxRows() + 1;
-    library_.SetMaxRows(row);
-    library_.SetText(kColId, row, surface.ObjTag("Id"));
-    library_.SetText(kColDesign, row, surface.ObjTag("Design"));
-    library_.SetText(kColPret, row, surface.ObjTag("Pret"));
-    library_.SetText(kColCa, row, surface.ObjTag("Ca"));
-    library_.SetText(kColCb, row, surface.ObjTag("Cb"));
-  }
+  AppendMontanaEntries(surface, library_);
   library_.SetVisible(false);
 }
 

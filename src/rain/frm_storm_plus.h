@@ -10,17 +10,18 @@
 
 #include "editors/editor_context.h"
 #include "foundation/form_controller.h"
+#include "rain/montana_columns.h"
 
 namespace pluvane {
 
 class FrmStormPlus : public FormController {
  public:
   // Columns of a Montana grid: those of the Montana library, then the button.
-  static constexpr int kColId = 1;
-  static constexpr int kColDesign = 2;
-  static constexpr int kColPret = 3;
-  static constexpr int kColCa = 4;
-  static constexpr int kColCb = 5;
+  static constexpr int kColId = kMontanaColId;
+  static constexpr int kColDesign = kMontanaColDesign;
+  static constexpr int kColPret = kMontanaColPret;
+  static constexpr int kColCa = kMontanaColCa;
+  static constexpr int kColCb = kMontanaColCb;
   static constexpr int kColChoose = 6;
 
   // `id` and `number` are the current rain: its name and its record.

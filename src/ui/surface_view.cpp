@@ -102,11 +102,11 @@ SurfaceView::SurfaceView(Surface& surface, QWidget* parent)
   setFocusPolicy(Qt::StrongFocus);
   viewport()->setMouseTracking(true);
   viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
-  surface_.SetChangeListener([this] { OnSurfaceChanged(); });
+  listener_ = surface_.AddListener([this] { OnSurfaceChanged(); });
   SyncScrollBars();
 }
 
-SurfaceView::~SurfaceView() { surface_.SetChangeListener(nullptr); }
+SurfaceView::~SurfaceView() { surface_.RemoveListener(listener_); }
 
 ViewTransform SurfaceView::Transform() const {
   return ViewTransform::Fit(

@@ -44,7 +44,7 @@ class SurfaceView : public QAbstractScrollArea {
   Q_OBJECT
 
  public:
-  // The view becomes the surface's change listener until it goes.
+  // The view listens to the surface's changes until it goes.
   explicit SurfaceView(Surface& surface, QWidget* parent = nullptr);
   ~SurfaceView() override;
 
@@ -123,6 +123,7 @@ class SurfaceView : public QAbstractScrollArea {
   QRectF GestureRect() const;
 
   Surface& surface_;
+  int listener_ = 0;  // our id among the surface's listeners
   SurfacePainter painter_;
   QImage frame_;  // the drawing as last painted
   bool frame_stale_ = true;

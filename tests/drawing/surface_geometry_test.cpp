@@ -361,10 +361,23 @@ TEST(SurfaceView, ScaleAndPageState) {
   EXPECT_EQ(surface.BackgroundScale(), 0.8);
 }
 
+TEST(SurfaceView, RefreshReachesEveryListenerTillRemoved) {
+  Surface surface;
+  int first = 0;
+  int second = 0;
+  const int id = surface.AddListener([&] { ++first; });
+  surface.AddListener([&] { ++second; });
+  surface.Refresh();
+  surface.RemoveListener(id);
+  surface.Refresh();
+  EXPECT_EQ(first, 1);
+  EXPECT_EQ(second, 2);
+}
+
 TEST(SurfaceView, RefreshReachesTheListenerUnlessPaintingIsOff) {
   Surface surface;
   int calls = 0;
-  surface.SetChangeListener([&] { ++calls; });
+  surface.AddListener([&] { ++calls; });
   surface.Refresh();
   surface.SetRedraw(false);
   surface.Refresh();

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QImage>
 #include <QInputDialog>
 #include <QTest>
 #include <QTimer>
@@ -28,6 +29,8 @@ TEST(CheckMenu, ALineOfTheReportLocatesItsElement) {
   int current = 0;
   OnNextForm([&](FormWindow* form) {
     title = form->windowTitle();
+    // The report as the user sees it, kept for the documentation.
+    EXPECT_TRUE(form->grab().toImage().save(QString::fromStdString(SnapshotPath("check_report.png"))));
     GridTableView* lines = form->Table(0);
     const int rows = lines->model()->rowCount();
     ASSERT_GE(rows, 3);
