@@ -245,6 +245,7 @@ QWidget* GridItemDelegate::createEditor(QWidget* parent, const QStyleOptionViewI
   if (type.kind == CellType::kList) {
     auto* combo = new GridComboBox(parent);
     for (const auto& entry : grid.ListEntries(col, row)) combo->addItem(Q(entry));
+    combo->setEditable(type.typed);
     auto* self = const_cast<GridItemDelegate*>(this);
     connect(combo, &GridComboBox::droppedDown, self,
             [self, col, row] { emit self->listDroppedDown(col, row); });
@@ -265,8 +266,10 @@ QWidget* GridItemDelegate::createEditor(QWidget* parent, const QStyleOptionViewI
 
 void GridItemDelegate::setEditorData(QWidget* editor, const QModelIndex& index) const {
   if (auto* combo = qobject_cast<QComboBox*>(editor)) {
-    combo->setCurrentIndex(model_->grid().ListIndex(GridTableModel::ColOf(index),
-                                                    GridTableModel::RowOf(index)));
+    const int col = GridTableModel::ColOf(index), row = GridTableModel::RowOf(index);
+    combo->setCurrentIndex(model_->grid().ListIndex(col, row));
+    // A box that takes typed text shows the cell's text, in the list or not.
+    if (combo->isEditable()) combo->setEditText(Q(model_->grid().Text(col, row)));
     return;
   }
   QStyledItemDelegate::setEditorData(editor, index);
@@ -275,8 +278,12 @@ void GridItemDelegate::setEditorData(QWidget* editor, const QModelIndex& index) 
 void GridItemDelegate::setModelData(QWidget* editor, QAbstractItemModel* model,
                                     const QModelIndex& index) const {
   if (auto* combo = qobject_cast<QComboBox*>(editor)) {
-    model_->grid().SetListIndex(GridTableModel::ColOf(index), GridTableModel::RowOf(index),
-                                combo->currentIndex());
+    const int col = GridTableModel::ColOf(index), row = GridTableModel::RowOf(index);
+    if (combo->isEditable()) {
+      model_->grid().SetText(col, row, combo->currentText().toStdString());
+    } else {
+      model_->grid().SetListIndex(col, row, combo->currentIndex());
+    }
     return;
   }
   QStyledItemDelegate::setModelData(editor, model, index);
