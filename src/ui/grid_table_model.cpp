@@ -249,7 +249,10 @@ QWidget* GridItemDelegate::createEditor(QWidget* parent, const QStyleOptionViewI
     auto* self = const_cast<GridItemDelegate*>(this);
     connect(combo, &GridComboBox::droppedDown, self,
             [self, col, row] { emit self->listDroppedDown(col, row); });
-    connect(combo, &GridComboBox::closedUp, self, [self, combo] { emit self->commitData(combo); });
+    // An editor already closed (Return in a box that takes typed text) has nothing to give.
+    connect(combo, &GridComboBox::closedUp, self, [self, combo] {
+      if (combo->isVisible()) emit self->commitData(combo);
+    });
     return combo;
   }
   QWidget* editor = QStyledItemDelegate::createEditor(parent, option, index);

@@ -5,6 +5,7 @@
 
 #include <QComboBox>
 #include <QFileDialog>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
@@ -113,6 +114,48 @@ TEST(ObjAlphaMenu, TheSectionsOfTheNetworkGoIntoTheChosenFile) {
   // The network on screen is as it was.
   EXPECT_EQ(surface.ObjectCount(kPage), objects);
   EXPECT_EQ(CountByName(surface, 101), sections);
+  Quit(window);
+}
+
+TEST(ObjAlphaMenu, ATypeTypedInTheBoxIsCopiedToo) {
+  AppFolder app;
+  const std::string dest = app.File("aval.mtf");
+  WriteSmallNetwork(dest);
+  MainWindow window;
+  ASSERT_TRUE(Open(window, app, app.Demo(), true));
+  std::size_t replaced = 0;
+  QString shown, typed;
+  OnNextForm([&](FormWindow* form) {
+    GridTableView* table = form->Table(0);
+    QString title;
+    AnswerNextFileDialog(dest, title);
+    ReplaceOnNextQuestion(replaced);
+    form->DoubleClickCell(0, 1, 2);
+    const QModelIndex type = table->model()->index(0, 0);
+    shown = table->model()->data(type).toString();
+    table->setFocus();
+    table->setCurrentIndex(type);
+    table->edit(type);
+    auto* combo = form->findChild<QComboBox*>();
+    ASSERT_NE(combo, nullptr);
+    ASSERT_NE(combo->lineEdit(), nullptr);
+    combo->lineEdit()->selectAll();
+    QTest::keyClicks(combo->lineEdit(), "102:");
+    QTest::keyClick(combo->lineEdit(), Qt::Key_Return);
+    QApplication::processEvents();
+    typed = table->model()->data(type).toString();
+    QTest::mouseClick(form->Button("cmdGo"), Qt::LeftButton);
+    QApplication::processEvents();
+    if (form->isVisible()) form->RunCommand("cmdCancel");
+  });
+  window.RunMenu("mnuUtil_ImportObjAlpha");
+  EXPECT_EQ(shown, "?? : rentrez un nombre entier suivi de 2 points");
+  EXPECT_EQ(typed, "102:");
+  EXPECT_EQ(window.panels().Status()->text().toStdString(),
+            "ok 3 obj de type 102 ont été exportés dans " + dest);
+  Surface written;
+  ASSERT_TRUE(written.LoadFile(dest, 0));
+  EXPECT_EQ(CountByName(written, 102), 3);
   Quit(window);
 }
 
