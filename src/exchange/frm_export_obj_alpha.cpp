@@ -13,8 +13,7 @@ bool ObjAlphaNetworkLoaded(Surface& surface, UserInterface& ui) {
   return false;
 }
 
-FrmExportObjAlpha::FrmExportObjAlpha(Surface& surface, const NetworkState& state,
-                                     UserInterface& ui)
+FrmExportObjAlpha::FrmExportObjAlpha(Surface& surface, const NetworkState& state, UserInterface& ui)
     : surface_(surface), state_(state), ui_(ui), grid_(1, 2) {
   grid_.SetCaption(Caption());
   grid_.SetColHead(1, "");
@@ -50,8 +49,8 @@ void FrmExportObjAlpha::DoubleClickCell(Grid& grid, int col, int row) {
 }
 
 void FrmExportObjAlpha::cmdGo() {
-  const ObjAlphaResult result = ExportObjAlpha(surface_, state_, ui_, grid_.Text(1, kRowType),
-                                               Trim(grid_.Text(1, kRowFile)));
+  const ObjAlphaResult result =
+      ExportObjAlpha(surface_, state_, ui_, grid_.Text(1, kRowType), Trim(grid_.Text(1, kRowFile)));
   if (result.outcome == ObjAlphaResult::kDone) Close();
 }
 

@@ -16,14 +16,10 @@ namespace {
 // The library kinds in the order of the list, and the text after each one's
 // number. The sections' text carries its number already.
 const std::pair<int, const char*> kKinds[] = {
-    {101, "101: Section de collecteurs"},
-    {102, ": Coefficient de Montana"},
-    {104, ": Pluie de projet type Caquot"},
-    {105, ": Pluie de projet type 1 triangle"},
-    {106, ": Pluie de projet type 2 triangles"},
-    {107, ": Pluie de projet synthétique I(t)"},
-    {103, ": Pluie réelle type pluvio H(t)"},
-    {108, ": Pluie réelle type Radar maillé M(t) "},
+    {101, "101: Section de collecteurs"},        {102, ": Coefficient de Montana"},
+    {104, ": Pluie de projet type Caquot"},      {105, ": Pluie de projet type 1 triangle"},
+    {106, ": Pluie de projet type 2 triangles"}, {107, ": Pluie de projet synthétique I(t)"},
+    {103, ": Pluie réelle type pluvio H(t)"},    {108, ": Pluie réelle type Radar maillé M(t) "},
     {111, ": Scénario de simulation"},
 };
 

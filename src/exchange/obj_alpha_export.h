@@ -15,7 +15,8 @@
 namespace pluvane {
 
 // What the type box shows before a choice: the typed entry's form.
-inline constexpr const char* kObjAlphaTypedEntry = "?? : rentrez un nombre entier suivi de 2 points";
+inline constexpr const char* kObjAlphaTypedEntry =
+    "?? : rentrez un nombre entier suivi de 2 points";
 
 // The entries of the type list: one for each library kind that has at least
 // one object in the drawing, in the order the list has always had.

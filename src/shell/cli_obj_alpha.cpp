@@ -30,8 +30,8 @@ int CopyRecordsCommand(const std::vector<std::string>& args, const std::string& 
   if (!IsWholeNumber(kind)) return 2;
   CliNetwork network(ui);
   if (!network.Open(app_path, words.Positional()[0])) return 1;
-  const ObjAlphaResult result = ExportObjAlpha(network.surface, network.state(), ui, kind + ":",
-                                               words.Positional()[1]);
+  const ObjAlphaResult result =
+      ExportObjAlpha(network.surface, network.state(), ui, kind + ":", words.Positional()[1]);
   switch (result.outcome) {
     case ObjAlphaResult::kDone:
       out << ui.Statuses().back() << "\n";

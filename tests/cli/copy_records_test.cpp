@@ -58,8 +58,8 @@ class CopyRecordsCli : public ::testing::Test {
 TEST_F(CopyRecordsCli, SectionsOverwriteTheSectionOfTheSameId) {
   const SplitRun run = Cli("copy-records Exemples/Demo.mtf aval/Aval.mtf --kind 101");
   EXPECT_EQ(run.status, 0) << run.err;
-  EXPECT_EQ(run.out, "ok 2 obj de type 101 ont été exportés dans " +
-                         programs_.Work("aval/Aval.mtf") + "\n");
+  EXPECT_EQ(run.out,
+            "ok 2 obj de type 101 ont été exportés dans " + programs_.Work("aval/Aval.mtf") + "\n");
   EXPECT_EQ(run.err, "");
   const SplitRun info = Cli("info aval/Aval.mtf");
   EXPECT_NE(info.out.find("101\t2\t"), std::string::npos) << info.out;
@@ -91,7 +91,8 @@ TEST_F(CopyRecordsCli, AnUnreadableDestinationIsReportedAndKept) {
   WriteBytes(programs_.Work("aval/Abime.mtf"), "abîmé");
   const SplitRun run = Cli("copy-records Exemples/Demo.mtf aval/Abime.mtf --kind 102");
   EXPECT_EQ(run.status, 1);
-  EXPECT_EQ(run.err, "Pluvane (erreur n°321, L0): Format de fichier non valide\rfrmExportObjAlpha\n");
+  EXPECT_EQ(run.err,
+            "Pluvane (erreur n°321, L0): Format de fichier non valide\rfrmExportObjAlpha\n");
   EXPECT_EQ(ReadBytes(programs_.Work("aval/Abime.mtf")), "abîmé");
 }
 

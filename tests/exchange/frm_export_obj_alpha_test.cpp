@@ -30,8 +30,8 @@ class DialogUi : public ScriptedUi {
 
 TEST_F(FrmExportObjAlphaTest, ExportingSectionsOverwritesTheSectionOfTheSameId) {
   NetworkStart();
-  AddRecord(source_, state_, {{"iName", "101"}, {"Id", "OVO100"}, {"Forme", "ovoide"},
-                              {"Hauteur", "1.5"}});
+  AddRecord(source_, state_,
+            {{"iName", "101"}, {"Id", "OVO100"}, {"Forme", "ovoide"}, {"Hauteur", "1.5"}});
   AddRecord(source_, state_, {{"iName", "101"}, {"Id", "RECT2"}, {"Forme", "rect"}});
   const std::string dest = Destination(
       {{{"iName", "101"}, {"Id", "OVO100"}, {"Forme", "ancienne"}, {"Note", "gardée"}}});
@@ -42,8 +42,7 @@ TEST_F(FrmExportObjAlphaTest, ExportingSectionsOverwritesTheSectionOfTheSameId) 
 
   EXPECT_TRUE(ui_.Empty());
   ASSERT_FALSE(ui_.Statuses().empty());
-  EXPECT_EQ(ui_.Statuses().back(),
-            "ok 2 obj de type 101 ont été exportés dans " + dest);
+  EXPECT_EQ(ui_.Statuses().back(), "ok 2 obj de type 101 ont été exportés dans " + dest);
   EXPECT_TRUE(form.Closed());
   Surface written;
   Reload(written, dest);
@@ -97,15 +96,12 @@ TEST_F(FrmExportObjAlphaTest, TheListOffersTheKindsPresentInItsOwnOrder) {
   AddRecord(source_, state_, {{"iName", "109"}, {"Id", "not offered"}});
   FrmExportObjAlpha form(source_, state_, ui_);
   EXPECT_EQ(form.grid().ListEntries(1, FrmExportObjAlpha::kRowType),
-            (std::vector<std::string>{"101: Section de collecteurs",
-                                      "102: Coefficient de Montana",
-                                      "104: Pluie de projet type Caquot",
-                                      "105: Pluie de projet type 1 triangle",
-                                      "106: Pluie de projet type 2 triangles",
-                                      "107: Pluie de projet synthétique I(t)",
-                                      "103: Pluie réelle type pluvio H(t)",
-                                      "108: Pluie réelle type Radar maillé M(t) ",
-                                      "111: Scénario de simulation"}));
+            (std::vector<std::string>{
+                "101: Section de collecteurs", "102: Coefficient de Montana",
+                "104: Pluie de projet type Caquot", "105: Pluie de projet type 1 triangle",
+                "106: Pluie de projet type 2 triangles", "107: Pluie de projet synthétique I(t)",
+                "103: Pluie réelle type pluvio H(t)", "108: Pluie réelle type Radar maillé M(t) ",
+                "111: Scénario de simulation"}));
 }
 
 TEST_F(FrmExportObjAlphaTest, TheLabelsAndTheCaptionAreTheForms) {

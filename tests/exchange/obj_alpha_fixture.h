@@ -79,9 +79,7 @@ class ObjAlphaTest : public ::testing::Test {
   }
 
   // The destination file read back.
-  void Reload(Surface& surface, const std::string& path) {
-    ASSERT_TRUE(surface.LoadFile(path, 0));
-  }
+  void Reload(Surface& surface, const std::string& path) { ASSERT_TRUE(surface.LoadFile(path, 0)); }
 
   TempFolder folder_;
   NetworkState state_;
