@@ -36,6 +36,8 @@ struct CellType {
   std::string list;
   // Most characters a text cell takes from the keyboard; 0 for no limit.
   int max_length = 0;
+  // A list cell that also takes a text typed in its box, in the list or not.
+  bool typed = false;
 
   static CellType Text(int max_length = 0) { return {kText, 0, 0, 0, {}, max_length}; }
   static CellType Integer(double min, double max) { return {kInteger, min, max, 0, {}}; }

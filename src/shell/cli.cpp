@@ -14,6 +14,7 @@
 #include "foundation/paths.h"
 #include "shell/application.h"
 #include "shell/cli_network.h"
+#include "shell/cli_obj_alpha.h"
 #include "shell/cli_options.h"
 #include "shell/cli_rain.h"
 #include "simulation/data_recap.h"
@@ -214,6 +215,13 @@ std::vector<CliCommand> CoreCliCommands() {
        "                and writes the network to OUT.mtf (also when the import\n"
        "                was refused); prints the count imported\n",
        ImportRainCommand},
+      {"copy-records",
+       "  copy-records SOURCE.mtf DEST.mtf --kind N\n"
+       "                copies every library record of iName N (101 sections, 102\n"
+       "                Montana, 103 to 108 rains, 111 scenarios...) of SOURCE into\n"
+       "                the existing network DEST, overwriting those of the same Id,\n"
+       "                and prints the count\n",
+       CopyRecordsCommand},
   };
 }
 

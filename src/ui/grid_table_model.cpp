@@ -245,10 +245,14 @@ QWidget* GridItemDelegate::createEditor(QWidget* parent, const QStyleOptionViewI
   if (type.kind == CellType::kList) {
     auto* combo = new GridComboBox(parent);
     for (const auto& entry : grid.ListEntries(col, row)) combo->addItem(Q(entry));
+    combo->setEditable(type.typed);
     auto* self = const_cast<GridItemDelegate*>(this);
     connect(combo, &GridComboBox::droppedDown, self,
             [self, col, row] { emit self->listDroppedDown(col, row); });
-    connect(combo, &GridComboBox::closedUp, self, [self, combo] { emit self->commitData(combo); });
+    // An editor already closed (Return in a box that takes typed text) has nothing to give.
+    connect(combo, &GridComboBox::closedUp, self, [self, combo] {
+      if (combo->isVisible()) emit self->commitData(combo);
+    });
     return combo;
   }
   QWidget* editor = QStyledItemDelegate::createEditor(parent, option, index);
@@ -265,8 +269,10 @@ QWidget* GridItemDelegate::createEditor(QWidget* parent, const QStyleOptionViewI
 
 void GridItemDelegate::setEditorData(QWidget* editor, const QModelIndex& index) const {
   if (auto* combo = qobject_cast<QComboBox*>(editor)) {
-    combo->setCurrentIndex(model_->grid().ListIndex(GridTableModel::ColOf(index),
-                                                    GridTableModel::RowOf(index)));
+    const int col = GridTableModel::ColOf(index), row = GridTableModel::RowOf(index);
+    combo->setCurrentIndex(model_->grid().ListIndex(col, row));
+    // A box that takes typed text shows the cell's text, in the list or not.
+    if (combo->isEditable()) combo->setEditText(Q(model_->grid().Text(col, row)));
     return;
   }
   QStyledItemDelegate::setEditorData(editor, index);
@@ -275,8 +281,12 @@ void GridItemDelegate::setEditorData(QWidget* editor, const QModelIndex& index) 
 void GridItemDelegate::setModelData(QWidget* editor, QAbstractItemModel* model,
                                     const QModelIndex& index) const {
   if (auto* combo = qobject_cast<QComboBox*>(editor)) {
-    model_->grid().SetListIndex(GridTableModel::ColOf(index), GridTableModel::RowOf(index),
-                                combo->currentIndex());
+    const int col = GridTableModel::ColOf(index), row = GridTableModel::RowOf(index);
+    if (combo->isEditable()) {
+      model_->grid().SetText(col, row, combo->currentText().toStdString());
+    } else {
+      model_->grid().SetListIndex(col, row, combo->currentIndex());
+    }
     return;
   }
   QStyledItemDelegate::setModelData(editor, model, index);

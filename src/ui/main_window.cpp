@@ -13,6 +13,7 @@
 
 #include "editors/section_export.h"
 #include "editors/section_import.h"
+#include "exchange/frm_export_obj_alpha.h"
 #include "shell/frm_impfile_dlg.h"
 #include "foundation/paths.h"
 #include "network/frm_bief_lst.h"
@@ -186,6 +187,12 @@ void MainWindow::BindCommands() {
        }},
       {"mnuUtil_snapSymbol", after([this] { mnuUtil_snapSymbol(surface_, ui_); })},
       {"mnuUtil_XChange", after([this] { mnuUtil_XChange(surface_, ui_); })},
+      // Library records copied into another network file, never shown.
+      {"mnuUtil_ImportObjAlpha", after([this] {
+         if (!ObjAlphaNetworkLoaded(surface_, ui_)) return;
+         FrmExportObjAlpha form(surface_, application_->state(), ui_);
+         OpenForm(form);
+       })},
       {"mnuScn_Edit", after([this] {
          if (!NetworkLoaded(application_->state(), ui_)) return;
          FrmScnSimParam form(surface_, application_->state(), ui_,

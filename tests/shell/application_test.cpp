@@ -257,5 +257,16 @@ TEST_F(ApplicationTest, QuitCleansTheWorkFolderAndAsksNoMoreAtUnload) {
   EXPECT_TRUE(ui_.Empty());
 }
 
+// The zoom factor of the last Save As is the state's from the start of the
+// program; a factor of 0 stands for none and gives 1.
+TEST_F(ApplicationTest, TheStartReadsTheSavedZoomFactorAndZeroGivesOne) {
+  IniWrite("Autres", "Zoom Ini", "0.50000000", ini_);
+  ASSERT_TRUE(app_.Load(folder_.Path(), ""));
+  EXPECT_EQ(app_.state().ZoomFactor, 0.5);
+  IniWrite("Autres", "Zoom Ini", "0", ini_);
+  ASSERT_TRUE(app_.Load(folder_.Path(), ""));
+  EXPECT_EQ(app_.state().ZoomFactor, 1);
+}
+
 }  // namespace
 }  // namespace pluvane

@@ -64,5 +64,33 @@ TEST(MergeCommand, WithoutAnOpenNetworkItIsRefused) {
   Quit(window);
 }
 
+TEST(MergeCommand, AHostWithoutCalibrationIsRefusedAndStaysAsItWas) {
+  TestApp();
+  AppFolder app;
+  // A network of two nodes, never calibrated.
+  const std::string host = app.File("libre.mtf");
+  {
+    Surface surface;
+    for (const char* id : {"Nod_1", "Nod_2"}) {
+      surface.AddObject(kKindRectangle, 10, 10, 20, 20);
+      surface.SetObjTag("iName", "99");
+      surface.SetObjTag("Id", id);
+    }
+    ASSERT_TRUE(surface.SaveFile(host, kNativeFormat));
+  }
+  MainWindow window;
+  ASSERT_TRUE(Open(window, app, host, true));
+  Surface& surface = window.surface();
+  const int objects = surface.ObjectCount(kPage);
+  SeenMessage seen;
+  AnswerNextMessage(seen);
+  window.RunMenu("MnuFi_Import_Mtf");
+  EXPECT_EQ(seen.text, "\rLe réseau d'accueil doit être calé !\r(Cf. Fichier/Ouvrir...)");
+  EXPECT_EQ(seen.title, "Import de fichier mtf");
+  EXPECT_EQ(seen.icon, QMessageBox::Warning);
+  EXPECT_EQ(surface.ObjectCount(kPage), objects);
+  Quit(window);
+}
+
 }  // namespace
 }  // namespace pluvane
