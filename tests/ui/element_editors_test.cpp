@@ -49,26 +49,6 @@ class ElementEditors : public ::testing::Test {
   }
   void Undo() { QTest::keyClick(window_->view(), Qt::Key_Z, Qt::ControlModifier); }
 
-  // Types `text` into the cell (col, row) of the form's first grid with the
-  // keyboard, as a user does: the cell chosen, the keys, Enter.
-  static void TypeInto(FormWindow* form, int col, int row, const QString& text) {
-    GridTableView* table = form->Table(0);
-    table->setFocus();
-    table->setCurrentIndex(table->model()->index(row - 1, col - 1));
-    for (const QChar c : text) {
-      QWidget* focus = form->focusWidget() ? form->focusWidget() : table;
-      QTest::keyClicks(focus, QString(c));
-    }
-    QWidget* focus = form->focusWidget() ? form->focusWidget() : table;
-    QTest::keyClick(focus, Qt::Key_Return);
-    QApplication::processEvents();
-  }
-  static void Click(FormWindow* form, const char* command) {
-    QPushButton* button = form->Button(command);
-    ASSERT_NE(button, nullptr) << command;
-    QTest::mouseClick(button, Qt::LeftButton);
-  }
-
   // Opens the element's editor from the drawing, types the value into the
   // cell, validates with Ok, and returns the form's caption.
   QString EditAndValidate(const std::string& id, int col, int row, const QString& value,

@@ -7,6 +7,8 @@
 
 #include <QApplication>
 #include <QMessageBox>
+#include <QPushButton>
+#include <QTest>
 #include <QTimer>
 #include <filesystem>
 #include <functional>
@@ -15,6 +17,7 @@
 
 #include "foundation/test_files.h"
 #include "ui/form_window.h"
+#include "ui/grid_table_view.h"
 #include "ui/main_window.h"
 #include "ui/test_app.h"
 
@@ -99,14 +102,43 @@ class MessageAnswerer {
   std::vector<SeenMessage> seen_;
 };
 
+// Runs `step` on the next window of that class that shows as the modal one
+// (other than `after`).
+template <typename Window>
+void OnNextModal(std::function<void(Window*)> step, QWidget* after = nullptr) {
+  QTimer::singleShot(10, [step, after] {
+    auto* window = qobject_cast<Window*>(QApplication::activeModalWidget());
+    if (!window || window == after || !window->isVisible()) return OnNextModal<Window>(step, after);
+    step(window);
+  });
+}
+
 // Runs `step` on the next form window that shows as the modal one (other
 // than `after`).
 inline void OnNextForm(std::function<void(FormWindow*)> step, QWidget* after = nullptr) {
-  QTimer::singleShot(10, [step, after] {
-    auto* form = qobject_cast<FormWindow*>(QApplication::activeModalWidget());
-    if (!form || form == after || !form->isVisible()) return OnNextForm(step, after);
-    step(form);
-  });
+  OnNextModal<FormWindow>(std::move(step), after);
+}
+
+// Types `text` into the cell (col, row) of the form's first grid with the
+// keyboard, as a user does: the cell chosen, the keys, Enter.
+inline void TypeInto(FormWindow* form, int col, int row, const QString& text) {
+  GridTableView* table = form->Table(0);
+  table->setFocus();
+  table->setCurrentIndex(table->model()->index(row - 1, col - 1));
+  for (const QChar c : text) {
+    QWidget* focus = form->focusWidget() ? form->focusWidget() : table;
+    QTest::keyClicks(focus, QString(c));
+  }
+  QWidget* focus = form->focusWidget() ? form->focusWidget() : table;
+  QTest::keyClick(focus, Qt::Key_Return);
+  QApplication::processEvents();
+}
+
+// Clicks the form's button of that command.
+inline void Click(FormWindow* form, const char* command) {
+  QPushButton* button = form->Button(command);
+  ASSERT_NE(button, nullptr) << command;
+  QTest::mouseClick(button, Qt::LeftButton);
 }
 
 // The first load and the first activation of the window on the copy, with

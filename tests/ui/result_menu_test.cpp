@@ -18,16 +18,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// Waits for the next modal window of that class, then runs `step` on it.
-template <typename Window, typename Step>
-void OnNextModal(Step step) {
-  QTimer::singleShot(10, [step] {
-    auto* window = qobject_cast<Window*>(QApplication::activeModalWidget());
-    if (!window || !window->isVisible()) return OnNextModal<Window>(step);
-    step(window);
-  });
-}
-
 TEST(ResultMenu, EntriesFollowTheirFilesAndFlowsAreDrawn) {
   TestApp();
   AppFolder app;
