@@ -13,6 +13,7 @@
 #include "editors/section_import.h"
 #include "foundation/paths.h"
 #include "shell/application.h"
+#include "shell/cli_export.h"
 #include "shell/cli_network.h"
 #include "shell/cli_options.h"
 #include "shell/cli_rain.h"
@@ -214,6 +215,7 @@ std::vector<CliCommand> CoreCliCommands() {
        "                and writes the network to OUT.mtf (also when the import\n"
        "                was refused); prints the count imported\n",
        ImportRainCommand},
+      ExportCliCommand(),
   };
 }
 
