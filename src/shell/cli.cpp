@@ -13,6 +13,7 @@
 #include "editors/section_import.h"
 #include "foundation/paths.h"
 #include "shell/application.h"
+#include "shell/cli_export.h"
 #include "shell/cli_network.h"
 #include "shell/cli_obj_alpha.h"
 #include "shell/cli_options.h"
@@ -222,6 +223,7 @@ std::vector<CliCommand> CoreCliCommands() {
        "                the existing network DEST, overwriting those of the same Id,\n"
        "                and prints the count\n",
        CopyRecordsCommand},
+      ExportCliCommand(),
   };
 }
 

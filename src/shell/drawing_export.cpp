@@ -7,7 +7,7 @@ namespace pluvane {
 namespace {
 
 constexpr const char* kFilter =
-    "Fichier Svg|*.svg|Fichier Pdf|*.pdf|Fichier Png|*.png|Fichier Emf|*.emf";
+    "Fichier Svg|*.svg|Fichier Pdf|*.pdf|Fichier Png|*.png|Fichier Emf|*.emf|Fichier Wmf|*.wmf";
 
 }  // namespace
 
@@ -18,8 +18,10 @@ std::string MnuFi_Export_Emf(const AppState& state, UserInterface& ui) {
     SplitPath(state.NetworkFile, folder, name, base, extension);
     initial = JoinPath(folder, base + ".svg");
   }
-  const std::string path = ui.AskSaveFile(kExportDrawingTitle, kFilter, "svg", initial);
+  std::string path = ui.AskSaveFile(kExportDrawingTitle, kFilter, "svg", initial);
   if (path.empty()) return {};
+  // A name without extension gets the default one, whatever dialog gave it.
+  if (FileNameOf(path).find('.') == std::string::npos) path += ".svg";
   if (!ui.SaveDrawingPicture(path)) {
     ui.ShowMessage("Le dessin n'a pas pu être écrit dans le fichier :\r\n" + path,
                    kExportDrawingTitle, MessageIcon::kExclamation);

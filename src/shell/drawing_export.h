@@ -1,6 +1,7 @@
 // The export of the drawing as a picture (MnuFi_Export_Emf): the save dialog
 // of the old metafile export, then the picture written by the extension the
-// user gave (SVG, PDF or PNG; the old .emf and .wmf names get SVG).
+// user gave (SVG, PDF or PNG; the old .emf and .wmf names are kept and get
+// SVG content; a name without extension gets ".svg").
 #pragma once
 
 #include <string>

@@ -14,6 +14,7 @@
 #include "editors/section_export.h"
 #include "editors/section_import.h"
 #include "exchange/frm_export_obj_alpha.h"
+#include "exchange/export_commands.h"
 #include "shell/frm_impfile_dlg.h"
 #include "foundation/paths.h"
 #include "network/frm_bief_lst.h"
@@ -178,6 +179,27 @@ void MainWindow::BindCommands() {
        })},
       {"MnuFi_Import_Fond", after([this] { ImportBackground(); })},
       {"MnuFi_Export_Emf", [this] { MnuFi_Export_Emf(application_->state(), ui_); }},
+      // The text exports; the catchments' coordinates that an export puts
+      // right are one undo step.
+      {"MnuFi_Export_Txt_Nod", [this] {
+         if (NetworkLoaded(application_->state(), ui_)) {
+           MnuFi_Export_Txt_Nod(surface_, application_->state(), ui_);
+         }
+       }},
+      {"MnuFi_Export_Txt_App", after([this] {
+         if (!NetworkLoaded(application_->state(), ui_)) return;
+         UndoStep step(surface_, "Annuler : Export des apports");
+         MnuFi_Export_Txt_App(surface_, application_->state(), ui_, NewConsole(), ExportChooser());
+       })},
+      {"MnuFi_Export_Txt_Can", [this] {
+         if (NetworkLoaded(application_->state(), ui_)) {
+           MnuFi_Export_Txt_Can(surface_, application_->state(), ui_, NewConsole(),
+                                ExportChooser());
+         }
+       }},
+      {"MnuFi_Export_Mif_Nod", [this] { MnuFi_Export_Mif_Nod(application_->state(), ui_); }},
+      {"MnuFi_Export_Mif_Cana", [this] { MnuFi_Export_Mif_Cana(application_->state(), ui_); }},
+      {"MnuFi_Export_Dxf", [this] { MnuFi_Export_Dxf(ui_); }},
       {"mnuFile_Print", [this] { PrintDrawing(); }},
       {"mnuFile_PrtCfg", [this] { ask_page_setup(printer_); }},
       {"mnuPreference", [this] { OpenPreferences(); }},
@@ -464,6 +486,14 @@ void MainWindow::PrintDrawing() {
                     surface_.ViewHeight());
   const std::string error = pluvane::PrintDrawing(surface_, view, printer_, Folders());
   if (!error.empty()) ui_.ShowStatus(error);
+}
+
+// The chooser of the text exports, in its "export" mode.
+ChooseExportLines MainWindow::ExportChooser() {
+  return [this](const std::string& source, const std::string& list_file) {
+    FrmSelection form(ui_, "export", source, list_file);
+    ChooserWindow(this)(form);
+  };
 }
 
 // A new message console, in place of the former one.

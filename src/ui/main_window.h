@@ -18,6 +18,7 @@
 #include "network/frm_calage.h"
 #include "foundation/form_controller.h"
 #include "drawing/surface.h"
+#include "exchange/export_commands.h"
 #include "shell/application.h"
 #include "plot/plot_viewer.h"
 #include "shell/console_model.h"
@@ -102,6 +103,7 @@ class MainWindow : public QMainWindow {
   void PrintDrawing();
   void RunScenarioCommand(bool with_sidrel);
   Console& NewConsole();
+  ChooseExportLines ExportChooser();
   void RecapData();
   PictureFolders Folders() const;
   // The interaction modes: built with the window, their requests answered

@@ -23,6 +23,19 @@ TEST(DrawingExport, AsksWithTheOldTitleAndWritesThePicture) {
   EXPECT_EQ(ui.Statuses().back(), "Dessin exporté : /data/reseaux/Demo.pdf");
 }
 
+TEST(DrawingExport, TheOldMetafileNamesAreKeptAndANameWithoutExtensionGetsSvg) {
+  AppState state;
+  ScriptedUi ui;
+  ui.Queue("/data/plan.emf");
+  EXPECT_EQ(MnuFi_Export_Emf(state, ui), "/data/plan.emf");
+  ui.Queue("/data/plan.WMF");
+  EXPECT_EQ(MnuFi_Export_Emf(state, ui), "/data/plan.WMF");
+  ui.Queue("/data/plan");
+  EXPECT_EQ(MnuFi_Export_Emf(state, ui), "/data/plan.svg");
+  EXPECT_EQ(ui.SavedPictures(),
+            (std::vector<std::string>{"/data/plan.emf", "/data/plan.WMF", "/data/plan.svg"}));
+}
+
 TEST(DrawingExport, ACancelledDialogWritesNothing) {
   AppState state;
   ScriptedUi ui;
