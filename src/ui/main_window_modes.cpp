@@ -39,6 +39,7 @@ void MainWindow::ConnectInteraction() {
           [this](const QString& key) { RunWindowCommand(key.toStdString()); });
   connect(binder_, &InteractionBinder::Applied, this, &MainWindow::ShowArmedTool);
   commands_["mnuUtil_Vistrel"] = [this] { OpenVistrel(); };
+  BindDrawingCommands();
   // The rain libraries, each opened by the name of its menu entry.
   const auto rain = [this](const char* name) {
     return [this, name] {
