@@ -228,10 +228,14 @@ bool ShapeDrawing::PlaceDragged(int edit_mode, Point from, Point to) {
   UndoStep step(surface_, std::string("Annuler : ") + ShapeName(edit_mode));
   const int kind = edit_mode;  // the edit modes of shapes are their kinds
   if (surface_.AddObject(kind, from.x, from.y, to.x, to.y) <= 0) return false;
-  // Lines keep their two ends; arcs, pies and chords their start and end
-  // rays, through the corners pressed and released, so that the box holds
-  // both.
-  if (kind != kKindRectangle && kind != kKindEllipse) surface_.SetObjectPoints({from, to});
+  if (kind == kKindLine || kind == kKindDimension) {
+    surface_.SetObjectPoints({from, to});
+  } else if (kind == kKindArc || kind == kKindPie || kind == kKindChord) {
+    // The start and end rays: through the corner pressed and the next corner
+    // on its side, so that three quarters of the ellipse are drawn; the
+    // corner released closes the box.
+    surface_.SetObjectPoints({from, Point{to.x, from.y}, to});
+  }
   return true;
 }
 

@@ -120,8 +120,15 @@ TEST_F(ShapeDrawingTest, DraggedShapesTakeTheirKindAndBox) {
     EXPECT_EQ(shape.kind, surface.EditMode()) << menu;
     EXPECT_EQ(shape.box, (Box{1000, 3000, 4000, 5000})) << menu;
   }
-  // Arcs keep the corners pressed and released as their rays.
   EXPECT_EQ(Count(), 6);
+  // An arc runs from the corner pressed to the next corner on its side; the
+  // corner released closes its box. A dimension line keeps its two ends.
+  int n = surface.NextObjectNumber(0);
+  n = surface.NextObjectNumber(surface.NextObjectNumber(n));
+  EXPECT_EQ(ShapeOf(n).kind, kKindArc);
+  EXPECT_EQ(ShapeOf(n).points, (std::vector<Point>{{4000, 3000}, {1000, 3000}, {1000, 5000}}));
+  EXPECT_EQ(ShapeOf(Last()).points, (std::vector<Point>{{4000, 3000}, {1000, 5000}}));
+  EXPECT_TRUE(ShapeOf(surface.NextObjectNumber(0)).points.empty());
 }
 
 TEST_F(ShapeDrawingTest, AClickWithoutDragPlacesNothing) {
