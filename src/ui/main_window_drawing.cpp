@@ -5,6 +5,8 @@
 #include "network/bulk_maintenance.h"
 #include "drawing/surface_guards.h"
 #include "shell/drawing_attributes.h"
+#include "shell/frm_param_reseau.h"
+#include "shell/menu_state.h"
 #include "shell/interaction_modes.h"
 #include "ui/main_window.h"
 
@@ -78,6 +80,14 @@ void MainWindow::BindDrawingCommands() {
   commands_["myUNGROUP"] = attribute("myUNGROUP");
   commands_["myFRONT"] = attribute("myFRONT");
   commands_["myBACK"] = attribute("myBACK");
+  commands_["mnuMyUtil_SetParamReg"] = [this] {
+    if (!NetworkLoaded(application_->state(), ui_)) return;
+    {
+      UndoStep step(surface_, "Annuler : Set Param regionaux");
+      mnuMyUtil_SetParamReg(surface_, application_->state(), ui_);
+    }
+    AfterCommand();
+  };
   // Turning texts with the mouse.
   commands_["mnuPopUp_txt_Rotation"] = [this] { binder_->ToolClick(kModeRotate); };
   commands_["TxtFormat_ModeOri"] = [this] { binder_->ToolClick(kModeRotate); };

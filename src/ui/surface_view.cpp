@@ -323,7 +323,7 @@ void SurfaceView::PaintRubberShape(QPainter& painter) {
         return std::atan2(box.center().y() - p.y(), p.x() - box.center().x()) * 180 / M_PI;
       };
       const double start = angle(line.front());
-      double sweep = angle(pointer_) - start;
+      double sweep = angle(QPointF(pointer_.x(), line.front().y())) - start;
       if (sweep <= 0) sweep += 360;
       const int a = static_cast<int>(std::lround(start * 16));
       const int s = static_cast<int>(std::lround(sweep * 16));

@@ -128,8 +128,12 @@ TEST_F(DrawingTools, EachDraggedShapeIsPlacedWhereDraggedAndUndone) {
     const Shape& shape = ShapeOf(Last());
     EXPECT_EQ(shape.kind, kind) << menu;
     EXPECT_EQ(shape.box, BoxOf(LogicOf(a), LogicOf(b))) << menu;
-    if (kind != kKindRectangle && kind != kKindEllipse) {
+    if (kind == kKindLine || kind == kKindDimension) {
       EXPECT_EQ(shape.points, (std::vector<Point>{LogicOf(a), LogicOf(b)})) << menu;
+    } else if (kind != kKindRectangle && kind != kKindEllipse) {
+      EXPECT_EQ(shape.points, (std::vector<Point>{LogicOf(a), Point{LogicOf(b).x, LogicOf(a).y},
+                                                  LogicOf(b)}))
+          << menu;
     }
     Key(Qt::Key_Z, Qt::ControlModifier);
     EXPECT_EQ(Count(), before) << menu;
