@@ -8,6 +8,7 @@
 #include <QColorDialog>
 #include <QInputDialog>
 #include <QMenu>
+#include <QPushButton>
 #include <QMouseEvent>
 #include <QTest>
 #include <QTimer>
@@ -16,9 +17,11 @@
 #include <memory>
 
 #include "drawing/surface_guards.h"
+#include "drawing/surface_helpers.h"
 #include "foundation/numbers.h"
 #include "foundation/test_files.h"
 #include "ui/main_window.h"
+#include "ui/grid_table_view.h"
 #include "ui/main_window_fixture.h"
 #include "ui/test_app.h"
 
@@ -268,6 +271,30 @@ TEST_F(DrawingTools, TheRightButtonOffersTheDrawingsActions) {
   menu->actions().at(16)->trigger();
   menu->close();
   EXPECT_EQ(surface().EditMode(), kKindRectangle);
+}
+
+TEST_F(DrawingTools, TheSettingsToolOpensTheNetworksSettingsAndOkWritesThem) {
+  const auto duration = [this] {
+    CursorKeeper keep(surface());
+    return FindObject(surface(), "Id", "ParamReseau") > 0 ? surface().ObjTag("CalcDuree")
+                                                           : std::string("?");
+  };
+  const std::string before = duration();
+  ASSERT_NE(before, "240");
+  QString title;
+  OnNextForm([&title](FormWindow* form) {
+    title = form->windowTitle();
+    QAbstractItemModel* model = form->Table(0)->model();
+    model->setData(model->index(0, 0), "240", Qt::EditRole);
+    QTest::mouseClick(form->Button("cmdOk"), Qt::LeftButton);
+  });
+  window_->ToolClicked("X_PARAM");
+  EXPECT_EQ(title.toStdString(), "Paramétrage du réseau");
+  EXPECT_EQ(window_->application().state().CalcDuree, 240);
+  EXPECT_EQ(duration(), "240");
+  // One step, undone at once.
+  Key(Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(duration(), before);
 }
 
 // A small drawing made with the tools, for the user guide.
