@@ -52,7 +52,7 @@ std::string Coordinate(double value) { return NumToText(std::round(value * 100) 
 }  // namespace
 
 MainInteraction::MainInteraction(Surface& surface, AppState& state, UserInterface& ui)
-    : surface_(surface), state_(state), ui_(ui) {}
+    : surface_(surface), state_(state), ui_(ui), drawing_(surface, state, ui) {}
 
 int MainInteraction::CursorNumber() const {
   return surface_.MousePointerKind() == kCustomPointer ? surface_.MouseIcon() : 0;
@@ -75,6 +75,7 @@ InteractionResult MainInteraction::Finish(InteractionResult result) const {
       surface_.ObjectShape(placement_.FirstEnd) != nullptr) {
     result.rubber_start = ObjectCentre(surface_, placement_.FirstEnd);
   }
+  if (Drawing()) result.rubber_shape = drawing_.Rubber();
   return result;
 }
 
@@ -87,6 +88,7 @@ void MainInteraction::Reset() {
   placement_.PendingCalagePoint.clear();
   CancelPendingLink(placement_);
   placement_.CancelRelease = false;
+  drawing_.Cancel();
   surface_.SetEditMode(kEditSelection);
   surface_.SetMousePointerKind(0);
   surface_.SetMouseIcon(0);
@@ -103,7 +105,10 @@ InteractionResult MainInteraction::ResetInteraction() {
 
 void MainInteraction::ArmMode(std::string_view mode) {
   state_.CurrentMode = std::string(mode);
-  if (mode == kModeRotate) surface_.SetEditMode(kEditRotation);
+  if (mode == kModeRotate) {
+    surface_.SetEditMode(kEditRotation);
+    drawing_.SetTextsOnly(true);
+  }
   const ModeEntry* entry = ModeEntryOf(mode);
   if (entry == nullptr) return;
   if (entry->cursor > 0) {
@@ -204,10 +209,17 @@ InteractionResult MainInteraction::Press(int button, int shift, int hit, double 
   placement_.HitObject = NodeBeneath(hit > 0 ? hit : 0, x, y);
   placement_.PointerX = RoundLong(x);
   placement_.PointerY = RoundLong(y);
+  last_x_ = x;
+  last_y_ = y;
   placement_.CancelRelease = false;
   placement_.TargetNode = 0;
   if (placement_.HitObject && IsNode(surface_, placement_.HitObject)) {
     placement_.TargetNode = placement_.HitObject;
+  }
+  if (Drawing()) {
+    if (drawing_.Press(button, placement_.HitObject, x, y)) result.refresh_menus = true;
+    result.repaint = true;
+    return Finish(result);
   }
   PressOnMode(button, placement_.HitObject, result);
   return Finish(result);
@@ -263,6 +275,8 @@ void MainInteraction::PressOnMode(int button, int hit, InteractionResult& result
 }
 
 InteractionResult MainInteraction::Move(double x, double y, int hit) {
+  last_x_ = x;
+  last_y_ = y;
   const Calibration& c = state_.calibration;
   ui_.ShowPanel("sbrXY",
                 Coordinate(LogicToUserX(c, x, y)) + ", " + Coordinate(LogicToUserY(c, x, y)));
@@ -295,7 +309,15 @@ InteractionResult MainInteraction::Release(int button, int shift, int drawn_obje
   if (button == kRightButton && mode != kReachMode && surface_.ObjectCount(kSelection) > 0) {
     RightRelease(result);
   }
-  if (mode != kModeZoomWindow && !placement_.CancelRelease) {
+  // With no mode, the right button offers the drawing's actions, unless the
+  // texts' pop-up or the element's data answered it.
+  if (button == kRightButton && mode.empty() && result.popup.empty() &&
+      !(data_access_ && surface_.ObjectCount(kSelection) == 1)) {
+    result.popup = "myActionPopup";
+  }
+  if (Drawing()) {
+    if (drawing_.Release(button, last_x_, last_y_)) result.refresh_menus = true;
+  } else if (mode != kModeZoomWindow && !placement_.CancelRelease) {
     ReleaseOnMode(button, shift, drawn_object, result);
   }
   if (mode.empty() && button == kLeftButton && placement_.HitObject > 0) {
@@ -304,6 +326,43 @@ InteractionResult MainInteraction::Release(int button, int shift, int drawn_obje
     if (surface_.CurrentObject() == placement_.HitObject) ui_.ShowStatus(surface_.ObjTag("libell"));
   }
   surface_.Refresh();
+  result.repaint = true;
+  return Finish(result);
+}
+
+InteractionResult MainInteraction::ReleaseAt(int button, int shift, double x, double y) {
+  last_x_ = x;
+  last_y_ = y;
+  return Release(button, shift);
+}
+
+InteractionResult MainInteraction::DoubleClick(double x, double y) {
+  last_x_ = x;
+  last_y_ = y;
+  InteractionResult result;
+  if (Drawing() && drawing_.DoubleClick()) {
+    result.repaint = true;
+    result.refresh_menus = true;
+  }
+  return Finish(result);
+}
+
+bool MainInteraction::Drawing() const {
+  const std::string& mode = state_.CurrentMode;
+  return (mode.empty() || mode == kModeRotate) && IsDrawingEditMode(surface_.EditMode());
+}
+
+std::optional<InteractionResult> MainInteraction::DrawingTool(const std::string& menu) {
+  const std::optional<int> edit_mode = DrawingEditModeOf(menu);
+  if (!edit_mode) return std::nullopt;
+  Reset();
+  surface_.SetEditMode(*edit_mode);
+  drawing_.SetTextsOnly(false);
+  if (menu == "mnuSelectEditMode") surface_.SetSelectionAllowed(-1);
+  if (*edit_mode == kEditView) surface_.SetSelectionEnabled(false);
+  const std::string status = DrawingToolStatus(*edit_mode);
+  if (!status.empty()) ui_.ShowStatus(status);
+  InteractionResult result;
   result.repaint = true;
   return Finish(result);
 }
@@ -435,7 +494,9 @@ InteractionResult MainInteraction::Key(int code, int shift) {
       DeleteSelected(result);
       break;
     case MainKey::kEnter:
-      if (mode == kReachMode) {
+      if (Drawing() && drawing_.Pending()) {
+        if (drawing_.Enter()) result.refresh_menus = true;
+      } else if (mode == kReachMode) {
         EndReachCreation(surface_, state_, ui_, show_modal_);
         Reset();
         result.refresh_menus = true;

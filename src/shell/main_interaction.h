@@ -16,6 +16,7 @@
 #include "network/create_mode.h"
 #include "drawing/surface.h"
 #include "shell/app_state.h"
+#include "shell/shape_drawing.h"
 
 namespace pluvane {
 
@@ -36,6 +37,8 @@ struct InteractionResult {
   // The logical start of the rubber line of a link being drawn, none when no
   // link is pending.
   std::optional<std::pair<double, double>> rubber_start;
+  // The shape being drawn with a drawing tool, none when none is.
+  std::optional<RubberShape> rubber_shape;
 };
 
 class MainInteraction {
@@ -67,6 +70,10 @@ class MainInteraction {
   // Arms a creation key from a form (frmCalage's New): "CREATE OBJ" with the
   // key and the point the click will place; an empty key disarms.
   InteractionResult ArmCreationKey(std::string_view key, const std::string& point_id = "");
+  // A drawing tool of the menus (mnuSelect...Mode, MnuPlace..., mnuPlaceLink,
+  // mnuUtil_PlaceTxt, the shapes of the actions pop-up): the reset, then its
+  // edit mode. False for a name that is not a drawing tool.
+  std::optional<InteractionResult> DrawingTool(const std::string& menu);
   // Status cleared, bubble hidden and empty, no mode nor key, edit mode 11,
   // cursor 0, selection enabled, SelectionAllowed 23.
   InteractionResult ResetInteraction();
@@ -78,6 +85,10 @@ class MainInteraction {
   InteractionResult Move(double x, double y, int hit = 0);
   // `drawn_object`: the shape the surface has just drawn, if any.
   InteractionResult Release(int button, int shift, int drawn_object = 0);
+  // The same where the button was released, at (x, y).
+  InteractionResult ReleaseAt(int button, int shift, double x, double y);
+  // A double click on the drawing: ends a polyline, a polygon or a curve.
+  InteractionResult DoubleClick(double x, double y);
   // The zoom rectangle drawn in "ZOOMF".
   InteractionResult ZoomRectangle(double left, double top, double right, double bottom);
   // A key on the drawing, with its old code.
@@ -100,6 +111,8 @@ class MainInteraction {
   void DeleteSelected(InteractionResult& result);
   void MoveSelection(int dx, int dy);
   std::string TagsText(int object);
+  // Whether the mouse draws with a drawing tool (no mode, or the texts' rotation).
+  bool Drawing() const;
 
   // Link editing is called from these.
   void OnBreakRelease(InteractionResult& result);
@@ -119,6 +132,8 @@ class MainInteraction {
   bool link_arrows_ = false;
   bool bubble_visible_ = false;
   std::string bubble_text_;
+  ShapeDrawing drawing_;
+  double last_x_ = 0, last_y_ = 0;  // where the pointer was last seen
 };
 
 }  // namespace pluvane

@@ -33,6 +33,8 @@ InteractionBinder::InteractionBinder(SurfaceView& view, MainInteraction& interac
   connect(&view_, &SurfaceView::MouseReleased, this, &InteractionBinder::OnReleased);
   connect(&view_, &SurfaceView::KeyPressed, this, &InteractionBinder::OnKey);
   connect(&view_, &SurfaceView::ZoomRectangle, this, &InteractionBinder::OnZoomRectangle);
+  connect(&view_, &SurfaceView::DoubleClicked, this,
+          [this](int, double x, double y) { Apply(interaction_.DoubleClick(x, y)); });
   ApplyCursor(interaction_.CursorNumber());
 }
 
@@ -56,7 +58,7 @@ void InteractionBinder::OnMoved(int, int, double x, double y) {
 
 void InteractionBinder::OnReleased(int button, int shift, double x, double y) {
   pointer_ = QPointF(view_.LogicToClientX(x), view_.LogicToClientY(y));
-  Apply(interaction_.Release(button, shift));
+  Apply(interaction_.ReleaseAt(button, shift, x, y));
 }
 
 void InteractionBinder::OnKey(int key, int shift) { Apply(interaction_.Key(key, shift)); }
@@ -98,6 +100,13 @@ void InteractionBinder::Apply(const InteractionResult& result) {
   } else {
     bubble_->hide();
     bubble_->clear();
+  }
+  if (result.rubber_shape) {
+    std::vector<QPointF> points;
+    for (const auto& [x, y] : result.rubber_shape->points) points.emplace_back(x, y);
+    view_.SetRubberShape(result.rubber_shape->kind, std::move(points));
+  } else if (view_.HasRubberShape()) {
+    view_.ClearRubberShape();
   }
   if (result.rubber_start) {
     view_.SetRubberLine(result.rubber_start->first, result.rubber_start->second);

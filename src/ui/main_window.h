@@ -109,6 +109,8 @@ class MainWindow : public QMainWindow {
   // The interaction modes: built with the window, their requests answered
   // by the window (main_window_modes.cpp).
   void ConnectInteraction();
+  // The drawing tools, attributes and pop-ups (main_window_drawing.cpp).
+  void BindDrawingCommands();
   void OpenNamedForm(const std::string& form, int object);
   void OpenCalage();
   void RunWindowCommand(const std::string& key);

@@ -10,6 +10,7 @@
 #include "network/frm_info_calage.h"
 #include "rain/rain_forms.h"
 #include "results/view_curve_file.h"
+#include "shell/frm_param_reseau.h"
 #include "shell/interaction_modes.h"
 #include "shell/main_menus.h"
 #include "shell/menu_state.h"
@@ -39,6 +40,7 @@ void MainWindow::ConnectInteraction() {
           [this](const QString& key) { RunWindowCommand(key.toStdString()); });
   connect(binder_, &InteractionBinder::Applied, this, &MainWindow::ShowArmedTool);
   commands_["mnuUtil_Vistrel"] = [this] { OpenVistrel(); };
+  BindDrawingCommands();
   // The rain libraries, each opened by the name of its menu entry.
   const auto rain = [this](const char* name) {
     return [this, name] {
@@ -121,6 +123,9 @@ void MainWindow::OpenCalage() {
 void MainWindow::RunWindowCommand(const std::string& key) {
   if (key == "MDSAVE") {
     RunMenu("mnuFile_Save");
+  } else if (key == "X_PARAM") {
+    FrmParamReseau form(surface_, application_->state(), ui_);
+    OpenForm(form);
   } else {
     ui_.ShowStatus(kNotAvailable);
   }

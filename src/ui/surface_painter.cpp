@@ -258,8 +258,10 @@ void SurfacePainter::PaintShape(QPainter& painter, const Shape& shape) {
       break;
     case kKindLine:
     case kKindPolyline:
-    case kKindDimension:
       painter.drawPolyline(vertices);
+      break;
+    case kKindDimension:
+      PaintDimension(painter, shape, vertices);
       break;
     case kKindLink:
       painter.drawPolyline(vertices);
@@ -279,6 +281,40 @@ void SurfacePainter::PaintShape(QPainter& painter, const Shape& shape) {
       painter.drawRect(box);
       break;
   }
+}
+
+// A dimension line: the line, an arrow head at each end, and its length in
+// logical units above its middle, along it.
+void SurfacePainter::PaintDimension(QPainter& painter, const Shape& shape,
+                                    const QPolygonF& line) {
+  painter.drawPolyline(line);
+  if (line.size() < 2) return;
+  const QPointF a = line.front(), b = line.back();
+  const double length = QLineF(a, b).length();
+  if (length < 4) return;
+  const QPointF along = (b - a) / length;
+  const QPointF across(-along.y(), along.x());
+  constexpr double kHead = 8;
+  painter.save();
+  painter.setBrush(ColorOfBgr(shape.line_color));
+  painter.drawPolygon(QPolygonF({a, a + along * kHead + across * (kHead / 3),
+                                 a + along * kHead - across * (kHead / 3)}));
+  painter.drawPolygon(QPolygonF({b, b - along * kHead + across * (kHead / 3),
+                                 b - along * kHead - across * (kHead / 3)}));
+  double dx = 0, dy = 0;
+  if (shape.points.size() >= 2) {
+    dx = static_cast<double>(shape.points.back().x) - shape.points.front().x;
+    dy = static_cast<double>(shape.points.back().y) - shape.points.front().y;
+  }
+  const QString label = QString::number(std::lround(std::hypot(dx, dy)));
+  double angle = std::atan2(b.y() - a.y(), b.x() - a.x()) * 180 / std::numbers::pi;
+  if (angle > 90 || angle < -90) angle += 180;  // never upside down
+  painter.translate((a + b) / 2);
+  painter.rotate(angle);
+  painter.setPen(ColorOfBgr(shape.line_color));
+  const QFontMetricsF metrics(painter.font(), painter.device());
+  painter.drawText(QPointF(-metrics.horizontalAdvance(label) / 2, -metrics.descent() - 2), label);
+  painter.restore();
 }
 
 // Sizes of texts: negative in logical units, so that they follow the zoom,

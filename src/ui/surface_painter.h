@@ -58,6 +58,7 @@ class SurfacePainter {
   void PaintShape(QPainter& painter, const Shape& shape);
   void PaintText(QPainter& painter, const Shape& shape, const QRectF& box);
   void PaintMarkers(QPainter& painter, const Shape& shape, const QPolygonF& line);
+  void PaintDimension(QPainter& painter, const Shape& shape, const QPolygonF& line);
   void PaintSelection(QPainter& painter, const Shape& shape);
   QPen PenOf(const Shape& shape) const;
   double PixelsOf(double size) const;  // negative sizes are logical units

@@ -149,6 +149,18 @@ void SurfaceView::ClearRubberLine() {
   viewport()->update();
 }
 
+void SurfaceView::SetRubberShape(int kind, std::vector<QPointF> points) {
+  rubber_kind_ = kind;
+  rubber_points_ = std::move(points);
+  viewport()->update();
+}
+
+void SurfaceView::ClearRubberShape() {
+  rubber_kind_ = 0;
+  rubber_points_.clear();
+  viewport()->update();
+}
+
 void SurfaceView::ZoomAbout(QPointF client, double factor) {
   if (!(factor > 0)) return;
   const ViewTransform t = Transform();
@@ -271,6 +283,7 @@ void SurfaceView::PaintOverlay(QPainter& painter) {
     for (const QPointF& p : highlight_) line << t.ToClient(p.x(), p.y());
     painter.drawPolyline(line);
   }
+  if (rubber_kind_ != 0 && !rubber_points_.empty()) PaintRubberShape(painter);
   if (rubber_start_) {
     const ViewTransform t = Transform();
     painter.setPen(QPen(Qt::black, 0, Qt::DashLine));
@@ -282,6 +295,51 @@ void SurfaceView::PaintOverlay(QPainter& painter) {
       painter.drawLine(start, pointer_);
     }
   }
+}
+
+// The shape being drawn, dashed, from its points to the pointer: dragged
+// shapes in the box of the press and the pointer, the others through their
+// vertices.
+void SurfaceView::PaintRubberShape(QPainter& painter) {
+  const ViewTransform t = Transform();
+  painter.save();
+  painter.setPen(QPen(Qt::black, 0, Qt::DashLine));
+  painter.setBrush(Qt::NoBrush);
+  QPolygonF line;
+  for (const QPointF& p : rubber_points_) line << t.ToClient(p.x(), p.y());
+  line << pointer_;
+  const QRectF box = QRectF(line.front(), pointer_).normalized();
+  switch (rubber_kind_) {
+    case kKindRectangle:
+      painter.drawRect(box);
+      break;
+    case kKindEllipse:
+      painter.drawEllipse(box);
+      break;
+    case kKindArc:
+    case kKindPie:
+    case kKindChord: {
+      const auto angle = [&box](QPointF p) {
+        return std::atan2(box.center().y() - p.y(), p.x() - box.center().x()) * 180 / M_PI;
+      };
+      const double start = angle(line.front());
+      double sweep = angle(QPointF(pointer_.x(), line.front().y())) - start;
+      if (sweep <= 0) sweep += 360;
+      const int a = static_cast<int>(std::lround(start * 16));
+      const int s = static_cast<int>(std::lround(sweep * 16));
+      if (rubber_kind_ == kKindArc) painter.drawArc(box, a, s);
+      if (rubber_kind_ == kKindPie) painter.drawPie(box, a, s);
+      if (rubber_kind_ == kKindChord) painter.drawChord(box, a, s);
+      break;
+    }
+    case kKindPolygon:
+      painter.drawPolygon(line);
+      break;
+    default:
+      painter.drawPolyline(line);
+      break;
+  }
+  painter.restore();
 }
 
 void SurfaceView::StartGesture(QMouseEvent* event) {
@@ -365,7 +423,7 @@ void SurfaceView::mousePressEvent(QMouseEvent* event) {
 
 void SurfaceView::mouseMoveEvent(QMouseEvent* event) {
   pointer_ = event->position();
-  if (gesture_ != Gesture::kNone || rubber_start_) viewport()->update();
+  if (gesture_ != Gesture::kNone || rubber_start_ || rubber_kind_ != 0) viewport()->update();
   emit MouseMoved(ButtonCode(event->buttons()), ShiftCode(event->modifiers()),
                   ClientToLogicX(pointer_.x()), ClientToLogicY(pointer_.y()));
 }

@@ -70,6 +70,13 @@ class SurfaceView : public QAbstractScrollArea {
   void SetRubberBox(double x, double y);
   void ClearRubberLine();
   bool HasRubberLine() const { return rubber_start_.has_value(); }
+  // A shape being drawn, of an object kind, through logical points, the
+  // pointer being its last point.
+  void SetRubberShape(int kind, std::vector<QPointF> points);
+  void ClearRubberShape();
+  bool HasRubberShape() const { return rubber_kind_ != 0; }
+  int RubberShapeKind() const { return rubber_kind_; }
+  const std::vector<QPointF>& RubberShapePoints() const { return rubber_points_; }
 
   // A line drawn over the drawing through logical points (a reach chosen in
   // its list), in its colour (blue in the high byte), pen width (negative:
@@ -120,6 +127,7 @@ class SurfaceView : public QAbstractScrollArea {
   void StartGesture(QMouseEvent* event);
   void EndGesture();
   void PaintOverlay(QPainter& painter);
+  void PaintRubberShape(QPainter& painter);
   QRectF GestureRect() const;
 
   Surface& surface_;
@@ -136,6 +144,8 @@ class SurfaceView : public QAbstractScrollArea {
   QPen highlight_pen_;
   double highlight_width_ = 0;
   bool rubber_box_ = false;
+  int rubber_kind_ = 0;
+  std::vector<QPointF> rubber_points_;  // logical
 };
 
 }  // namespace pluvane

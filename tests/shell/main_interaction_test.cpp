@@ -306,7 +306,8 @@ TEST_F(MainInteractionTest, RightReleaseOnTextsOpensTheirPopup) {
   EXPECT_EQ(Click(text, 50, 50, kRight).popup, "mnuPopUp_txt");
   const int node = Node(5000, 5000);
   Select(node);
-  EXPECT_EQ(Click(node, 5000, 5000, kRight).popup, "");
+  // A selection that is not only texts gets the drawing's actions.
+  EXPECT_EQ(Click(node, 5000, 5000, kRight).popup, "myActionPopup");
 }
 
 TEST_F(MainInteractionTest, RightClickDataAccessToggles) {

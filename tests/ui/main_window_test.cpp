@@ -59,8 +59,15 @@ TEST(MainWindow, EveryMenuItemExistsAndTheUnbuiltOnesSaySo) {
   }
   EXPECT_EQ(window.Action("mnuFile")->text(), "&Fichier");
   EXPECT_EQ(window.Action("mnuFile_SaveAs")->text(), "S&auvegarder sous...");
-  window.RunMenu("mnuMyUtil_Down");
+  window.RunMenu("mnuMyUtil_Tst");
   EXPECT_EQ(window.panels().Status()->text(), "Fonction non disponible dans cette version.");
+  // A built one does its work: here it asks for a selection first.
+  {
+    MessageAnswerer answers;
+    window.RunMenu("mnuMyUtil_Down");
+    ASSERT_EQ(answers.seen().size(), 1u);
+    EXPECT_EQ(answers.seen()[0].text.toStdString(), "Les objets doivent être sélectionnés !");
+  }
   Quit(window);
 }
 
