@@ -68,6 +68,8 @@ ToolBinding ToolBindingOf(std::string_view key) {
   if (upper == "X_BVSIM") return {ToolAction::kOpenBand, "RESO_CREATE_BV_S"};
   if (upper == "X_CALAGE") return {ToolAction::kOpenForm, "frmCalage"};
   if (upper == "X_PARAM") return {ToolAction::kWindow, upper};
+  // The radius of action has no creation pair: its circle is drawn.
+  if (upper == "X_RAYON") return {ToolAction::kCreate, upper};
   if (NextCreationPair(upper)) return {ToolAction::kCreate, upper};
   return {};
 }

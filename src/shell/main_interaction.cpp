@@ -29,6 +29,7 @@ namespace {
 
 // MousePointerKind of a cursor taken from the picture library (MouseIcon).
 constexpr int kCustomPointer = 99;
+constexpr std::string_view kRayonKey = "X_RAYON";
 // Arrow steps of the selection, in logical units.
 constexpr int kArrowStep = 10;
 constexpr int kArrowStepShift = 100;
@@ -155,6 +156,12 @@ InteractionResult MainInteraction::ArmCreationKey(std::string_view key,
   state_.CurrentMode = kModeCreate;
   ArmCreation(placement_, key);
   placement_.PendingCalagePoint = point_id;
+  if (key == kRayonKey) {
+    surface_.SetEditMode(kEditEllipse);
+    ui_.ShowStatus(
+        "Rayon d'action : tirez du coin au coin opposé en tenant la touche Maj pour tracer un "
+        "cercle.");
+  }
   const int cursor = CursorNumberOfKey(key);
   if (cursor > 0) {
     surface_.SetMousePointerKind(kCustomPointer);
@@ -316,7 +323,15 @@ InteractionResult MainInteraction::Release(int button, int shift, int drawn_obje
     result.popup = "myActionPopup";
   }
   if (Drawing()) {
-    if (drawing_.Release(button, last_x_, last_y_)) result.refresh_menus = true;
+    const bool rayon = DrawingRayon();
+    // The circle and its tags, or the refused ellipse, are one step.
+    std::optional<UndoStep> step;
+    if (rayon) step.emplace(surface_, "Annuler : Rayon d'action");
+    drawing_.SetSquare(rayon && (shift & 1));
+    if (drawing_.Release(button, last_x_, last_y_)) {
+      result.refresh_menus = true;
+      if (rayon) ReleaseOnMode(button, shift, drawing_.LastPlaced(), result);
+    }
   } else if (mode != kModeZoomWindow && !placement_.CancelRelease) {
     ReleaseOnMode(button, shift, drawn_object, result);
   }
@@ -349,7 +364,12 @@ InteractionResult MainInteraction::DoubleClick(double x, double y) {
 
 bool MainInteraction::Drawing() const {
   const std::string& mode = state_.CurrentMode;
-  return (mode.empty() || mode == kModeRotate) && IsDrawingEditMode(surface_.EditMode());
+  return (mode.empty() || mode == kModeRotate || DrawingRayon()) &&
+         IsDrawingEditMode(surface_.EditMode());
+}
+
+bool MainInteraction::DrawingRayon() const {
+  return state_.CurrentMode == kModeCreate && placement_.CreationKey == kRayonKey;
 }
 
 std::optional<InteractionResult> MainInteraction::DrawingTool(const std::string& menu) {

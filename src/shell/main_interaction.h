@@ -113,6 +113,8 @@ class MainInteraction {
   std::string TagsText(int object);
   // Whether the mouse draws with a drawing tool (no mode, or the texts' rotation).
   bool Drawing() const;
+  // Drawing the circle of the radius of action, in the creation mode.
+  bool DrawingRayon() const;
 
   // Link editing is called from these.
   void OnBreakRelease(InteractionResult& result);

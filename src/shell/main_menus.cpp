@@ -175,6 +175,7 @@ const std::vector<ToolItem>& ToolBands() {
       {"RESO_CREATE", "X_CLAV", "Placer Exutoire de réseau"},
       {"RESO_CREATE", "X_PLU", "Pluviographe"},
       {"RESO_CREATE", "X_MARK", "&marquage de sortie"},
+      {"RESO_CREATE", "X_RAYON", "Rayon d'action de la pluie projet"},
       {"RESO_CREATE_BV_C", "X_BV", "Bassin Versant anodal"},
       {"RESO_CREATE_BV_C", "X_ROUT", "Routage d'hydrogramme des BV"},
       {"RESO_CREATE_BV_C", "X_HYBV", "&Exutoire de BV"},

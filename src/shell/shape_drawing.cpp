@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdlib>
 #include <cmath>
 #include <numbers>
 
@@ -198,8 +199,16 @@ bool ShapeDrawing::Release(int button, double x, double y) {
   if (IsDraggedMode(mode_)) {
     const int mode = mode_;
     const Point from = points_.front();
+    Point to = ToPoint(x, y);
+    if (square_) {
+      const std::int64_t dx = static_cast<std::int64_t>(to.x) - from.x;
+      const std::int64_t dy = static_cast<std::int64_t>(to.y) - from.y;
+      const std::int64_t side = std::max(std::llabs(dx), std::llabs(dy));
+      to = Point{static_cast<std::int32_t>(from.x + (dx < 0 ? -side : side)),
+                 static_cast<std::int32_t>(from.y + (dy < 0 ? -side : side))};
+    }
     Cancel();
-    return PlaceDragged(mode, from, ToPoint(x, y));
+    return PlaceDragged(mode, from, to);
   }
   if (mode_ == kEditText) {
     const Point at = points_.front();
@@ -227,7 +236,8 @@ bool ShapeDrawing::PlaceDragged(int edit_mode, Point from, Point to) {
   CursorKeeper keep(surface_);
   UndoStep step(surface_, std::string("Annuler : ") + ShapeName(edit_mode));
   const int kind = edit_mode;  // the edit modes of shapes are their kinds
-  if (surface_.AddObject(kind, from.x, from.y, to.x, to.y) <= 0) return false;
+  last_placed_ = surface_.AddObject(kind, from.x, from.y, to.x, to.y);
+  if (last_placed_ <= 0) return false;
   if (kind == kKindLine || kind == kKindDimension) {
     surface_.SetObjectPoints({from, to});
   } else if (kind == kKindArc || kind == kKindPie || kind == kKindChord) {

@@ -89,6 +89,10 @@ class ShapeDrawing {
   bool Enter();
   // Turns only texts (the texts' pop-up), or every object that can turn.
   void SetTextsOnly(bool texts_only) { texts_only_ = texts_only; }
+  // Dragged boxes square, of the larger side (a circle for the radius of action).
+  void SetSquare(bool square) { square_ = square; }
+  // The object that the last placement made.
+  int LastPlaced() const { return last_placed_; }
 
   std::optional<RubberShape> Rubber() const;
 
@@ -112,6 +116,8 @@ class ShapeDrawing {
   double centre_x_ = 0, centre_y_ = 0;
   double start_x_ = 0, start_y_ = 0;
   bool texts_only_ = false;
+  bool square_ = false;
+  int last_placed_ = 0;
 };
 
 }  // namespace pluvane

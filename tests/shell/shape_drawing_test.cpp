@@ -131,6 +131,37 @@ TEST_F(ShapeDrawingTest, DraggedShapesTakeTheirKindAndBox) {
   EXPECT_TRUE(ShapeOf(surface.NextObjectNumber(0)).points.empty());
 }
 
+// The radius of action of the design storms is a circle drawn on the plan:
+// its tool arms the creation with the ellipse; Shift keeps the drag square.
+TEST_F(ShapeDrawingTest, TheRadiusOfActionIsACircleDrawnWithShift) {
+  interaction.ToolClick("X_RAYON");
+  EXPECT_EQ(state.CurrentMode, "CREATE OBJ");
+  EXPECT_EQ(surface.EditMode(), kEditEllipse);
+  EXPECT_EQ(ui.Statuses().back(),
+            "Rayon d'action : tirez du coin au coin opposé en tenant la touche Maj pour tracer "
+            "un cercle.");
+  // Without Shift the drag is an ellipse, refused and taken away.
+  Drag(1000, 1000, 3000, 2000);
+  ASSERT_FALSE(ui.Empty());
+  EXPECT_EQ(ui.Last().text, "Cf. barre de message ci-dessous pour tracer un cercle et non un ellipse.");
+  EXPECT_EQ(ui.Last().title, "Définition d'un rayon d'action");
+  EXPECT_EQ(Count(), 0);
+  EXPECT_EQ(state.CurrentMode, "CREATE OBJ");
+  // With Shift it is a circle of the larger side.
+  interaction.Press(kLeft, 1, 0, 1000, 1000);
+  const InteractionResult placed = interaction.ReleaseAt(kLeft, 1, 3000, 2000);
+  ASSERT_EQ(Count(), 1);
+  EXPECT_EQ(ShapeOf(Last()).kind, kKindEllipse);
+  EXPECT_EQ(ShapeOf(Last()).box, (Box{1000, 1000, 3000, 3000}));
+  EXPECT_EQ(TagOfObject(surface, Last(), "Id"), "Rayon");
+  EXPECT_EQ(TagOfObject(surface, Last(), "iName"), "17");
+  EXPECT_EQ(placed.open_form, "frmPluRayon");
+  EXPECT_EQ(state.CurrentMode, "");
+  // The circle and its tags go in one step.
+  EXPECT_TRUE(surface.Undo());
+  EXPECT_EQ(Count(), 0);
+}
+
 TEST_F(ShapeDrawingTest, AClickWithoutDragPlacesNothing) {
   Tool("MnuPlaceRectangle");
   ClickAt(1000, 1000);

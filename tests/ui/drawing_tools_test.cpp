@@ -298,6 +298,32 @@ TEST_F(DrawingTools, TheSettingsToolOpensTheNetworksSettingsAndOkWritesThem) {
 }
 
 // A small drawing made with the tools, for the user guide.
+TEST_F(DrawingTools, TheRadiusOfActionIsACircleDraggedWithShift) {
+  window_->ToolClicked("X_RAYON");
+  EXPECT_EQ(Status().toStdString(),
+            "Rayon d'action : tirez du coin au coin opposé en tenant la touche Maj pour tracer un "
+            "cercle.");
+  QString title;
+  OnNextForm([&](FormWindow* form) {
+    title = form->windowTitle();
+    form->reject();
+  });
+  const QPoint a = At(0.3, 0.3), b = At(0.5, 0.4);
+  MoveTo(a);
+  QTest::mousePress(viewport(), Qt::LeftButton, Qt::ShiftModifier, a);
+  MoveTo(b, Qt::LeftButton);
+  EXPECT_EQ(view()->RubberShapeKind(), kKindEllipse);
+  QTest::mouseRelease(viewport(), Qt::LeftButton, Qt::ShiftModifier, b);
+  QApplication::processEvents();
+  EXPECT_EQ(title, "Rayon d'action de la pluie projet");
+  const int circle = FindObject(surface(), "Id", "Rayon");
+  ASSERT_GT(circle, 0);
+  const Box box = ShapeOf(circle).box;
+  EXPECT_EQ(ShapeOf(circle).kind, kKindEllipse);
+  EXPECT_EQ(box.right - box.left, box.bottom - box.top);
+  EXPECT_EQ(box.right - box.left, LogicOf(b).x - LogicOf(a).x);
+}
+
 TEST_F(DrawingTools, PictureOfADrawingMadeWithTheTools) {
   const int before = Count();
   window_->RunMenu("MnuPlaceRectangle");
