@@ -210,3 +210,30 @@ TEST_F(ImportTest, AMissingMidStopsTheNodeImportWithItsReport) {
 
 }  // namespace
 }  // namespace pluvane
+
+namespace pluvane {
+namespace {
+
+TEST_F(ImportTest, AHundredThousandLines) {
+  std::string nodes, links;
+  for (int i = 1; i <= 100000; ++i) {
+    nodes += "N" + std::to_string(i) + " " + std::to_string(i % 9000 + 500) + " " +
+             std::to_string(i / 9000 * 100 + 500) + "\r\n";
+    // Every tenth collector names a node the network lacks.
+    const int to = i % 10 == 0 ? 200000 : i + 1;
+    links += "C" + std::to_string(i) + " N" + std::to_string(i) + " N" + std::to_string(to) +
+             " 1 0.5 0.3 10 CI\r\n";
+  }
+  const std::string node_table = Table("n.txt", nodes);
+  EXPECT_EQ(ImportNodes(Target(), node_table, Fld("n.Fld", {1, 2, 3}), " "), 100000);
+  EXPECT_EQ(LastStatus(), "ok 100000 NOD ont été importés.");
+  EXPECT_EQ(ImportLinks(Target(), "CI", Table("c.txt", links), Fld("c.Fld", {1, 2, 3, 4, 5, 6, 7, 8}),
+                        " "),
+            100000);
+  EXPECT_EQ(OfType(5).size(), 90000u);
+  EXPECT_GE(ui.PumpCount(), 100000 / 30);
+  EXPECT_EQ(ui.Progress().back(), -1);
+}
+
+}  // namespace
+}  // namespace pluvane
