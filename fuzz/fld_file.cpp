@@ -1,6 +1,8 @@
 // Fuzzes the reader of .Fld column files: whatever it takes, each column is
 // a number from 1 to the largest allowed, the highest is returned, and the
 // columns written back read the same.
+#include "exchange/fld_file.h"
+
 #include <unistd.h>
 
 #include <algorithm>
@@ -11,7 +13,6 @@
 #include <string>
 #include <vector>
 
-#include "exchange/fld_file.h"
 #include "foundation/scripted_ui.h"
 
 namespace {
@@ -24,8 +25,8 @@ void Check(bool condition) {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   static const std::string folder = [] {
-    auto path = std::filesystem::temp_directory_path() /
-                ("pluvane_fuzz_fld_" + std::to_string(::getpid()));
+    auto path =
+        std::filesystem::temp_directory_path() / ("pluvane_fuzz_fld_" + std::to_string(::getpid()));
     std::filesystem::create_directories(path);
     return path.string();
   }();

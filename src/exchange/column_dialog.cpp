@@ -42,7 +42,8 @@ std::vector<FormCommand> ColumnDialog::Commands() {
 void ColumnDialog::cmdOk() {
   if (!CheckRows()) return;
   std::vector<int> columns;
-  for (int row = 1; row <= grid_.MaxRows(); ++row) columns.push_back(RoundLong(grid_.Value(2, row)));
+  for (int row = 1; row <= grid_.MaxRows(); ++row)
+    columns.push_back(RoundLong(grid_.Value(2, row)));
   if (!WriteFldFile(fld_file_, columns)) {
     ui_.ShowMessage("Impossible d'écrire le fichier des colonnes " + fld_file_ + ".", caption_,
                     MessageIcon::kExclamation);

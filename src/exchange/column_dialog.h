@@ -13,6 +13,9 @@
 
 namespace pluvane {
 
+// The heads of the import dialogs' grids.
+inline const std::vector<std::string> kParamHeads{"Paramètre", "Numéro de colonne"};
+
 class ColumnDialog : public FormController {
  public:
   // `heads`: the two column heads; `rows`: the parameters in order.

@@ -74,7 +74,8 @@ int ImportBV(ImportTarget target, const std::string& data_file, const std::strin
         if (count >= at) surface.SetObjTag(tag, Val(Field(fields, at)));
       }
     }
-    target.state.ElementCounters[kINameBV] = std::max(target.state.ElementCounters[kINameBV], number);
+    target.state.ElementCounters[kINameBV] =
+        std::max(target.state.ElementCounters[kINameBV], number);
   } else {
     ShowImportSymbolError(target);
   }

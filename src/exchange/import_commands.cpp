@@ -60,7 +60,8 @@ bool CheckImportPreconditions(Surface& surface, const NetworkState& state, UserI
   return false;
 }
 
-std::string ImportDataFile(const std::string& chosen, ImportSource source, const std::string& kind) {
+std::string ImportDataFile(const std::string& chosen, ImportSource source,
+                           const std::string& kind) {
   if (source == ImportSource::kText) return chosen;
   std::string folder, name, base, extension;
   SplitPath(chosen, folder, name, base, extension);
@@ -109,13 +110,15 @@ int RunImportCommand(ImportSession& session, const std::string& kind, ImportSour
       std::string folder, name, base, extension;
       SplitPath(data_file, folder, name, base, extension);
       const std::size_t dot = name.rfind('.');
-      const std::string txt = JoinPath(folder, (dot == std::string::npos ? name : name.substr(0, dot)) + ".Txt");
+      const std::string txt =
+          JoinPath(folder, (dot == std::string::npos ? name : name.substr(0, dot)) + ".Txt");
       if (imp_GenNod_MidFile2TxtFile(ui, data_file, txt) == 0) return -1;
     }
     if (!AskNodeImportCalibration(session.surface, ui)) return -1;
   } else if (mif && !FileExist(data_file)) {
-    ui.ShowMessage("Fichier " + data_file + " introuvable : la table MapInfo (.Mid) doit se trouver "
-                   "à côté du fichier .Mif.",
+    ui.ShowMessage("Fichier " + data_file +
+                       " introuvable : la table MapInfo (.Mid) doit se trouver "
+                       "à côté du fichier .Mif.",
                    "Import", MessageIcon::kExclamation);
     return -1;
   }

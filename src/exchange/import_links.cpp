@@ -91,8 +91,8 @@ int ImportLinks(ImportTarget target, const std::string& type, const std::string&
     if (up == nodes.end() || down == nodes.end() || up->second.number == down->second.number) {
       continue;
     }
-    const int link = DrawLinkByNumber(surface, target.state, i_name, up->second.number,
-                                      down->second.number);
+    const int link =
+        DrawLinkByNumber(surface, target.state, i_name, up->second.number, down->second.number);
     if (link == 0) continue;
     surface.SetCurrentObject(link);
     const std::string number = std::to_string(first_number + count);

@@ -22,8 +22,8 @@ void ImportTable::Progress(std::size_t index, int existing, int pump_every) cons
   if (pump_every > 0 && (index + 1) % static_cast<std::size_t>(pump_every) == 0) ui_.PumpEvents();
 }
 
-int SplitRecord(UserInterface& ui, std::string_view line, const std::string& separator,
-                int highest, std::vector<std::string>& fields) {
+int SplitRecord(UserInterface& ui, std::string_view line, const std::string& separator, int highest,
+                std::vector<std::string>& fields) {
   const int count = SplitLine(ui, line, fields, separator);
   if (count == 0) return 0;
   if (fields.size() < static_cast<std::size_t>(highest)) fields.resize(highest);
@@ -62,8 +62,8 @@ int PlaceImportedPoint(ImportTarget& target, int i_name, std::int32_t x, std::in
 
 void ShowImportSymbolError(ImportTarget& target) {
   target.ui.ShowMessage(std::string("Erreur Draw_A_Symbol\r\n") +
-                            "le répertoire des symboles peut être" + " mal défini dans le fichier " +
-                            IniFilePath(target.state),
+                            "le répertoire des symboles peut être" +
+                            " mal défini dans le fichier " + IniFilePath(target.state),
                         "", MessageIcon::kNone);
 }
 

@@ -34,8 +34,8 @@ class ImportTable {
 // Splits a line into its fields and pads the record with empty fields up to
 // `highest`. Returns the number of fields the line held, 0 for a line that
 // could not be split (a quote left open).
-int SplitRecord(UserInterface& ui, std::string_view line, const std::string& separator,
-                int highest, std::vector<std::string>& fields);
+int SplitRecord(UserInterface& ui, std::string_view line, const std::string& separator, int highest,
+                std::vector<std::string>& fields);
 
 // The field of a column (from 1); empty outside the record.
 const std::string& Field(const std::vector<std::string>& fields, int column);

@@ -59,7 +59,8 @@ int ImportTableCommand(const std::vector<std::string>& args, const std::string& 
                    "pluvane-cli", MessageIcon::kExclamation);
     return 1;
   }
-  const std::string fld_file = words.Has("--fields") ? words.Value("--fields") : FldFileOf(data_file);
+  const std::string fld_file =
+      words.Has("--fields") ? words.Value("--fields") : FldFileOf(data_file);
   if (!FileExist(fld_file)) {
     ui.ShowMessage("Fichier des colonnes " + fld_file + " introuvable.", "pluvane-cli",
                    MessageIcon::kExclamation);

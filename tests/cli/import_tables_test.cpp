@@ -34,7 +34,8 @@ class ImportCli : public ::testing::Test {
           "C1 R1 R2 10 9.5 0.6 1000 CI 70 1 2\r\n"
           "F1 R2 R3 9.5 9 Ovoide 1414 PF 65 0 0\r\n"
           "O1 R3 R1 9 8 Trapeze 2236 PO 25 12 15\r\n");
-    Write("colonnes.Fld", " 1 \r\n 2 \r\n 3 \r\n 4 \r\n 5 \r\n 6 \r\n 7 \r\n 8 \r\n 9 \r\n 10 \r\n 11 \r\n");
+    Write("colonnes.Fld",
+          " 1 \r\n 2 \r\n 3 \r\n 4 \r\n 5 \r\n 6 \r\n 7 \r\n 8 \r\n 9 \r\n 10 \r\n 11 \r\n");
   }
 
   void Write(const std::string& name, const std::string& text) {
@@ -65,7 +66,8 @@ TEST_F(ImportCli, ANetworkFromTextTables) {
   EXPECT_EQ(run.out, "ok 1 BV ont été importés.\n");
   EXPECT_EQ(run.err, "");
   for (const char* kind : {"ci", "pf", "po"}) {
-    run = Cli(std::string("import ") + kind + " r2.mtf tables/coll.txt --fields colonnes.Fld -o r2.mtf");
+    run = Cli(std::string("import ") + kind +
+              " r2.mtf tables/coll.txt --fields colonnes.Fld -o r2.mtf");
     EXPECT_EQ(run.status, 0) << run.err;
   }
   EXPECT_EQ(run.out, "ok 1 PO ont été importés.\n");
@@ -101,7 +103,8 @@ TEST_F(ImportCli, RefusalsWriteNoNetwork) {
             std::string::npos);
   run = Cli("import nodes vide.mtf tables/absent.txt -o x.mtf");
   EXPECT_EQ(run.status, 1);
-  EXPECT_EQ(run.err, "pluvane-cli: Fichier " + programs_.Work("tables/absent.txt") + " introuvable.\n");
+  EXPECT_EQ(run.err,
+            "pluvane-cli: Fichier " + programs_.Work("tables/absent.txt") + " introuvable.\n");
   Write("tables/seul.txt", "A 1 2\r\n");
   run = Cli("import nodes vide.mtf tables/seul.txt -o x.mtf");
   EXPECT_EQ(run.status, 1);
@@ -116,9 +119,10 @@ TEST_F(ImportCli, RefusalsWriteNoNetwork) {
   Write("tables/gros.Fld", " 1 \r\n 5000 \r\n");
   run = Cli("import nodes vide.mtf tables/noeuds.txt --fields tables/gros.Fld -o x.mtf");
   EXPECT_EQ(run.status, 1);
-  EXPECT_NE(run.err.find("Import: Numéro de colonne 5000 trop grand (au plus 999) dans le fichier " +
-                         programs_.Work("tables/gros.Fld") + ", ligne 2."),
-            std::string::npos)
+  EXPECT_NE(
+      run.err.find("Import: Numéro de colonne 5000 trop grand (au plus 999) dans le fichier " +
+                   programs_.Work("tables/gros.Fld") + ", ligne 2."),
+      std::string::npos)
       << run.err;
   EXPECT_FALSE(fs::exists(programs_.Work("x.mtf")));
 }

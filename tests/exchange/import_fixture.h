@@ -12,8 +12,8 @@
 #include "exchange/column_dialog.h"
 #include "exchange/fld_file.h"
 #include "exchange/import_commands.h"
-#include "foundation/test_files.h"
 #include "foundation/paths.h"
+#include "foundation/test_files.h"
 #include "foundation/text.h"
 #include "network/placement_fixture.h"
 

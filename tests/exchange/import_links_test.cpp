@@ -109,7 +109,8 @@ TEST_F(LinkImport, NodesThatTheNetworkLacksSkipTheirLines) {
   EXPECT_EQ(TagOf(links[0], "Id"), "CI_5");
   EXPECT_EQ(TagOf(links[0], "ZRam"), "0");
   EXPECT_EQ(TagOf(links[0], "Dn"), "0");
-  EXPECT_EQ(ui.Texts(), std::vector<std::string>{"Un 2eme guillemet manque pour l'element C5 R1 R2"});
+  EXPECT_EQ(ui.Texts(),
+            std::vector<std::string>{"Un 2eme guillemet manque pour l'element C5 R1 R2"});
 }
 
 TEST_F(LinkImport, AnEmptyLabelTakesTheTypeAndTheNumber) {
@@ -227,8 +228,8 @@ TEST_F(ImportTest, AHundredThousandLines) {
   const std::string node_table = Table("n.txt", nodes);
   EXPECT_EQ(ImportNodes(Target(), node_table, Fld("n.Fld", {1, 2, 3}), " "), 100000);
   EXPECT_EQ(LastStatus(), "ok 100000 NOD ont été importés.");
-  EXPECT_EQ(ImportLinks(Target(), "CI", Table("c.txt", links), Fld("c.Fld", {1, 2, 3, 4, 5, 6, 7, 8}),
-                        " "),
+  EXPECT_EQ(ImportLinks(Target(), "CI", Table("c.txt", links),
+                        Fld("c.Fld", {1, 2, 3, 4, 5, 6, 7, 8}), " "),
             100000);
   EXPECT_EQ(OfType(5).size(), 90000u);
   EXPECT_GE(ui.PumpCount(), 100000 / 30);

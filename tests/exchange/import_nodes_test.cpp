@@ -81,9 +81,9 @@ TEST_F(NodeImport, NumbersFollowTheHighestInUse) {
 
 TEST_F(NodeImport, ShortLinesAndWordsReadAsZero) {
   // A short record is padded with empty fields; a word reads as 0.
-  EXPECT_EQ(ImportNodes(Target(), Table("n.txt", "A\nB abc 18000\n"), Fld("n.Fld", {1, 2, 3, 4}),
-                        " "),
-            2);
+  EXPECT_EQ(
+      ImportNodes(Target(), Table("n.txt", "A\nB abc 18000\n"), Fld("n.Fld", {1, 2, 3, 4}), " "),
+      2);
   EXPECT_EQ(TagOf(OfType(99)[0], "Xus"), "0");
   EXPECT_EQ(TagOf(OfType(99)[0], "Yus"), "0");
   EXPECT_EQ(TagOf(OfType(99)[0], "Zus"), "");
@@ -112,8 +112,9 @@ TEST_F(NodeImport, AMissingTableOrFldIsRefusedAndChangesNothing) {
             "Fichier des colonnes " + folder.File("absent.Fld") + " illisible ou introuvable.");
   const std::string big = Table("big.Fld", " 1 \r\n\r\n 2000000000 \r\n");
   EXPECT_EQ(ImportNodes(Target(), table, big, " "), -1);
-  EXPECT_EQ(ui.Last().text, "Numéro de colonne 2000000000 trop grand (au plus 999) dans le fichier " +
-                                big + ", ligne 3.");
+  EXPECT_EQ(ui.Last().text,
+            "Numéro de colonne 2000000000 trop grand (au plus 999) dans le fichier " + big +
+                ", ligne 3.");
   EXPECT_EQ(surface.ObjectCount(kAllObjects), 0);
   EXPECT_EQ(surface.UndoLabel(), undo);
 }

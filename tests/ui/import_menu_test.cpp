@@ -59,8 +59,8 @@ TEST(ImportMenu, NodesFromATextTable) {
     form_title = form->windowTitle();
     QApplication::processEvents();
     fs::create_directories(SnapshotPath("forms"));
-    EXPECT_TRUE(
-        form->grab().toImage().save(QString::fromStdString(SnapshotPath("forms/import_columns.png"))));
+    EXPECT_TRUE(form->grab().toImage().save(
+        QString::fromStdString(SnapshotPath("forms/import_columns.png"))));
     for (QPushButton* button : form->findChildren<QPushButton*>()) {
       if (button->text() == "OK") return button->click();
     }
@@ -70,7 +70,8 @@ TEST(ImportMenu, NodesFromATextTable) {
   window.RunMenu("MnuFi_Import_Txt_Nod");
   EXPECT_EQ(file_title, "Charger un fichier texte contenant des noeuds à importer");
   EXPECT_EQ(input_title, "Import des noeuds");
-  EXPECT_TRUE(input_label.startsWith("L' espace de travail n'est pas calé.")) << input_label.toStdString();
+  EXPECT_TRUE(input_label.startsWith("L' espace de travail n'est pas calé."))
+      << input_label.toStdString();
   EXPECT_EQ(form_title, "Import des noeuds");
   EXPECT_EQ(CountByTag(surface, "iName", 99), 33);
   EXPECT_GT(FindObject(surface, "libell", "REGARD_A"), 10);
