@@ -17,6 +17,7 @@
 #include "shell/cli_network.h"
 #include "shell/cli_obj_alpha.h"
 #include "shell/cli_options.h"
+#include "shell/cli_import.h"
 #include "shell/cli_rain.h"
 #include "simulation/data_recap.h"
 #include "simulation/engine_commands.h"
@@ -224,6 +225,14 @@ std::vector<CliCommand> CoreCliCommands() {
        "                and prints the count\n",
        CopyRecordsCommand},
       ExportCliCommand(),
+      {"import",
+       "  import nodes|bv|ci|pf|po NETWORK.mtf TABLE [--fields FILE.Fld] -o OUT.mtf\n"
+       "                imports the nodes, catchments or collectors of a text table\n"
+       "                (TABLE.Mif: the MapInfo .Mid beside it) as File > Importer\n"
+       "                does, the columns from FILE.Fld (default: the .Fld beside\n"
+       "                the table), writes the network to OUT.mtf and prints the\n"
+       "                count imported\n",
+       ImportTableCommand},
   };
 }
 

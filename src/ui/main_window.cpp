@@ -15,6 +15,7 @@
 #include "editors/section_import.h"
 #include "exchange/frm_export_obj_alpha.h"
 #include "exchange/export_commands.h"
+#include "exchange/import_commands.h"
 #include "shell/frm_impfile_dlg.h"
 #include "foundation/paths.h"
 #include "network/frm_bief_lst.h"
@@ -148,7 +149,26 @@ void MainWindow::BindCommands() {
       run(surface_, ui_);
     });
   };
+  // An import of a table: its dialogs and what it places, one undo step.
+  auto import = [this, after](const char* caption, void (*run)(ImportSession&)) {
+    return after([this, caption, run] {
+      UndoStep step(surface_, std::string("Annuler : ") + caption);
+      ImportSession s{surface_, application_->state(), ui_,
+                      [this](FormController& form) { OpenForm(form); }};
+      run(s);
+    });
+  };
   commands_ = {
+      {"MnuFi_Import_Txt_Nod", import("Importer des noeuds", MnuFi_Import_Txt_Nod)},
+      {"MnuFi_Import_Txt_BV", import("Importer des BV", MnuFi_Import_Txt_BV)},
+      {"MnuFi_Import_Txt_Cana_CI", import("Importer des CI", MnuFi_Import_Txt_Cana_CI)},
+      {"MnuFi_Import_Txt_Cana_PF", import("Importer des PF", MnuFi_Import_Txt_Cana_PF)},
+      {"MnuFi_Import_Txt_Cana_PO", import("Importer des PO", MnuFi_Import_Txt_Cana_PO)},
+      {"MnuFi_Import_Mif_Nod", import("Importer des noeuds", MnuFi_Import_Mif_Nod)},
+      {"MnuFi_Import_Mif_BV", import("Importer des BV", MnuFi_Import_Mif_BV)},
+      {"MnuFi_Import_Mif_Cac_CI", import("Importer des CI", MnuFi_Import_Mif_Cac_CI)},
+      {"MnuFi_Import_Mif_Cac_PF", import("Importer des PF", MnuFi_Import_Mif_Cac_PF)},
+      {"MnuFi_Import_Mif_Cac_PO", import("Importer des PO", MnuFi_Import_Mif_Cac_PO)},
       {"mnuFile_Open", after([this, session] {
          NetworkSession s = session();
          OpenNetwork(s, false);
