@@ -211,4 +211,15 @@ std::optional<CheckReport> CheckOrphans(Surface& surface, UserInterface& ui) {
   return report;
 }
 
+std::optional<CheckReport> CheckAll(Surface& surface, UserInterface& ui) {
+  CheckReport all{kAllChecksTitle, {}, 0};
+  for (auto check : {CheckForbiddenValues, CheckDoublets, CheckOrphans}) {
+    std::optional<CheckReport> report = check(surface, ui);
+    if (!report) return std::nullopt;
+    all.lines.insert(all.lines.end(), report->lines.begin(), report->lines.end());
+    all.found += report->found;
+  }
+  return all;
+}
+
 }  // namespace pluvane

@@ -16,6 +16,7 @@ inline constexpr const char* kCheckNoNetwork = "un reseau doit être chargé !";
 inline constexpr const char* kForbiddenTitle = "Recherche de valeur interdite";
 inline constexpr const char* kDoubletsTitle = "Recherche de doublon";
 inline constexpr const char* kOrphansTitle = "Recherche d'élément orphelin";
+inline constexpr const char* kAllChecksTitle = "Test du réseau";
 
 struct CheckReport {
   std::string title;
@@ -28,5 +29,7 @@ std::optional<CheckReport> CheckForbiddenValues(Surface& surface, UserInterface&
 std::optional<CheckReport> CheckDoublets(Surface& surface, UserInterface& ui);
 // Deselects everything first, as the walk of the links does.
 std::optional<CheckReport> CheckOrphans(Surface& surface, UserInterface& ui);
+// The three in that order, as one report: the maintenance menu's test.
+std::optional<CheckReport> CheckAll(Surface& surface, UserInterface& ui);
 
 }  // namespace pluvane

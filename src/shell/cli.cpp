@@ -13,6 +13,7 @@
 #include "editors/section_import.h"
 #include "foundation/paths.h"
 #include "shell/application.h"
+#include "shell/cli_check.h"
 #include "shell/cli_export.h"
 #include "shell/cli_network.h"
 #include "shell/cli_obj_alpha.h"
@@ -225,6 +226,12 @@ std::vector<CliCommand> CoreCliCommands() {
        "                and prints the count\n",
        CopyRecordsCommand},
       ExportCliCommand(),
+      {"check",
+       "  check NETWORK.mtf [--forbidden] [--doublets] [--orphans]\n"
+       "                runs the consistency checks named (all three, in that\n"
+       "                order, when none is) and prints the lines of their\n"
+       "                reports, closing counts included\n",
+       CheckCommand},
       {"import",
        "  import nodes|bv|ci|pf|po NETWORK.mtf TABLE [--fields FILE.Fld] -o OUT.mtf\n"
        "                imports the nodes, catchments or collectors of a text table\n"

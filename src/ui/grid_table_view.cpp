@@ -14,8 +14,9 @@ GridTableView::GridTableView(Grid& grid, QWidget* parent)
       delegate_(new GridItemDelegate(model_, this)) {
   setModel(model_);
   setItemDelegate(delegate_);
-  setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed |
-                  QAbstractItemView::AnyKeyPressed);
+  // A double click belongs to the form (it opens a row's edition, a file
+  // chooser...): a cell is opened by typing or F2.
+  setEditTriggers(QAbstractItemView::EditKeyPressed | QAbstractItemView::AnyKeyPressed);
   setSelectionMode(grid.RowSelect() ? QAbstractItemView::SingleSelection
                                     : QAbstractItemView::ExtendedSelection);
   setSelectionBehavior(grid.RowSelect() ? QAbstractItemView::SelectRows

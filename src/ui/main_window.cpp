@@ -296,6 +296,7 @@ void MainWindow::BindCommands() {
       {"mnuExploit_Coherence_D0", check(CheckForbiddenValues)},
       {"mnuExploit_Coherence_Doublon", check(CheckDoublets)},
       {"mnuExploit_Coherence_orphelin", check(CheckOrphans)},
+      {"mnuMyUtil_Tst", check(CheckAll)},
       {"mnuUtil_TagsViewer", after([tags_viewer] { tags_viewer("SCAN"); })},
       {"mnuUtil_EtiqObjById", after([tags_viewer] { tags_viewer("ETIQ"); })},
       {"mnuUtil_AppSymbolChange", after([tags_viewer] { tags_viewer("APPSYMBOLE"); })},

@@ -57,6 +57,8 @@ class MainWindow : public QMainWindow {
   // The tool bands; null before Start.
   MainToolBars* tool_bars() { return tool_bars_.get(); }
   // Runs a menu command by its name, as a click on the item does.
+  // Whether a menu entry has its command (the others say they are not available).
+  bool HasCommand(const std::string& name) const { return commands_.count(name) != 0; }
   void RunMenu(const std::string& name);
   // The action of a menu item, by name (nullptr when none).
   QAction* Action(const std::string& name) const;

@@ -53,7 +53,9 @@ class FormPictures : public ::testing::Test {
       }
       // The whole grid shows: nothing to scroll sideways (sheets under tabs,
       // as wide as their kind has fields, may scroll on a small screen).
-      if (form.TabCount() == 0) EXPECT_EQ(table->horizontalScrollBar()->maximum(), 0) << name;
+      if (form.TabCount() == 0) {
+        EXPECT_EQ(table->horizontalScrollBar()->maximum(), 0) << name;
+      }
     }
     EXPECT_EQ(window.windowTitle().toStdString(), form.Caption());
     std::filesystem::create_directories(SnapshotPath("forms"));
