@@ -1,7 +1,7 @@
 // Where the program finds its shipped data and its configuration.
 //
 // Two layouts are known. Portable (the build folder, a copy on a USB key):
-// the programs, pluvane.ini, Symboles/, Curseurs/ and Exemples/ stand in one
+// the programs, pluvane.ini, Symboles/, Curseurs/, Icones/ and Exemples/ stand in one
 // folder, and the configuration is written where it stands. Installed (for
 // example under /usr): the programs are in bin/ and the data in
 // share/pluvane/ beside it; a folder of the system cannot be written, so the
@@ -14,7 +14,7 @@
 namespace pluvane {
 
 struct Installation {
-  // The folder that holds Symboles/, Curseurs/, Exemples/ and the shipped
+  // The folder that holds Symboles/, Curseurs/, Icones/, Exemples/ and the shipped
   // pluvane.ini.
   std::string data_dir;
   // The configuration file in use.

@@ -4,12 +4,14 @@
 #include <QPainter>
 #include <QPixmap>
 #include <QToolButton>
+#include <memory>
 #include <string_view>
 
+#include "foundation/paths.h"
 #include "foundation/text.h"
 #include "network/catalogue.h"
 #include "shell/main_menus.h"
-#include "ui/picture_cache.h"
+#include "ui/picture_icon_engine.h"
 
 namespace pluvane {
 
@@ -30,7 +32,7 @@ constexpr BandInfo kBars[] = {{"DisplayManagerBand", "Boîte à Outils"},
 constexpr std::pair<std::string_view, std::string_view> kDropDowns[] = {
     {"X_BVCOM", "RESO_CREATE_BV_C"}, {"X_BVSIM", "RESO_CREATE_BV_S"}};
 
-// Short texts of the tools that have no symbol.
+// Short texts of the tools, shown when their picture is missing.
 constexpr std::pair<std::string_view, std::string_view> kShortTexts[] = {
     {"MDDELETE", "Sup"},    {"MDMOVE", "Dép"},       {"MDFUSION", "Fus"},  {"MDBREAK", "Div"},
     {"MDBREAKPLUS", "Rép"}, {"MDEDIT1", "Ed"},       {"MDEDITALL", "EdG"}, {"MDSAVE", "Sav"},
@@ -68,23 +70,34 @@ QIcon TextIcon(std::string_view text) {
 
 }  // namespace
 
-QIcon MainToolBars::IconOf(const std::string& key, const std::string& symbol_dir) {
+std::string MainToolBars::IconFileOf(const std::string& key, const std::string& icon_dir,
+                                     const std::string& symbol_dir) {
   const std::string upper = UCase(key);
-  const std::string symbol = SymbolPathOfKey(symbol_dir, upper);
-  if (!symbol.empty()) {
-    PictureCache pictures;
-    QPixmap pixmap(kIconSize, kIconSize);
-    pixmap.fill(Qt::transparent);
-    QPainter painter(&pixmap);
-    painter.setRenderHint(QPainter::Antialiasing);
-    if (pictures.Draw(painter, symbol, QRectF(2, 2, kIconSize - 4, kIconSize - 4), false)) {
-      painter.end();
-      return QIcon(pixmap);
-    }
+  if (!icon_dir.empty()) {
+    const std::string drawn = JoinPath(icon_dir, upper + ".svg");
+    if (FileExist(drawn)) return drawn;
   }
+  return symbol_dir.empty() ? std::string() : SymbolPathOfKey(symbol_dir, upper);
+}
+
+QIcon MainToolBars::FallbackIcon(const std::string& key) {
+  const std::string upper = UCase(key);
   std::string_view text = ShortText(upper);
   const std::string fallback = upper.size() > 2 ? upper.substr(2, 3) : upper;
   return TextIcon(text.empty() ? std::string_view(fallback) : text);
+}
+
+QIcon MainToolBars::IconOf(const std::string& key, const std::string& icon_dir,
+                           const std::string& symbol_dir) {
+  const std::string file = IconFileOf(key, icon_dir, symbol_dir);
+  if (!file.empty()) {
+    // The symbols of the elements fill their square: a small margin keeps
+    // them the size of the drawn tools.
+    const bool drawn = !icon_dir.empty() && file == JoinPath(icon_dir, UCase(key) + ".svg");
+    auto engine = std::make_unique<PictureIconEngine>(file, drawn ? 0.0 : 2.0 / kIconSize);
+    if (engine->IsReadable()) return QIcon(engine.release());
+  }
+  return FallbackIcon(key);
 }
 
 Qt::ToolBarArea MainToolBars::AreaOfPosition(int position) {
@@ -114,6 +127,7 @@ int MainToolBars::PositionOfArea(Qt::ToolBarArea area) {
 }
 
 MainToolBars::MainToolBars(QMainWindow* window, const std::string& symbol_dir,
+                           const std::string& icon_dir,
                            std::function<void(const std::string&)> clicked) {
   for (const BandInfo& info : kBars) {
     auto* bar = new QToolBar(QString::fromUtf8(info.title.data(), info.title.size()), window);
@@ -136,7 +150,7 @@ MainToolBars::MainToolBars(QMainWindow* window, const std::string& symbol_dir,
     const std::string key(item.key);
     QString tip = QString::fromUtf8(item.tip.data(), static_cast<int>(item.tip.size()));
     tip.remove('&');
-    auto* action = new QAction(IconOf(key, symbol_dir), tip, window);
+    auto* action = new QAction(IconOf(key, icon_dir, symbol_dir), tip, window);
     action->setObjectName(QString::fromStdString(key));
     action->setToolTip(tip);
     if (!tools_.count(key)) tools_[key] = action;

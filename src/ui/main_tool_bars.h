@@ -1,8 +1,9 @@
 // The tool bands of the main window, built from the program's table: the
 // display tools ("Boîte à Outils"), the creation tools ("CREATE RESO"), and
 // the two small bands that the catchment tools X_BVCOM and X_BVSIM open as
-// drop-downs. Each tool shows its caption as a tip and a picture: the
-// element's own symbol for the placement tools, a short text otherwise.
+// drop-downs. Each tool shows its caption as a tip and a picture: its drawing
+// in the icon folder (Icones/, one SVG file per key in capitals), else the
+// element's own symbol, else a short text in a box.
 #pragma once
 
 #include <QAction>
@@ -20,7 +21,7 @@ namespace pluvane {
 class MainToolBars {
  public:
   // Adds the bands to the window; a click on a tool calls `clicked` with its key.
-  MainToolBars(QMainWindow* window, const std::string& symbol_dir,
+  MainToolBars(QMainWindow* window, const std::string& symbol_dir, const std::string& icon_dir,
                std::function<void(const std::string&)> clicked);
 
   // The band by its name ("DisplayManagerBand", "RESO_CREATE").
@@ -38,8 +39,16 @@ class MainToolBars {
   static Qt::ToolBarArea AreaOfPosition(int position);
   static int PositionOfArea(Qt::ToolBarArea area);
 
-  // The picture of a tool: its symbol when there is one, else its short text.
-  static QIcon IconOf(const std::string& key, const std::string& symbol_dir);
+  // The picture file of a tool: "<icon_dir>/<KEY>.svg" when it stands, else
+  // the symbol of its element; empty when it has none.
+  static std::string IconFileOf(const std::string& key, const std::string& icon_dir,
+                                const std::string& symbol_dir);
+  // The picture of a tool, drawn from its file at the size and pixel ratio
+  // asked; the short text in a box when the file is missing or unreadable.
+  static QIcon IconOf(const std::string& key, const std::string& icon_dir,
+                      const std::string& symbol_dir);
+  // The short text in a box of a tool.
+  static QIcon FallbackIcon(const std::string& key);
 
  private:
   std::map<std::string, QToolBar*> bands_;

@@ -435,7 +435,8 @@ void MainWindow::RefreshRecentFiles() {
 bool MainWindow::Start(const std::string& app_path, const std::string& command_line) {
   if (!application_->Load(app_path, command_line)) return false;
   const AppState& state = application_->state();
-  tool_bars_ = std::make_unique<MainToolBars>(this, state.SymbolDir,
+  const std::string data_dir = state.DataDir.empty() ? state.AppPath : state.DataDir;
+  tool_bars_ = std::make_unique<MainToolBars>(this, state.SymbolDir, JoinPath(data_dir, "Icones"),
                                               [this](const std::string& key) { ToolClicked(key); });
   addToolBar(Qt::TopToolBarArea, tool_bars_->Band("RESO_CREATE"));
   addToolBar(MainToolBars::AreaOfPosition(state.ToolBandPosition),

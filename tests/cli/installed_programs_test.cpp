@@ -49,6 +49,7 @@ TEST_F(InstalledProgramsTest, EverythingStandsInItsStandardPlace) {
   for (const char* path :
        {"bin/pluvane", "bin/pluvane-cli", "bin/vistrel", "share/pluvane/pluvane.ini",
         "share/pluvane/Symboles/NOD.svg", "share/pluvane/Curseurs/111.svg",
+        "share/pluvane/Icones/MDDELETE.svg",
         "share/pluvane/Exemples/Demo.mtf", "share/applications/pluvane.desktop",
         "share/icons/hicolor/scalable/apps/pluvane.svg", "share/mime/packages/pluvane.xml"}) {
     EXPECT_TRUE(fs::exists(Installed(path))) << path;

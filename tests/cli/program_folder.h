@@ -36,7 +36,7 @@ class ProgramFolder {
  public:
   ProgramFolder() {
     namespace fs = std::filesystem;
-    for (const char* item : {"pluvane.ini", "Symboles", "Curseurs", "Exemples"}) {
+    for (const char* item : {"pluvane.ini", "Symboles", "Curseurs", "Icones", "Exemples"}) {
       fs::copy(fs::path(PLUVANE_DATA) / item, fs::path(app_.Path()) / item,
                fs::copy_options::recursive);
     }

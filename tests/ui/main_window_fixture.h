@@ -23,7 +23,7 @@
 
 namespace pluvane {
 
-// A copy of the programs' folder (configuration, symbols, cursors) that the
+// A copy of the programs' folder (configuration, symbols, cursors, icons) that the
 // test may change, with Demo.mtf in a folder of its own. The Qt application
 // stands from then on, so that the test's windows may be made.
 class AppFolder {
@@ -33,7 +33,7 @@ class AppFolder {
     namespace fs = std::filesystem;
     const fs::path bin(PLUVANE_BIN);
     fs::copy_file(bin / "pluvane.ini", fs::path(folder_.Path()) / "pluvane.ini");
-    for (const char* sub : {"Symboles", "Curseurs"}) {
+    for (const char* sub : {"Symboles", "Curseurs", "Icones"}) {
       fs::copy(bin / sub, fs::path(folder_.Path()) / sub, fs::copy_options::recursive);
     }
     fs::create_directories(fs::path(folder_.Path()) / "reseau");

@@ -20,6 +20,7 @@
 #include "ui/background_dialog.h"
 #include "ui/test_app.h"
 #include "ui/main_window_fixture.h"
+#include "ui/pdf_page.h"
 
 namespace pluvane {
 namespace {
@@ -315,6 +316,7 @@ TEST(MainWindow, TheAboutWindowNamesTheProgramAndClosesOnEnter) {
 }
 
 TEST(MainWindow, PrintsTheViewOnThePrinter) {
+  RequirePdfTools();
   AppFolder app;
   MainWindow window;
   ASSERT_TRUE(Open(window, app, app.Demo()));
@@ -326,7 +328,18 @@ TEST(MainWindow, PrintsTheViewOnThePrinter) {
   };
   window.RunMenu("mnuFile_Print");
   ASSERT_TRUE(fs::exists(pdf));
-  EXPECT_GT(fs::file_size(pdf), 1000u);
+  EXPECT_EQ(PdfPageCount(pdf), 1);
+  const QImage page = PdfPage(pdf, 50);
+  ASSERT_FALSE(page.isNull());
+  page.save(QString::fromStdString(SnapshotPath("printed_view.png")));
+  // The page draws the example's network: its circular collectors in blue,
+  // its closed ones in red, its open ones in cyan, the routings in black, on
+  // white paper. (The drawing carries no text to read back.)
+  EXPECT_GT(PixelsNear(page, QColor(0, 0, 255)), 500);
+  EXPECT_GT(PixelsNear(page, QColor(255, 0, 0)), 100);
+  EXPECT_GT(PixelsNear(page, QColor(0, 255, 255)), 100);
+  EXPECT_GT(PixelsNear(page, QColor(0, 0, 0)), 20);
+  EXPECT_GT(PixelsNear(page, QColor(255, 255, 255)), page.width() * page.height() / 2);
   Quit(window);
 }
 

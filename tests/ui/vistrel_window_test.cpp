@@ -18,6 +18,7 @@
 #include "plot/viewer_placing.h"
 #include "plot/viewer_session.h"
 #include "ui/form_window.h"
+#include "ui/pdf_page.h"
 #include "ui/surface_view.h"
 #include "ui/test_app.h"
 #include "ui/vistrel_program.h"
@@ -140,13 +141,24 @@ TEST_F(VistrelTest, SavesThePageAsPngAndSvg) {
 }
 
 TEST_F(VistrelTest, PrintsThePageOnAPrinter) {
+  RequirePdfTools();
   auto window = Open();
   QPrinter printer;
   printer.setOutputFormat(QPrinter::PdfFormat);
   const std::string pdf = folder.File("printed.pdf");
   printer.setOutputFileName(QString::fromStdString(pdf));
   ASSERT_TRUE(window->PrintOn(printer));
-  EXPECT_GT(std::filesystem::file_size(pdf), 1000u);
+  // One page that carries the plot's texts: the frame's title, the axes' titles.
+  EXPECT_EQ(PdfPageCount(pdf), 1);
+  const QString text = PdfText(pdf);
+  for (const char* word : {"Débits", "Temps(mn)", "Débit (m3/s)"}) {
+    EXPECT_TRUE(text.contains(QString::fromUtf8(word))) << word << " in:\n" << text.toStdString();
+  }
+  // And both curves, in their colours.
+  const QImage page = PdfPage(pdf, 50);
+  ASSERT_FALSE(page.isNull());
+  EXPECT_GT(CountNear(page, QColor(255, 0, 0)), 30);
+  EXPECT_GT(CountNear(page, QColor(0, 0, 255)), 30);
 }
 
 TEST_F(VistrelTest, PlacesALineAndARectangleWithTheMouse) {
