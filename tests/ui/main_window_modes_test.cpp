@@ -440,10 +440,16 @@ TEST_F(MainWindowModes, PictureOfALinkBeingPlaced) {
   Tool("X_CAC");
   ClickAt(Logic(0.1, 0.72));
   ClickAt(Logic(0.24, 0.84));
-  MoveTo(Client(Logic(0.34, 0.7).first, Logic(0.34, 0.7).second));
+  const QPoint pointer = Client(Logic(0.34, 0.7).first, Logic(0.34, 0.7).second);
+  MoveTo(pointer);
   ASSERT_TRUE(view()->HasRubberLine());
-  // The pointer's map coordinates stand in the status bar.
-  EXPECT_TRUE(window_->panels().XY()->text().contains(", "));
+  // The map coordinates of the pointer's pixel, to the centimetre, stand in
+  // the status bar.
+  const auto [x, y] = Snapped(Logic(0.34, 0.7).first, Logic(0.34, 0.7).second);
+  const Calibration& map = window_->application().state().calibration;
+  const auto metres = [](double v) { return NumToText(std::round(v * 100) / 100); };
+  EXPECT_EQ(window_->panels().XY()->text().toStdString(),
+            metres(LogicToUserX(map, x, y)) + ", " + metres(LogicToUserY(map, x, y)));
   QApplication::processEvents();
   const QImage shot = window_->grab().toImage();
   ASSERT_FALSE(shot.isNull());
