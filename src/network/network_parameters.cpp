@@ -40,6 +40,8 @@ void WriteParameterRecords(Surface& surface, const NetworkState& state) {
   surface.SetObjTag("XLAMU", c.XLAMU);
   surface.SetObjTag("XLACOS", c.XLACOS);
   surface.SetObjTag("XLASIN", c.XLASIN);
+  // Written only when there is one, so that a network without stays as it was.
+  if (!state.CoordinateSystem.empty()) surface.SetObjTag(kCoordinateSystemTag, state.CoordinateSystem);
 
   NewRecord(surface, state, kZoomFactors);
   surface.SetObjTag("iGroup", -1);
@@ -53,12 +55,14 @@ void CreateBlankParamReseau(Surface& surface, const NetworkState& state) {
   const int saved = surface.CurrentObject();
   NewRecord(surface, state, kParamReseau);
   WriteCalculationDefaults(surface, state);
+  if (!state.CoordinateSystem.empty()) surface.SetObjTag(kCoordinateSystemTag, state.CoordinateSystem);
   surface.SetCurrentObject(saved);
 }
 
 void ReadParamReseau(Surface& surface, NetworkState& state) {
   const int saved = surface.CurrentObject();
   if (FindObject(surface, "Id", kParamReseau) > 10) {
+    state.CoordinateSystem = surface.ObjTag(kCoordinateSystemTag);
     auto take = [&](const char* tag, double& field) {
       const double value = Val(surface.ObjTag(tag));
       if (value > 0) field = value;

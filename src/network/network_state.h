@@ -56,6 +56,9 @@ struct NetworkState : DrawingSettings {
   // Polygon input buffer of the user, reserved at start.
   std::int32_t PointBufferSize = 0;
   Calibration calibration;
+  // The map's coordinate system as the GIS names it: an EPSG code
+  // ("EPSG:2154") or a WKT; empty when none was given. Saved in ParamReseau.
+  std::string CoordinateSystem;
 };
 
 // The configuration file in use; before the start found it, the one beside

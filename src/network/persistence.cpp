@@ -97,6 +97,7 @@ void ResetNetwork(NetworkSession& s) {
   s.state.NetworkFile.clear();
   s.state.CurrentMode.clear();
   s.state.ElementCounters.fill(0);
+  s.state.CoordinateSystem.clear();
   CreateBlankParamReseau(s.surface, s.state);
   s.state.NodeCount = 1;
   ShowCaption(s);

@@ -100,6 +100,34 @@ TEST_F(PersistenceTest, OpeningTakesTheExtentsOfTheFile) {
   EXPECT_EQ(recent_.Captions().front(), path);
 }
 
+TEST_F(PersistenceTest, TheCoordinateSystemIsSavedAndOpenedAgain) {
+  AddElement(99, "Nod_1");
+  state_.CoordinateSystem = "EPSG:2154";
+  const std::string path = SaveAndClear("crs.mtf");
+  ASSERT_TRUE(surface_.LoadFile(path, 0));
+  ASSERT_GT(FindObject(surface_, "Id", kParamReseau), 10);
+  EXPECT_EQ(surface_.ObjTag("SysCoord"), "EPSG:2154");
+  surface_.ClearDrawing();
+  state_.CoordinateSystem.clear();
+  NetworkSession s = Session();
+  ASSERT_TRUE(OpenNetwork(s, true, path));
+  EXPECT_EQ(state_.CoordinateSystem, "EPSG:2154");
+}
+
+TEST_F(PersistenceTest, ANetworkWithoutCoordinateSystemOpensWithNone) {
+  AddElement(99, "Nod_1");
+  const std::string path = SaveAndClear("sans.mtf");
+  ASSERT_TRUE(surface_.LoadFile(path, 0));
+  ASSERT_GT(FindObject(surface_, "Id", kParamReseau), 10);
+  // No tag at all when there is none: older programs read the file as before.
+  for (int i = 0; i < surface_.ObjTagCount(); ++i) EXPECT_NE(surface_.ObjTagName(i), "SysCoord");
+  surface_.ClearDrawing();
+  state_.CoordinateSystem = "EPSG:4326";
+  NetworkSession s = Session();
+  ASSERT_TRUE(OpenNetwork(s, true, path));
+  EXPECT_EQ(state_.CoordinateSystem, "");
+}
+
 TEST_F(PersistenceTest, ANetworkWithoutZoomFactorsKeepsThePresentZoom) {
   AddElement(99, "Nod_1", 30000, 30000);
   const std::string path = folder_.File("sans_zoom.mtf");
@@ -311,9 +339,11 @@ TEST_F(PersistenceTest, ClosingEmptiesTheDrawingAndLeavesABlankParamReseau) {
   state_.NetworkFile = "/x/r.mtf";
   state_.ElementCounters[99] = 5;
   state_.CurrentMode = "MDMOVE";
+  state_.CoordinateSystem = "EPSG:2154";
   NetworkSession s = Session();
   ui_.QueueNo();
   ASSERT_TRUE(CloseNetwork(s));
+  EXPECT_EQ(state_.CoordinateSystem, "");
   EXPECT_EQ(state_.NetworkFile, "");
   EXPECT_EQ(state_.CurrentMode, "");
   EXPECT_EQ(state_.ElementCounters[99], 0);
