@@ -1,11 +1,12 @@
 #!/usr/bin/env bash
 # Installs the Debian packages that the build and the tests need, if any is
 # missing (Xvfb and x11-utils let the tests start the desktop program in a
-# real X display; poppler-utils reads back the printed PDFs).
+# real X display; poppler-utils reads back the printed PDFs; GDAL writes and
+# reads the GIS layers, and its ogrinfo checks them in the tests).
 set -euo pipefail
 packages=(cmake ninja-build g++ clang make pkg-config
           qt6-base-dev libqt6svg6-dev libgl-dev
-          nlohmann-json3-dev libgtest-dev libgmock-dev
+          nlohmann-json3-dev libgtest-dev libgmock-dev libgdal-dev gdal-bin
           fonts-dejavu-core poppler-utils
           xvfb x11-utils locales)
 missing=()

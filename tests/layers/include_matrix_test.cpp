@@ -1,9 +1,10 @@
 // The layers of the program hold: every `#include "folder/..."` of src/ names
 // a layer that the including one may use. The order, once:
 //   foundation < drawing < network < {plot, rain, simulation, results,
-//   exchange, editors} < shell < ui
+//   exchange, editors} < gis < shell < ui
 // and of the middle row, plot uses only drawing, rain and editors use plot,
-// rain uses editors, simulation uses rain, results uses plot and simulation. The build declares the same uses, one library per layer.
+// rain uses editors, simulation uses rain, results uses plot and simulation. gis
+// (the GIS layers through GDAL) uses exchange and results. The build declares the same uses, one library per layer.
 #include <gtest/gtest.h>
 
 #include <filesystem>
@@ -32,12 +33,14 @@ const std::map<std::string, std::set<std::string>>& Allowed() {
       {"results", {"foundation", "drawing", "network", "rain", "simulation", "plot"}},
       {"exchange", kBase},
       {"editors", {"foundation", "drawing", "network", "plot"}},
+      {"gis",
+       {"foundation", "drawing", "network", "rain", "simulation", "plot", "results", "exchange"}},
       {"shell",
        {"foundation", "drawing", "network", "rain", "simulation", "plot", "results", "exchange",
-        "editors"}},
+        "gis", "editors"}},
       {"ui",
        {"foundation", "drawing", "network", "rain", "simulation", "plot", "results", "exchange",
-        "editors", "shell"}},
+        "gis", "editors", "shell"}},
   };
   return kAllowed;
 }
@@ -91,6 +94,34 @@ TEST(Layers, NoFileOfTheSourcesIncludesALayerAboveIts) {
   std::string report;
   for (const Forbidden& f : CheckTree(src)) report += f.file + ": " + f.line + "\n";
   EXPECT_EQ(report, "");
+}
+
+// GDAL stays behind the gis folder's sources: no header of the program, and
+// no source of another folder, includes one of its headers.
+TEST(Layers, OnlyTheGisSourcesIncludeGdal) {
+  const fs::path src = fs::path(PLUVANE_TESTS).parent_path() / "src";
+  static const std::regex kGdal(
+      R"(^\s*#\s*include\s*<(gdal|ogr|cpl_|ogrsf_frmts)[^>]*>)");
+  std::string report;
+  int gis_sources = 0;
+  for (const auto& entry : fs::recursive_directory_iterator(src)) {
+    if (!entry.is_regular_file()) continue;
+    const std::string extension = entry.path().extension().string();
+    if (extension != ".h" && extension != ".cpp") continue;
+    const std::string layer = fs::relative(entry.path(), src).begin()->string();
+    std::ifstream in(entry.path());
+    std::string line;
+    bool includes = false;
+    while (std::getline(in, line)) includes = includes || std::regex_search(line, kGdal);
+    if (!includes) continue;
+    if (layer == "gis" && extension == ".cpp") {
+      ++gis_sources;
+    } else {
+      report += fs::relative(entry.path(), src).string() + "\n";
+    }
+  }
+  EXPECT_EQ(report, "");
+  EXPECT_GT(gis_sources, 0);
 }
 
 TEST(Layers, AnUpwardIncludeIsFound) {
