@@ -15,6 +15,7 @@
 #include "shell/application.h"
 #include "shell/cli_check.h"
 #include "shell/cli_export.h"
+#include "shell/cli_gis.h"
 #include "shell/cli_network.h"
 #include "shell/cli_obj_alpha.h"
 #include "shell/cli_options.h"
@@ -226,6 +227,8 @@ std::vector<CliCommand> CoreCliCommands() {
        "                and prints the count\n",
        CopyRecordsCommand},
       ExportCliCommand(),
+      GisExportCliCommand(),
+      GisImportCliCommand(),
       {"check",
        "  check NETWORK.mtf [--forbidden] [--doublets] [--orphans]\n"
        "                runs the consistency checks named (all three, in that\n"

@@ -1,0 +1,138 @@
+#include "shell/cli_gis.h"
+
+#include "foundation/console.h"
+#include "foundation/numbers.h"
+#include "foundation/paths.h"
+#include "foundation/scripted_ui.h"
+#include "foundation/text.h"
+#include "gis/gis_export.h"
+#include "gis/gis_import.h"
+#include "network/persistence.h"
+#include "shell/cli_network.h"
+#include "shell/cli_options.h"
+
+namespace pluvane {
+
+namespace {
+
+// The message console of the import: its lines go to standard output.
+class ConsoleLines : public Console {
+ public:
+  explicit ConsoleLines(std::ostream& out) : out_(out) {}
+  void Debut(const std::string&) override {}
+  void AfficheMessage(const std::string& text) override { out_ << text << "\n"; }
+  void AfficheJauge(int, const std::string&) override {}
+  void EffaceJauge() override {}
+  void Fin(bool) override {}
+  std::string GetStatus() const override { return status_; }
+  void SetStatus(const std::string& status) override { status_ = status; }
+  void Clear() override {}
+
+ private:
+  std::ostream& out_;
+  std::string status_;
+};
+
+int GisExport(const std::vector<std::string>& args, const std::string& app_path,
+              std::ostream& out, ScriptedUi& ui) {
+  CliOptions words;
+  if (!words.Parse(args, {{{"-o", "--output"}, true, true}, {{"--scenario"}, true, false}}, 1, 1)) {
+    return 2;
+  }
+  const std::string output = words.Value("-o");
+  if (output.empty() || GisFormatOf(output) == GisFormat::kNone) return 2;
+  CliNetwork network(ui);
+  if (!network.Open(app_path, words.Positional()[0])) return 1;
+  AppState& state = network.state();
+  const std::string scenario =
+      words.Has("--scenario") ? words.Value("--scenario") : state.ScenarioName;
+  // The scenario's report, where the result menu finds it.
+  std::string folder, file_name, base, extension;
+  SplitPath(state.NetworkFile, folder, file_name, base, extension);
+  const std::string sor =
+      scenario.empty() ? "" : JoinPath(JoinPath(folder, scenario), scenario + "_" + base + ".Sor");
+  const int count =
+      ExportGisLayers(network.surface, state, ui, output, sor, IniFilePath(state));
+  if (count < 0) return 1;
+  out << count << " objets écrits dans " << output << "\n";
+  return 0;
+}
+
+// "name=FIELD,name=FIELD"; false on a pair without its "=" or a side empty.
+bool ParseFields(const std::string& text,
+                 std::vector<std::pair<std::string, std::string>>& fields) {
+  std::size_t start = 0;
+  while (start <= text.size()) {
+    const std::size_t comma = text.find(',', start);
+    const std::string pair =
+        text.substr(start, comma == std::string::npos ? std::string::npos : comma - start);
+    const std::size_t equal = pair.find('=');
+    if (equal == std::string::npos) return false;
+    const std::string tag = Trim(pair.substr(0, equal)), field = Trim(pair.substr(equal + 1));
+    if (tag.empty() || field.empty()) return false;
+    fields.emplace_back(tag, field);
+    if (comma == std::string::npos) break;
+    start = comma + 1;
+  }
+  return true;
+}
+
+int GisImport(const std::vector<std::string>& args, const std::string& app_path,
+              std::ostream& out, ScriptedUi& ui) {
+  CliOptions words;
+  if (!words.Parse(args,
+                   {{{"--layer"}, true, false},
+                    {{"--as"}, true, false},
+                    {{"--fields"}, true, false},
+                    {{"--tolerance"}, true, false},
+                    {{"-o", "--output"}, true, true}},
+                   2, 2)) {
+    return 2;
+  }
+  GisImportRequest request;
+  if (!ParseGisImportKind(words.Value("--as"), request.kind)) return 2;
+  if (words.Value("-o").empty() || !words.Has("--layer")) return 2;
+  request.layer = words.Value("--layer");
+  request.file = words.Positional()[1];
+  if (words.Has("--fields") && !ParseFields(words.Value("--fields"), request.fields)) return 2;
+  if (words.Has("--tolerance")) {
+    const std::string tolerance = words.Value("--tolerance");
+    if (!IsGisNumber(tolerance)) return 2;
+    request.tolerance = Val(tolerance);
+  }
+  CliNetwork network(ui);
+  if (!network.Open(app_path, words.Positional()[0])) return 1;
+  ConsoleLines console(out);
+  const int count =
+      ImportGisLayer({network.surface, network.state(), ui}, console, request);
+  if (count < 0) return 1;
+  NetworkSession session = network.application.session();
+  if (!SaveNetwork(session, words.Value("-o"))) return 1;
+  out << count << "\n";
+  return 0;
+}
+
+}  // namespace
+
+CliCommand GisExportCliCommand() {
+  return {"gis-export",
+          "  gis-export NETWORK.mtf -o OUT.gpkg|.shp|.geojson|.dxf [--scenario NAME]\n"
+          "                writes the network as GIS layers (nodes, catchments,\n"
+          "                collectors by kind, singular elements), in its coordinate\n"
+          "                system, with the capacity figures of the scenario when it\n"
+          "                has results; the format follows the extension\n",
+          GisExport};
+}
+
+CliCommand GisImportCliCommand() {
+  return {"gis-import",
+          "  gis-import NETWORK.mtf LAYERFILE --layer NAME --as nodes|ci|pf|po\n"
+          "             [--fields name=FIELD,...] [--tolerance METRES] -o OUT.mtf\n"
+          "                imports a point layer as nodes or a line layer as\n"
+          "                collectors, joined to the nodes within the tolerance\n"
+          "                (0.5 m by default), prints the doubtful elements and the\n"
+          "                count, and writes the network to OUT.mtf\n",
+          GisImport};
+}
+
+}  // namespace pluvane
