@@ -248,4 +248,27 @@ int ExportGisLayers(Surface& surface, const NetworkState& state, UserInterface& 
   return count;
 }
 
+std::string CurrentScenarioReport(const NetworkState& state, const std::string& scenario) {
+  if (Trim(scenario).empty() || state.NetworkFile.empty()) return {};
+  std::string folder, file_name, base, extension;
+  SplitPath(state.NetworkFile, folder, file_name, base, extension);
+  return JoinPath(JoinPath(folder, scenario), scenario + "_" + base + ".Sor");
+}
+
+int MnuFi_Export_Sig(Surface& surface, const NetworkState& state, UserInterface& ui) {
+  std::string folder, file_name, base, extension;
+  SplitPath(state.NetworkFile, folder, file_name, base, extension);
+  const std::string path = ui.AskSaveFile(
+      "Exporter les couches SIG",
+      "GeoPackage (*.gpkg)|*.gpkg|Shapefile (*.shp)|*.shp|GeoJSON (*.geojson)|*.geojson|"
+      "Autocad (*.dxf)|*.dxf",
+      "gpkg", base.empty() ? std::string() : JoinPath(folder, base + ".gpkg"));
+  if (Trim(path).empty()) return -1;
+  const int count = ExportGisLayers(surface, state, ui, path,
+                                    CurrentScenarioReport(state, state.ScenarioName),
+                                    IniFilePath(state));
+  if (count >= 0) ui.ShowStatus("ok " + std::to_string(count) + " objets exportés.");
+  return count;
+}
+
 }  // namespace pluvane

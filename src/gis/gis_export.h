@@ -40,4 +40,14 @@ int ExportGisLayers(Surface& surface, const NetworkState& state, UserInterface& 
                     const std::string& path, const std::string& sor_file = {},
                     const std::string& ini_file = {});
 
+// The report of the network's current scenario where the result menu finds it
+// (SCN/SCN_NETWORK.Sor beside the network file); empty without a scenario.
+std::string CurrentScenarioReport(const NetworkState& state, const std::string& scenario);
+
+// Fichier > Export > Couches SIG...: the file asked (GeoPackage by default),
+// then the export with the figures of the current scenario when it has
+// results, and its count on the status line. The count, -1 when cancelled or
+// refused.
+int MnuFi_Export_Sig(Surface& surface, const NetworkState& state, UserInterface& ui);
+
 }  // namespace pluvane

@@ -6,6 +6,7 @@
 #include "foundation/scripted_ui.h"
 #include "foundation/text.h"
 #include "gis/gis_export.h"
+#include "gis/frm_gis_import.h"
 #include "gis/gis_import.h"
 #include "network/persistence.h"
 #include "shell/cli_network.h"
@@ -46,35 +47,12 @@ int GisExport(const std::vector<std::string>& args, const std::string& app_path,
   AppState& state = network.state();
   const std::string scenario =
       words.Has("--scenario") ? words.Value("--scenario") : state.ScenarioName;
-  // The scenario's report, where the result menu finds it.
-  std::string folder, file_name, base, extension;
-  SplitPath(state.NetworkFile, folder, file_name, base, extension);
-  const std::string sor =
-      scenario.empty() ? "" : JoinPath(JoinPath(folder, scenario), scenario + "_" + base + ".Sor");
+  const std::string sor = CurrentScenarioReport(state, scenario);
   const int count =
       ExportGisLayers(network.surface, state, ui, output, sor, IniFilePath(state));
   if (count < 0) return 1;
   out << count << " objets écrits dans " << output << "\n";
   return 0;
-}
-
-// "name=FIELD,name=FIELD"; false on a pair without its "=" or a side empty.
-bool ParseFields(const std::string& text,
-                 std::vector<std::pair<std::string, std::string>>& fields) {
-  std::size_t start = 0;
-  while (start <= text.size()) {
-    const std::size_t comma = text.find(',', start);
-    const std::string pair =
-        text.substr(start, comma == std::string::npos ? std::string::npos : comma - start);
-    const std::size_t equal = pair.find('=');
-    if (equal == std::string::npos) return false;
-    const std::string tag = Trim(pair.substr(0, equal)), field = Trim(pair.substr(equal + 1));
-    if (tag.empty() || field.empty()) return false;
-    fields.emplace_back(tag, field);
-    if (comma == std::string::npos) break;
-    start = comma + 1;
-  }
-  return true;
 }
 
 int GisImport(const std::vector<std::string>& args, const std::string& app_path,
@@ -94,7 +72,7 @@ int GisImport(const std::vector<std::string>& args, const std::string& app_path,
   if (words.Value("-o").empty() || !words.Has("--layer")) return 2;
   request.layer = words.Value("--layer");
   request.file = words.Positional()[1];
-  if (words.Has("--fields") && !ParseFields(words.Value("--fields"), request.fields)) return 2;
+  if (words.Has("--fields") && !ParseGisFields(words.Value("--fields"), request.fields)) return 2;
   if (words.Has("--tolerance")) {
     const std::string tolerance = words.Value("--tolerance");
     if (!IsGisNumber(tolerance)) return 2;

@@ -16,6 +16,8 @@
 #include "exchange/frm_export_obj_alpha.h"
 #include "exchange/export_commands.h"
 #include "exchange/import_commands.h"
+#include "gis/frm_gis_import.h"
+#include "gis/gis_export.h"
 #include "shell/frm_impfile_dlg.h"
 #include "foundation/paths.h"
 #include "network/frm_bief_lst.h"
@@ -220,6 +222,19 @@ void MainWindow::BindCommands() {
       {"MnuFi_Export_Mif_Nod", [this] { MnuFi_Export_Mif_Nod(application_->state(), ui_); }},
       {"MnuFi_Export_Mif_Cana", [this] { MnuFi_Export_Mif_Cana(application_->state(), ui_); }},
       {"MnuFi_Export_Dxf", [this] { MnuFi_Export_Dxf(ui_); }},
+      // The GIS layers: the export asks its file; the import is its form and
+      // one undo step.
+      {"MnuFi_Export_Sig", [this] {
+         if (NetworkLoaded(application_->state(), ui_)) {
+           MnuFi_Export_Sig(surface_, application_->state(), ui_);
+         }
+       }},
+      {"MnuFi_Import_Sig", after([this] {
+         if (!NetworkLoaded(application_->state(), ui_)) return;
+         UndoStep step(surface_, "Annuler : Importer une couche SIG");
+         FrmGisImport form({surface_, application_->state(), ui_}, NewConsole());
+         OpenForm(form);
+       })},
       {"mnuFile_Print", [this] { PrintDrawing(); }},
       {"mnuFile_PrtCfg", [this] { ask_page_setup(printer_); }},
       {"mnuPreference", [this] { OpenPreferences(); }},
