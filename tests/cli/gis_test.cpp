@@ -177,6 +177,25 @@ TEST_F(GisCli, OgrinfoReadsTheGeoPackage) {
   EXPECT_NE(block.find("libAm: String"), std::string::npos);
 }
 
+TEST_F(GisCli, TheCollectorsCarryTheCapacityFiguresOfTheScenario) {
+  if (std::system("command -v ogrinfo >/dev/null 2>&1") != 0) {
+    GTEST_SKIP() << "ogrinfo (gdal-bin) is not installed";
+  }
+  fs::create_directories(programs_.Work("Decennale"));
+  WriteBytes(programs_.Work("Decennale/Decennale_demo.Sor"),
+             "  Mode de calcul : Diagnostic\r\n\"Cac_1     0.0 0.5 10 1.0 0.4 9 0\r\n");
+  ASSERT_EQ(Cli("gis-export demo.mtf --scenario Decennale -o couches.gpkg").status, 0);
+  const ProgramRun info = RunCommandLine("ogrinfo -ro -q '" + programs_.Work("couches.gpkg") +
+                                         "' collecteurs_ci -where \"libell='Cac_1'\" 2>&1");
+  ASSERT_EQ(info.status, 0) << info.output;
+  EXPECT_NE(info.output.find("Taux (Real) = 50\n"), std::string::npos) << info.output;
+  // Without results, no figures.
+  ASSERT_EQ(Cli("gis-export demo.mtf --scenario Autre -o sans.gpkg").status, 0);
+  const ProgramRun none = RunCommandLine("ogrinfo -ro -q '" + programs_.Work("sans.gpkg") +
+                                         "' collecteurs_ci -where \"libell='Cac_1'\" 2>&1");
+  EXPECT_EQ(none.output.find("Taux"), std::string::npos) << none.output;
+}
+
 TEST_F(GisCli, DoubtfulElementsArePrintedOneALine) {
   WriteBytes(programs_.Work("points.geojson"),
              "{\"type\":\"FeatureCollection\",\"name\":\"points\",\"crs\":{\"type\":\"name\","
