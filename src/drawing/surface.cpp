@@ -2,12 +2,13 @@
 
 #include <algorithm>
 
+#include "drawing/object_tags.h"
 #include "foundation/numbers.h"
 #include "drawing/surface_edits.h"
 
 namespace pluvane {
 
-Surface::Surface() : id_name_(names_.Intern("Id")) {}
+Surface::Surface() : id_name_(names_.Intern(kTagId)) {}
 
 Surface::~Surface() = default;
 
@@ -496,7 +497,7 @@ void Surface::SetSelected(bool selected) {
 }
 
 int Surface::SelectAll() {
-  edit_mode_ = 11;
+  edit_mode_ = kEditSelection;
   const int saved = current_;
   current_ = kAllObjects;
   SetSelected(true);

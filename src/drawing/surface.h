@@ -20,6 +20,7 @@
 #include <utility>
 #include <vector>
 
+#include "drawing/edit_modes.h"
 #include "drawing/surface_journal.h"
 #include "drawing/surface_object.h"
 #include "drawing/tag_match.h"
@@ -371,7 +372,7 @@ class Surface {
   bool selection_enabled_ = true;
   int selection_allowed_ = -1;
   bool redraw_ = true;
-  int edit_mode_ = 11;
+  int edit_mode_ = kEditSelection;
   int mouse_pointer_kind_ = 0;
   int mouse_icon_ = 0;
   double view_left_ = 0;

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "drawing/object_tags.h"
 #include "foundation/numbers.h"
 #include "foundation/text.h"
 #include "drawing/surface_guards.h"
@@ -27,7 +28,7 @@ void ForEachMatch(Surface& surface, std::string_view tag_name, const TagMatch& v
 int FindObject(Surface& surface, std::string_view tag_name, const TagMatch& value) {
   CursorKeeper keeper(surface);
   int found = 0;
-  if (tag_name == "Id" && !value.numeric()) {
+  if (tag_name == kTagId && !value.numeric()) {
     found = surface.FindById(value.text());
     if (found) surface.SetCurrentObject(found);
   } else {
@@ -47,7 +48,7 @@ std::vector<int> FindObjectList(Surface& surface, std::string_view tag_name,
 
 int CountByTag(Surface& surface, std::string_view tag_name, const TagMatch& value) {
   // Ids are counted from the index: creating an element asks this each time.
-  if (tag_name == "Id" && !value.numeric()) return surface.CountById(value.text());
+  if (tag_name == kTagId && !value.numeric()) return surface.CountById(value.text());
   CursorKeeper keeper(surface);
   surface.SetCurrentObject(kAllObjects);
   int count = 0;
@@ -55,12 +56,12 @@ int CountByTag(Surface& surface, std::string_view tag_name, const TagMatch& valu
   return count;
 }
 
-int CountByName(Surface& surface, int i_name) { return CountByTag(surface, "iName", i_name); }
+int CountByName(Surface& surface, int i_name) { return CountByTag(surface, kTagIName, i_name); }
 
 int CountLabel(Surface& surface, int i_name, std::string_view label) {
   CursorKeeper keeper(surface);
   int count = 0;
-  ForEachMatch(surface, "iName", i_name, [&](int) {
+  ForEachMatch(surface, kTagIName, i_name, [&](int) {
     if (EqualsNoCase(surface.ObjTag("libell"), label)) ++count;
   });
   return count;
@@ -79,7 +80,7 @@ int SelectByTag(Surface& surface, std::string_view tag_name, const TagMatch& val
 
 int DeleteByTagId(Surface& surface, std::string_view id) {
   CursorKeeper keeper(surface);
-  const std::vector<int> numbers = FindObjectList(surface, "Id", std::string(id));
+  const std::vector<int> numbers = FindObjectList(surface, kTagId, std::string(id));
   int count = 0;
   surface.BeginStep("");
   for (int number : numbers) {
@@ -121,9 +122,9 @@ int MaxIdNumber(Surface& surface, int i_name) {
   CursorKeeper keeper(surface);
   int largest = 0;
   bool any = false;
-  ForEachMatch(surface, "iName", i_name, [&](int) {
+  ForEachMatch(surface, kTagIName, i_name, [&](int) {
     int number = 0;
-    if (!IdNumberOf(surface.ObjTag("Id"), number)) return;
+    if (!IdNumberOf(surface.ObjTag(kTagId), number)) return;
     largest = any ? std::max(largest, number) : number;
     any = true;
   });
@@ -136,12 +137,12 @@ std::array<int, 100> MaxIdNumbers(Surface& surface) {
   std::array<bool, 100> any{};
   for (int n = surface.FirstObject(); n > 0; n = surface.NextObject()) {
     double kind = 0;
-    if (!ReadWholeNumber(surface.ObjTag("iName"), kind) || kind < 1 || kind > 99 ||
+    if (!ReadWholeNumber(surface.ObjTag(kTagIName), kind) || kind < 1 || kind > 99 ||
         kind != std::floor(kind)) {
       continue;
     }
     int number = 0;
-    if (!IdNumberOf(surface.ObjTag("Id"), number)) continue;
+    if (!IdNumberOf(surface.ObjTag(kTagId), number)) continue;
     const auto i = static_cast<std::size_t>(kind);
     largest[i] = any[i] ? std::max(largest[i], number) : number;
     any[i] = true;
@@ -159,7 +160,7 @@ std::pair<double, double> ObjectCentre(const Surface& surface, int number) {
 
 double NodeHalfSize(Surface& surface, double symbol_size) {
   CursorKeeper keeper(surface);
-  const int node = surface.FindByTag("iName", kNodeKind, true);
+  const int node = surface.FindByTag(kTagIName, kNodeKind, true);
   if (node <= 0) return surface.ViewHeight() / 150;
   const double half = (static_cast<double>(surface.ObjRight()) - surface.ObjLeft()) / 2;
   return half >= 1 ? half : symbol_size;

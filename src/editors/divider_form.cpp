@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "drawing/object_tags.h"
 #include "drawing/surface_guards.h"
 #include "drawing/surface_helpers.h"
 #include "editors/element_label.h"
@@ -80,7 +81,7 @@ void DividerForm::ClickCell(Grid& grid, int col, int row) {
     const int link = links_.HandleOf(spread1_.Text(col, row));
     if (link > 0) {
       HighlightObjects(context_.surface, {link});
-      context_.ui.ShowStatus(TagOfObject(context_.surface, link, "Id"));
+      context_.ui.ShowStatus(TagOfObject(context_.surface, link, kTagId));
       return;
     }
   }

@@ -1,6 +1,7 @@
 #include "editors/edit_sheets.h"
 
 #include "network/catalogue.h"
+#include "network/network_tags.h"
 
 namespace pluvane {
 
@@ -50,8 +51,8 @@ std::vector<SheetLayout> MakeSheets() {
   return {
       {kINamePLU,
        "Pluviographes",
-       {Label(), Number("Coordonnée X (m)", "Xus", -kLevel, kLevel, 2),
-        Number("Coordonnée Y (m)", "Yus", -kLevel, kLevel, 2)},
+       {Label(), Number("Coordonnée X (m)", kTagXus, -kLevel, kLevel, 2),
+        Number("Coordonnée Y (m)", kTagYus, -kLevel, kLevel, 2)},
        {}},
       {kINameRSP,
        "Bassins RSP",

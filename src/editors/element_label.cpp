@@ -1,5 +1,6 @@
 #include "editors/element_label.h"
 
+#include "drawing/object_tags.h"
 #include "drawing/surface_helpers.h"
 #include "foundation/numbers.h"
 #include "foundation/text.h"
@@ -7,7 +8,7 @@
 namespace pluvane {
 
 bool LabelTakenByOther(Surface& surface, int element, std::string_view label) {
-  const int i_name = ValInt(TagOfObject(surface, element, "iName"));
+  const int i_name = ValInt(TagOfObject(surface, element, kTagIName));
   int count = LabelCount(surface, i_name, label);
   if (EqualsNoCase(TagOfObject(surface, element, "libell"), label)) --count;
   return count >= 1;
@@ -19,7 +20,7 @@ void ShowLabelTaken(UserInterface& ui, const std::string& label, MessageIcon ico
 
 LabelCounts::LabelCounts(Surface& surface, int i_name) {
   for (int n = surface.NextObjectNumber(0); n > 0; n = surface.NextObjectNumber(n)) {
-    if (ValInt(TagOfObject(surface, n, "iName")) != i_name) continue;
+    if (ValInt(TagOfObject(surface, n, kTagIName)) != i_name) continue;
     ++counts_[UCase(TagOfObject(surface, n, "libell"))];
   }
 }

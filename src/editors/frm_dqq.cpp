@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <string>
 
+#include "drawing/object_tags.h"
 #include "drawing/surface_guards.h"
 #include "drawing/surface_helpers.h"
 #include "editors/element_label.h"
@@ -125,7 +126,7 @@ void FrmDqq::cmdVisu() {
                             MessageIcon::kInformation);
     return;
   }
-  const std::string id = TagOfObject(context_.surface, element(), "Id");
+  const std::string id = TagOfObject(context_.surface, element(), kTagId);
   ShowGridPlot(context_, spread2_, "Qd", "Dérivation en fonction de Qam : " + id);
 }
 

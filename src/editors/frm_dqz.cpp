@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "drawing/object_tags.h"
 #include "drawing/surface_guards.h"
 #include "drawing/surface_helpers.h"
 #include "editors/frm_crbx.h"
@@ -86,7 +87,7 @@ void FrmDqz::OpenParameters(const DqzBranch& branch, int type) {
 void FrmDqz::ReadStrickler(const DqzBranch& branch, int row) {
   Surface& surface = context_.surface;
   const int link = surface.FindById(spread1_.Text(kColValue, row));
-  const int i_name = link > 0 ? ValInt(TagOfObject(surface, link, "iName")) : 0;
+  const int i_name = link > 0 ? ValInt(TagOfObject(surface, link, kTagIName)) : 0;
   if (i_name != kINameCAC && i_name != kINameCAF && i_name != kINameCAO && i_name != kINameTR) {
     context_.ui.ShowMessage("Le type Strickler n'est possible que pour les collecteurs", kTitle,
                             MessageIcon::kInformation);

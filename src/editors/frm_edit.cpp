@@ -6,6 +6,7 @@
 #include <map>
 #include <utility>
 
+#include "drawing/object_tags.h"
 #include "drawing/surface_guards.h"
 #include "drawing/surface_helpers.h"
 #include "editors/curve_tags.h"
@@ -67,7 +68,7 @@ FrmEdit::FrmEdit(EditorContext& context) : context_(context) {
   // One walk of the drawing makes the rows of every sheet.
   std::map<int, std::vector<int>> by_kind;
   for (int n = surface.NextObjectNumber(0); n > 0; n = surface.NextObjectNumber(n)) {
-    by_kind[ValInt(TagOfObject(surface, n, "iName"))].push_back(n);
+    by_kind[ValInt(TagOfObject(surface, n, kTagIName))].push_back(n);
   }
   const std::string sections = SectionListEntries(surface);
   sheets_.reserve(EditSheets().size());

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "drawing/object_tags.h"
 #include "editors/element_tags.h"
 
 namespace pluvane {
@@ -17,7 +18,7 @@ void FrmTrans::cmdOk() {
     return;
   }
   SetTagOfObject(context_.surface, Element(), "libell", label);
-  SetTagOfObject(context_.surface, Element(), "Id", OldLabel());
+  SetTagOfObject(context_.surface, Element(), kTagId, OldLabel());
 }
 
 }  // namespace pluvane

@@ -1,5 +1,6 @@
 #include "editors/label_check.h"
 
+#include "drawing/object_tags.h"
 #include "drawing/surface_helpers.h"
 #include "foundation/numbers.h"
 
@@ -16,7 +17,7 @@ std::string DuplicateLabelMessage(std::string_view label) {
 bool WriteUniqueLabel(Surface& surface, UserInterface& ui, const std::string& label,
                       const std::string& old_label) {
   surface.SetObjTag("libell", label);
-  const int i_name = ValInt(surface.ObjTag("iName"));
+  const int i_name = ValInt(surface.ObjTag(kTagIName));
   if (!IsDuplicateLabel(LabelCount(surface, i_name, label))) return true;
   surface.SetObjTag("libell", old_label);
   ui.ShowMessage(DuplicateLabelMessage(label), kInputErrorTitle, MessageIcon::kNone);

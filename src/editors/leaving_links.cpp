@@ -5,6 +5,7 @@
 #include "foundation/numbers.h"
 #include "foundation/text.h"
 #include "network/catalogue.h"
+#include "network/network_tags.h"
 
 namespace pluvane {
 
@@ -25,15 +26,15 @@ int LeavingLinks::HandleOf(std::string_view label) const {
 }
 
 int NodeOfElement(Surface& surface, int element) {
-  const std::string id = TagOfObject(surface, element, "sNodAm");
+  const std::string id = TagOfObject(surface, element, kTagSNodAm);
   if (Trim(id).empty()) return 0;
   // The index of Ids finds the node at once; a node that shares its Id with
   // another object is searched by both tags.
   const int first = surface.FindById(id);
-  if (first > 0 && ValInt(TagOfObject(surface, first, "iName")) == kINameNode) return first;
+  if (first > 0 && ValInt(TagOfObject(surface, first, kTagIName)) == kINameNode) return first;
   if (surface.CountById(id) < 2) return 0;
   CursorKeeper keeper(surface);
-  return FindObject2(surface, "iName", kINameNode, "Id", id);
+  return FindObject2(surface, kTagIName, kINameNode, kTagId, id);
 }
 
 LeavingLinks LinksLeavingNode(Surface& surface, int element) {
@@ -44,7 +45,7 @@ LeavingLinks LinksLeavingNode(Surface& surface, int element) {
   for (int link : surface.LinksOf(node)) {
     surface.SetCurrentObject(link);
     if (surface.CurrentObject() != link || surface.ObjectKind() != kKindLink) continue;
-    if (ValInt(surface.ObjTag("iGroup")) != kGroupLink) continue;
+    if (ValInt(surface.ObjTag(kTagIGroup)) != kGroupLink) continue;
     if (surface.LinkEndObject(0) != node) continue;
     links.handles.push_back(link);
     links.labels.push_back(surface.ObjTag("libell"));

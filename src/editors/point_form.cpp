@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "drawing/object_tags.h"
 #include "drawing/surface_helpers.h"
 #include "editors/element_tags.h"
 #include "editors/grid_plot_view.h"
@@ -75,7 +76,7 @@ void PointForm::cmdDelLine() {
 }
 
 void PointForm::cmdVisu() {
-  ShowGridPlot(context_, spread2_, kCurveWord, plot_.prefix + Tag("Id") + plot_.suffix);
+  ShowGridPlot(context_, spread2_, kCurveWord, plot_.prefix + Tag(kTagId) + plot_.suffix);
 }
 
 void PointForm::LoadPoints(int count) {

@@ -2,6 +2,7 @@
 
 #include <filesystem>
 
+#include "drawing/object_tags.h"
 #include "drawing/surface_guards.h"
 #include "drawing/surface_helpers.h"
 #include "foundation/lists.h"
@@ -17,9 +18,9 @@ int WriteSecFile(Surface& surface, const std::string& file, std::vector<std::str
   std::vector<std::string> lines;
   int count = 0;
   CursorKeeper keeper(surface);
-  for (int n : FindObjectList(surface, "iName", kINameSection)) {
+  for (int n : FindObjectList(surface, kTagIName, kINameSection)) {
     surface.SetCurrentObject(n);
-    const std::string id = surface.ObjTag("Id");
+    const std::string id = surface.ObjTag(kTagId);
     const int points = ValInt(surface.ObjTag("NbPt"));
     std::vector<double> heights;
     std::string heights_line, widths_line;

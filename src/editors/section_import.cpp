@@ -5,6 +5,7 @@
 #include <functional>
 #include <vector>
 
+#include "drawing/object_tags.h"
 #include "drawing/surface_guards.h"
 #include "editors/section_library.h"
 #include "foundation/line_parsing.h"
@@ -38,8 +39,8 @@ void MakeSection(Surface& surface, const NetworkState& state, const std::string&
                  const SectionPoints& points) {
   CursorKeeper keeper(surface);
   AddHiddenRecord(surface, state);
-  surface.SetObjTag("iName", std::to_string(kINameSection));
-  surface.SetObjTag("Id", name);
+  surface.SetObjTag(kTagIName, std::to_string(kINameSection));
+  surface.SetObjTag(kTagId, name);
   surface.SetObjTag("NbPt", std::to_string(points.heights.size()));
   for (std::size_t i = 0; i < points.heights.size(); ++i) {
     const std::string n = std::to_string(i + 1);

@@ -1,5 +1,6 @@
 #include "editors/section_library.h"
 
+#include "drawing/object_tags.h"
 #include "drawing/surface_guards.h"
 #include "drawing/surface_helpers.h"
 #include "network/catalogue.h"
@@ -8,16 +9,16 @@
 namespace pluvane {
 
 int FindSection(Surface& surface, std::string_view id) {
-  for (int n : FindObjectList(surface, "iName", kINameSection)) {
-    if (TagOfObject(surface, n, "Id") == id) return n;
+  for (int n : FindObjectList(surface, kTagIName, kINameSection)) {
+    if (TagOfObject(surface, n, kTagId) == id) return n;
   }
   return 0;
 }
 
 std::vector<std::string> SectionIds(Surface& surface) {
   std::vector<std::string> ids;
-  for (int n : FindObjectList(surface, "iName", kINameSection)) {
-    ids.push_back(TagOfObject(surface, n, "Id"));
+  for (int n : FindObjectList(surface, kTagIName, kINameSection)) {
+    ids.push_back(TagOfObject(surface, n, kTagId));
   }
   return ids;
 }
@@ -34,9 +35,9 @@ std::string SectionListEntries(Surface& surface) {
 int AddSection(Surface& surface, const NetworkState& state, std::string_view id) {
   CursorKeeper keeper(surface);
   const int number = AddHiddenRecord(surface, state);
-  surface.SetObjTag("Id", id);
-  surface.SetObjTag("iName", kINameSection);
-  surface.SetObjTag("iGroup", -1);
+  surface.SetObjTag(kTagId, id);
+  surface.SetObjTag(kTagIName, kINameSection);
+  surface.SetObjTag(kTagIGroup, -1);
   return number;
 }
 

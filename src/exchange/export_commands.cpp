@@ -46,8 +46,14 @@ void Remove(const std::string& path) {
   std::filesystem::remove(path, ignored);
 }
 
+// The folder given, else the one the user picks (empty when cancelled).
+std::string TargetFolder(const NetworkState& state, UserInterface& ui, const std::string& given) {
+  return given.empty() ? ui.BrowseFolder(NetworkFolder(state), kExportFolderTitle) : given;
+}
+
 int ExportTypes(Surface& surface, const NetworkState& state, UserInterface& ui, Console& log,
-                const ChooseExportLines& choose, const TypeExport& what) {
+                const ChooseExportLines& choose, const TypeExport& what,
+                const std::string& given_folder) {
   const std::string offer_file = JoinPath(state.WorkDir, kExportOfferFile);
   const std::string choice_file = JoinPath(state.WorkDir, kExportChoiceFile);
   Remove(offer_file);
@@ -58,7 +64,7 @@ int ExportTypes(Surface& surface, const NetworkState& state, UserInterface& ui, 
     Remove(offer_file);
     return -1;
   }
-  const std::string folder = ui.BrowseFolder(NetworkFolder(state), kExportFolderTitle);
+  const std::string folder = TargetFolder(state, ui, given_folder);
   if (folder.empty()) {
     Remove(offer_file);
     Remove(choice_file);
@@ -94,8 +100,9 @@ void ShowFileInLog(Console& console, const std::string& title, const std::string
   console.Fin(false);
 }
 
-int MnuFi_Export_Txt_Nod(Surface& surface, const NetworkState& state, UserInterface& ui) {
-  const std::string folder = ui.BrowseFolder(NetworkFolder(state), kExportFolderTitle);
+int MnuFi_Export_Txt_Nod(Surface& surface, const NetworkState& state, UserInterface& ui,
+                         const std::string& given_folder) {
+  const std::string folder = TargetFolder(state, ui, given_folder);
   if (folder.empty()) return -1;
   const std::string file = JoinPath(folder, NetworkBaseName(state) + "_Nod.txt");
   ui.ShowStatus("export des noeuds en cours...");
@@ -115,17 +122,21 @@ std::vector<std::string> CollectorOffers(Surface& surface) {
 }
 
 int MnuFi_Export_Txt_App(Surface& surface, const NetworkState& state, UserInterface& ui,
-                         Console& log, const ChooseExportLines& choose) {
+                         Console& log, const ChooseExportLines& choose,
+                         const std::string& given_folder) {
   return ExportTypes(surface, state, ui, log, choose,
                      {ApplicationTypes(), "export des apports en cours...", "Export de données",
-                      ExportApp});
+                      ExportApp},
+                     given_folder);
 }
 
 int MnuFi_Export_Txt_Can(Surface& surface, const NetworkState& state, UserInterface& ui,
-                         Console& log, const ChooseExportLines& choose) {
+                         Console& log, const ChooseExportLines& choose,
+                         const std::string& given_folder) {
   return ExportTypes(surface, state, ui, log, choose,
                      {CollectorTypes(), "export des canalisations en cours...",
-                      "Export de canalisation", ExportCan});
+                      "Export de canalisation", ExportCan},
+                     given_folder);
 }
 
 std::string MnuFi_Export_Mif_Nod(const NetworkState& state, UserInterface& ui) {

@@ -29,18 +29,23 @@ using ChooseExportLines =
 // Copies the file to the console line by line, under `title`, and ends the run.
 void ShowFileInLog(Console& console, const std::string& title, const std::string& file);
 
-// Export > Noeuds en texte: the folder asked, `<base>_Nod.txt` written there
-// and the count told. Returns the count, -1 when the dialog was cancelled.
-int MnuFi_Export_Txt_Nod(Surface& surface, const NetworkState& state, UserInterface& ui);
+// Export > Noeuds en texte: the folder asked (unless one is given),
+// `<base>_Nod.txt` written there and the count told. Returns the count, -1
+// when the dialog was cancelled.
+int MnuFi_Export_Txt_Nod(Surface& surface, const NetworkState& state, UserInterface& ui,
+                         const std::string& given_folder = {});
 
 // Export > Apports and Export > Canalisations: the types on offer chosen, the
-// folder asked, one file per type written and the report shown in `log`.
+// folder asked (unless one is given), one file per type written and the
+// report shown in `log`.
 // Returns the count of files' types written, -1 when the choice or the folder
 // was dropped.
 int MnuFi_Export_Txt_App(Surface& surface, const NetworkState& state, UserInterface& ui,
-                         Console& log, const ChooseExportLines& choose);
+                         Console& log, const ChooseExportLines& choose,
+                         const std::string& given_folder = {});
 int MnuFi_Export_Txt_Can(Surface& surface, const NetworkState& state, UserInterface& ui,
-                         Console& log, const ChooseExportLines& choose);
+                         Console& log, const ChooseExportLines& choose,
+                         const std::string& given_folder = {});
 
 // The lines offered by those two commands: one for each type that has at
 // least one element, in their order.

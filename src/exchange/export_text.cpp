@@ -3,6 +3,8 @@
 #include <cerrno>
 #include <filesystem>
 #include <fstream>
+#include <functional>
+#include <initializer_list>
 
 #include "drawing/surface_guards.h"
 #include "drawing/surface_helpers.h"
@@ -13,6 +15,7 @@
 #include "foundation/text.h"
 #include "network/catalogue.h"
 #include "network/georeferencing.h"
+#include "network/network_tags.h"
 
 namespace pluvane {
 
@@ -25,6 +28,27 @@ std::string TextField(const std::string& text, int width) {
 
 std::string Number(const Surface& surface, std::string_view tag, int width, int decimals) {
   return FormatFixed(Val(surface.ObjTag(tag)), width, decimals);
+}
+
+// A number column: its tag, width and decimals.
+struct NumberColumn {
+  const char* tag;
+  int width;
+  int decimals;
+};
+
+// The number columns of the current object, side by side.
+std::string Numbers(const Surface& surface, std::initializer_list<NumberColumn> columns) {
+  std::string text;
+  for (const NumberColumn& column : columns) {
+    text += Number(surface, column.tag, column.width, column.decimals);
+  }
+  return text;
+}
+
+// The outflow columns of an outlet or a hydrograph.
+std::string OutflowColumns(const Surface& surface) {
+  return Numbers(surface, {{"Qsec", 10, 3}, {"SR", 10, 2}});
 }
 
 // The lines of a file, built whole before it is written.
@@ -51,9 +75,20 @@ class ExportFile {
   std::string text_;
 };
 
-// The objects of one kind, in surface order.
-std::vector<int> ObjectsOf(Surface& surface, int i_name) {
-  return FindObjectList(surface, "iName", i_name);
+// Writes the lines of every object of one kind, in surface order, each made
+// current in turn, to `file`. Returns how many; nothing is written for none.
+int WriteEachObject(Surface& surface, int i_name, const std::string& file,
+                    const std::function<void(ExportFile& out, int object)>& lines) {
+  CursorKeeper keeper(surface);
+  const std::vector<int> objects = FindObjectList(surface, kTagIName, i_name);
+  if (objects.empty()) return 0;
+  ExportFile out;
+  for (int n : objects) {
+    surface.SetCurrentObject(n);
+    lines(out, n);
+  }
+  out.Write(file);
+  return static_cast<int>(objects.size());
 }
 
 // The libell (by the export's name rule) of the object whose Id is `id`, "-"
@@ -70,7 +105,7 @@ std::string NodeName(Surface& surface, const std::string& id) {
 std::string ConnectedNode(Surface& surface, const std::string& id) {
   const int node = Trim(id).empty() ? 0 : surface.FindById(id);
   if (node != 0) {
-    const std::string us_id = TagOfObject(surface, node, "UsId");
+    const std::string us_id = TagOfObject(surface, node, kTagUsId);
     if (!Trim(us_id).empty()) return us_id;
   }
   return id;
@@ -165,9 +200,9 @@ int ExportObjData2TxtFile(UserInterface& ui, const std::string& file, Surface& s
         ui.ShowProgress(percent);
         shown = percent;
       }
-      if (ValInt(surface.ObjTag("iName")) != kind) continue;
-      out.Line(PadText(ExportName(surface), 18, 0) + Number(surface, "Xus", 12, 3) +
-               Number(surface, "Yus", 12, 3) + Number(surface, "Zus", 12, 2));
+      if (ValInt(surface.ObjTag(kTagIName)) != kind) continue;
+      out.Line(PadText(ExportName(surface), 18, 0) + Number(surface, kTagXus, 12, 3) +
+               Number(surface, kTagYus, 12, 3) + Number(surface, "Zus", 12, 2));
       ++count;
     }
     out.Write(file);
@@ -183,45 +218,34 @@ int ExportObjData2TxtFile(UserInterface& ui, const std::string& file, Surface& s
 
 int ExportBVFile(Surface& surface, const Calibration& calibration, int i_name,
                  const std::string& file) {
-  CursorKeeper keeper(surface);
-  const std::vector<int> objects = ObjectsOf(surface, i_name);
-  if (objects.empty()) return 0;
-  ExportFile out;
-  for (int n : objects) {
-    surface.SetCurrentObject(n);
+  return WriteEachObject(surface, i_name, file, [&](ExportFile& out, int n) {
     if (i_name == kINameBV) {
       // A catchment that has been moved since its coordinates were written
       // is put right here.
       const auto [cx, cy] = ObjectCentre(surface, n);
       const double x = RoundLong(cx), y = RoundLong(cy);
-      surface.SetObjTag("Xus", LogicToUserX(calibration, x, y));
-      surface.SetObjTag("Yus", LogicToUserY(calibration, x, y));
-      out.Line(TextField(ExportName(surface), 20) + Number(surface, "Xus", 15, 2) +
-               Number(surface, "Yus", 15, 2) + Number(surface, "S", 10, 2) +
-               Number(surface, "L", 10, 2) + Number(surface, "m", 10, 6) +
-               Number(surface, "ci", 10, 3));
+      surface.SetObjTag(kTagXus, LogicToUserX(calibration, x, y));
+      surface.SetObjTag(kTagYus, LogicToUserY(calibration, x, y));
+      out.Line(TextField(ExportName(surface), 20) +
+               Numbers(surface, {{kTagXus, 15, 2},
+                                 {kTagYus, 15, 2},
+                                 {"S", 10, 2},
+                                 {"L", 10, 2},
+                                 {"m", 10, 6},
+                                 {"ci", 10, 3}}));
     } else {
-      out.Line(TextField(ExportName(surface), 20) + Number(surface, "Qsec", 10, 3) +
-               Number(surface, "SR", 10, 2));
+      out.Line(TextField(ExportName(surface), 20) + OutflowColumns(surface));
     }
     out.Line("");
-  }
-  out.Write(file);
-  return static_cast<int>(objects.size());
+  });
 }
 
 int ExportHYFile(Surface& surface, int i_name, const std::string& file) {
-  CursorKeeper keeper(surface);
-  const std::vector<int> objects = ObjectsOf(surface, i_name);
-  if (objects.empty()) return 0;
-  ExportFile out;
-  for (int n : objects) {
-    surface.SetCurrentObject(n);
+  return WriteEachObject(surface, i_name, file, [&surface](ExportFile& out, int n) {
     const std::string name = ExportName(surface);
-    const std::string node = ConnectedNode(surface, surface.ObjTag("sNodAm"));
+    const std::string node = ConnectedNode(surface, surface.ObjTag(kTagSNodAm));
     surface.SetCurrentObject(n);
-    out.Line(TextField(name, 20) + TextField(node, 20) + Number(surface, "Qsec", 10, 3) +
-             Number(surface, "SR", 10, 2));
+    out.Line(TextField(name, 20) + TextField(node, 20) + OutflowColumns(surface));
     // Points with an empty tag are left out, and not counted.
     std::vector<std::string> points;
     const int declared = ValInt(surface.ObjTag("NbPt"));
@@ -234,40 +258,27 @@ int ExportHYFile(Surface& surface, int i_name, const std::string& file) {
     out.Line(PadInt(static_cast<std::int16_t>(points.size()), 5));
     for (const std::string& point : points) out.Line(point);
     out.Line("");
-  }
-  out.Write(file);
-  return static_cast<int>(objects.size());
+  });
 }
 
 int ExportCanFile(Surface& surface, int i_name, const std::string& file) {
-  CursorKeeper keeper(surface);
-  const std::vector<int> objects = ObjectsOf(surface, i_name);
-  if (objects.empty()) return 0;
-  ExportFile out;
-  for (int n : objects) {
-    surface.SetCurrentObject(n);
-    const std::string upstream_id = surface.ObjTag("sNodAm");
-    const std::string downstream_id = surface.ObjTag("sNodAv");
+  return WriteEachObject(surface, i_name, file, [&surface, i_name](ExportFile& out, int n) {
+    const std::string upstream_id = surface.ObjTag(kTagSNodAm);
+    const std::string downstream_id = surface.ObjTag(kTagSNodAv);
     const std::string upstream = NodeName(surface, upstream_id);
     const std::string downstream = NodeName(surface, downstream_id);
     surface.SetCurrentObject(n);
     std::string line = TextField(ExportName(surface), 20) + TextField(upstream, 20) +
-                       TextField(downstream, 20) + Number(surface, "ZRam", 10, 2) +
-                       Number(surface, "ZRav", 10, 2);
+                       TextField(downstream, 20) +
+                       Numbers(surface, {{"ZRam", 10, 2}, {"ZRav", 10, 2}});
     line += i_name == kINameCAC ? Number(surface, "Dn", 10, 2)
                                 : TextField(surface.ObjTag("IdSect"), 10);
     line += Number(surface, "L", 10, 2);
-    if (i_name == kINameCAO) {
-      line += Number(surface, "Kmin", 10, 2) + Number(surface, "Largeur", 10, 2) +
-              Number(surface, "Kmaj", 10, 2);
-    } else {
-      line += Number(surface, "K", 10, 2) + Number(surface, "HD", 10, 2) +
-              Number(surface, "SR", 10, 2);
-    }
+    line += i_name == kINameCAO
+                ? Numbers(surface, {{"Kmin", 10, 2}, {"Largeur", 10, 2}, {"Kmaj", 10, 2}})
+                : Numbers(surface, {{"K", 10, 2}, {"HD", 10, 2}, {"SR", 10, 2}});
     out.Line(line);
-  }
-  out.Write(file);
-  return static_cast<int>(objects.size());
+  });
 }
 
 const std::vector<ExportType>& ApplicationTypes() {

@@ -4,11 +4,12 @@
 #include "exchange/obj_alpha_export.h"
 #include "foundation/dialogs.h"
 #include "foundation/text.h"
+#include "network/catalogue.h"
 
 namespace pluvane {
 
 bool ObjAlphaNetworkLoaded(Surface& surface, UserInterface& ui) {
-  if (CountByName(surface, 99) >= 2) return true;
+  if (CountByName(surface, kINameNode) >= 2) return true;
   ui.ShowMessage("Un réseau doit être chargé.", "Pluvane", MessageIcon::kExclamation);
   return false;
 }

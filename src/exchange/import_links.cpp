@@ -10,6 +10,7 @@
 #include "foundation/numbers.h"
 #include "foundation/text.h"
 #include "network/catalogue.h"
+#include "network/network_tags.h"
 #include "network/placement.h"
 
 namespace pluvane {
@@ -40,8 +41,8 @@ struct NodeRef {
 std::unordered_map<std::string, NodeRef> NodesByLabel(Surface& surface) {
   std::unordered_map<std::string, NodeRef> nodes;
   for (int n = surface.FirstObject(); n != 0; n = surface.NextObject()) {
-    if (ValInt(surface.ObjTag("iName")) != kINameNode) continue;
-    nodes.try_emplace(UCase(surface.ObjTag("libell")), NodeRef{n, surface.ObjTag("Id")});
+    if (ValInt(surface.ObjTag(kTagIName)) != kINameNode) continue;
+    nodes.try_emplace(UCase(surface.ObjTag("libell")), NodeRef{n, surface.ObjTag(kTagId)});
   }
   return nodes;
 }
@@ -98,10 +99,10 @@ int ImportLinks(ImportTarget target, const std::string& type, const std::string&
     const std::string number = std::to_string(first_number + count);
     std::string label = Trim(Field(fields, column(kLabel)));
     if (label.empty()) label = type + "_" + number;
-    surface.SetObjTag("Id", type + "_" + number);
+    surface.SetObjTag(kTagId, type + "_" + number);
     surface.SetObjTag("libell", ReplaceText(label, " ", "_"));
-    surface.SetObjTag("sNodAm", up->second.id);
-    surface.SetObjTag("sNodAv", down->second.id);
+    surface.SetObjTag(kTagSNodAm, up->second.id);
+    surface.SetObjTag(kTagSNodAv, down->second.id);
     surface.SetObjTag("ZRam", Val(Field(fields, column(kZUp))));
     surface.SetObjTag("ZRav", Val(Field(fields, column(kZDown))));
     surface.SetObjTag("L", Val(Field(fields, column(kLength))));

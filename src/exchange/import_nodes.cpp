@@ -4,10 +4,8 @@
 #include <cmath>
 #include <limits>
 
-#include "drawing/surface_guards.h"
-#include "drawing/surface_helpers.h"
 #include "exchange/fld_file.h"
-#include "exchange/import_table.h"
+#include "exchange/import_points.h"
 #include "foundation/fixed_width.h"
 #include "foundation/numbers.h"
 #include "foundation/text.h"
@@ -18,7 +16,8 @@ namespace pluvane {
 
 namespace {
 
-enum NodeColumn { kLabel = 1, kX = 2, kY = 3, kZ = 4 };
+// The column after the label, X and Y.
+constexpr int kZ = 4;
 
 // A drawing whose map is its own logical space, or no map at all.
 bool Uncalibrated(const Calibration& c) {
@@ -39,8 +38,8 @@ void CalibrateOnExtent(ImportTarget& target, const ImportTable& table,
   for (const std::string& line : table.Lines()) {
     if (Trim(line).empty()) continue;
     GetEline(target.ui, line, 4, fields);
-    const double x = Val(Field(fields, FldColumn(columns, kX)));
-    const double y = Val(Field(fields, FldColumn(columns, kY)));
+    const double x = Val(Field(fields, FldColumn(columns, kPointXColumn)));
+    const double y = Val(Field(fields, FldColumn(columns, kPointYColumn)));
     x_min = std::min(x_min, x);
     x_max = std::max(x_max, x);
     y_min = std::min(y_min, y);
@@ -69,68 +68,22 @@ void CalibrateOnExtent(ImportTarget& target, const ImportTable& table,
 
 int ImportNodes(ImportTarget target, const std::string& data_file, const std::string& fld_file,
                 const std::string& separator) {
-  Surface& surface = target.surface;
-  std::vector<int> columns;
-  const int highest = ReadFldFile(target.ui, fld_file, columns);
-  if (highest < 0) return -1;
-  const ImportTable table(target.ui, data_file);
-  if (!table.Open()) return -1;
-  const std::string picture = ImportSymbol(target.state.SymbolDir, {"Nod.wmf", "Noeud.wmf"});
-  if (picture.empty()) {
-    ShowImportSymbolError(target);
-    return -1;
-  }
-  if (Uncalibrated(target.state.calibration)) CalibrateOnExtent(target, table, columns, highest);
-
-  UndoStep step(surface, "Annuler : Importer des noeuds");
-  CursorKeeper keeper(surface);
-  const bool redraw = surface.Redraw();
-  surface.SetRedraw(false);
-  surface.SetCurrentObject(kDefaults);
-  surface.SetEditMode(12);
-  const double half = NodeHalfSize(surface, target.state.SymbolSize);
-  int made = 0;
-  if (surface.LoadFile(picture, 1)) {
-    const int existing = surface.ObjectCount(kAllObjects);
-    int number = MaxIdNumber(surface, kINameNode);
-    const Calibration& map = target.state.calibration;
-    std::vector<std::string> fields;
-    for (std::size_t i = 0; i < table.Lines().size(); ++i) {
-      const std::string& line = table.Lines()[i];
-      if (Trim(line).empty()) continue;
-      table.Progress(i, existing, 30);
-      const int count = SplitRecord(target.ui, line, separator, highest, fields);
-      if (count == 0) continue;
-      const double x = Val(Field(fields, FldColumn(columns, kX)));
-      const double y = Val(Field(fields, FldColumn(columns, kY)));
-      const std::int32_t x_log = UserToLogicX(map, x, y), y_log = UserToLogicY(map, x, y);
-      const int node = PlaceImportedPoint(target, kINameNode, x_log, y_log, half);
-      if (node == 0) continue;
-      ++made;
-      const std::string id = "Nod_" + std::to_string(++number);
-      std::string label = Trim(Field(fields, FldColumn(columns, kLabel)));
-      if (label.empty() || label == "-") label = id;
-      surface.SetObjTag("Id", id);
-      surface.SetObjTag("libell", ReplaceText(label, " ", "_"));
-      surface.SetObjTag("Xus", x);
-      surface.SetObjTag("Yus", y);
-      surface.SetObjTag("Xlog", x_log);
-      surface.SetObjTag("Ylog", y_log);
-      if (count >= FldColumn(columns, kZ)) {
-        surface.SetObjTag("Zus", Val(Field(fields, FldColumn(columns, kZ))));
-      }
-      ++target.state.NodeCount;
+  PointImport what{.i_name = kINameNode,
+                   .symbols = {"Nod.wmf", "Noeud.wmf"},
+                   .undo_caption = "Annuler : Importer des noeuds",
+                   .id_prefix = "Nod_",
+                   .status_name = "NOD"};
+  what.before = [&target](const ImportTable& table, const std::vector<int>& columns, int highest) {
+    if (Uncalibrated(target.state.calibration)) CalibrateOnExtent(target, table, columns, highest);
+  };
+  what.more_tags = [&target](Surface& surface, const std::vector<int>& columns,
+                             const std::vector<std::string>& fields, int count) {
+    if (count >= FldColumn(columns, kZ)) {
+      surface.SetObjTag("Zus", Val(Field(fields, FldColumn(columns, kZ))));
     }
-    target.state.ElementCounters[kINameNode] =
-        std::max(target.state.ElementCounters[kINameNode], number);
-  } else {
-    ShowImportSymbolError(target);
-  }
-  target.ui.ShowProgress(-1);
-  surface.SetRedraw(redraw);
-  surface.Refresh();
-  target.ui.ShowStatus("ok " + std::to_string(made) + " NOD ont été importés.");
-  return made;
+    ++target.state.NodeCount;
+  };
+  return ImportPointTable(target, data_file, fld_file, separator, what);
 }
 
 }  // namespace pluvane

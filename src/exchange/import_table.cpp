@@ -36,8 +36,8 @@ const std::string& Field(const std::vector<std::string>& fields, int column) {
   return fields[static_cast<std::size_t>(column) - 1];
 }
 
-std::string ImportSymbol(const std::string& symbol_dir, std::initializer_list<const char*> names) {
-  for (const char* name : names) {
+std::string ImportSymbol(const std::string& symbol_dir, const std::vector<std::string>& names) {
+  for (const std::string& name : names) {
     std::string found = FindSymbolFile(symbol_dir, name);
     if (!found.empty()) return found;
   }

@@ -42,7 +42,7 @@ const std::string& Field(const std::vector<std::string>& fields, int column);
 
 // The picture file of imported points: the first of the names found in the
 // symbols folder, empty when none is.
-std::string ImportSymbol(const std::string& symbol_dir, std::initializer_list<const char*> names);
+std::string ImportSymbol(const std::string& symbol_dir, const std::vector<std::string>& names);
 
 // A point element of the type at the logical position, drawn with the
 // picture (armed beforehand) as a square of half-side `half`; its default

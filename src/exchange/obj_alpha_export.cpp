@@ -3,10 +3,12 @@
 #include <cerrno>
 #include <utility>
 
+#include "drawing/object_tags.h"
 #include "drawing/surface_helpers.h"
 #include "foundation/errors.h"
 #include "foundation/paths.h"
 #include "foundation/text.h"
+#include "network/catalogue.h"
 #include "network/hidden_record.h"
 
 namespace pluvane {
@@ -41,7 +43,7 @@ std::vector<std::string> ObjAlphaKinds(Surface& source) {
   std::vector<std::string> entries;
   for (const auto& [i_name, text] : kKinds) {
     if (CountByName(source, i_name) < 1) continue;
-    entries.push_back(i_name == 101 ? std::string(text) : std::to_string(i_name) + text);
+    entries.push_back(i_name == kINameSection ? std::string(text) : std::to_string(i_name) + text);
   }
   return entries;
 }
@@ -60,7 +62,7 @@ std::vector<int> ObjAlphaSources(Surface& source, const std::string& type) {
   for (int number = source.NextObjectNumber(0); number != 0;
        number = source.NextObjectNumber(number)) {
     if (++rank <= kSkippedObjects) continue;
-    if (match.Matches(TagOfObject(source, number, "iName"))) found.push_back(number);
+    if (match.Matches(TagOfObject(source, number, kTagIName))) found.push_back(number);
   }
   return found;
 }
@@ -101,9 +103,9 @@ ObjAlphaResult ExportObjAlpha(Surface& source, const NetworkState& state, UserIn
     for (int i = 0; i < tag_count; ++i) {
       names.push_back(source.ObjTagName(i));
       values.push_back(source.ObjTagValue(i));
-      if (names.back() == "Id") id = values.back();
+      if (names.back() == kTagId) id = values.back();
     }
-    if (FindObject2(work, "iName", TagMatch(result.type), "Id", TagMatch(id)) <= 0) {
+    if (FindObject2(work, kTagIName, TagMatch(result.type), kTagId, TagMatch(id)) <= 0) {
       AddHiddenRecord(work, state);
     }
     // Tags the destination's record has and the source's lacks stay.

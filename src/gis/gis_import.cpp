@@ -12,6 +12,7 @@
 #include <set>
 #include <unordered_map>
 
+#include "drawing/object_tags.h"
 #include "drawing/surface_guards.h"
 #include "drawing/surface_helpers.h"
 #include "exchange/import_table.h"
@@ -20,6 +21,7 @@
 #include "gis/gis_gdal.h"
 #include "network/catalogue.h"
 #include "network/georeferencing.h"
+#include "network/network_tags.h"
 #include "network/placement.h"
 
 namespace pluvane {
@@ -446,11 +448,11 @@ int ImportGisLayer(ImportTarget target, Console& console, const GisImportRequest
   std::set<std::string> ids;
   surface.SetCurrentObject(kPage);
   for (int n = surface.FirstObject(); n > 10; n = surface.NextObject()) {
-    const std::string id = surface.ObjTag("Id");
+    const std::string id = surface.ObjTag(kTagId);
     if (!id.empty()) ids.insert(id);
-    if (ValInt(surface.ObjTag("iName")) != kINameNode) continue;
-    double x = Val(surface.ObjTag("Xus")), y = Val(surface.ObjTag("Yus"));
-    if (Trim(surface.ObjTag("Xus")).empty()) {
+    if (ValInt(surface.ObjTag(kTagIName)) != kINameNode) continue;
+    double x = Val(surface.ObjTag(kTagXus)), y = Val(surface.ObjTag(kTagYus));
+    if (Trim(surface.ObjTag(kTagXus)).empty()) {
       const Shape* shape = surface.ObjectShape(n);
       const double cx = (shape->box.left + shape->box.right) / 2.0;
       const double cy = (shape->box.top + shape->box.bottom) / 2.0;
@@ -498,12 +500,12 @@ int ImportGisLayer(ImportTarget target, Console& console, const GisImportRequest
     const std::string id =
         feature ? take_id(*feature, "Nod_", node_number) : "Nod_" + std::to_string(++node_number);
     if (!feature) ids.insert(id);
-    surface.SetObjTag("Id", id);
+    surface.SetObjTag(kTagId, id);
     surface.SetObjTag("libell", id);
-    surface.SetObjTag("Xus", x);
-    surface.SetObjTag("Yus", y);
-    surface.SetObjTag("Xlog", x_log);
-    surface.SetObjTag("Ylog", y_log);
+    surface.SetObjTag(kTagXus, x);
+    surface.SetObjTag(kTagYus, y);
+    surface.SetObjTag(kTagXlog, x_log);
+    surface.SetObjTag(kTagYlog, y_log);
     if (feature) {
       set_tags(*feature);
       if (Trim(surface.ObjTag("libell")).empty()) surface.SetObjTag("libell", id);
@@ -526,7 +528,7 @@ int ImportGisLayer(ImportTarget target, Console& console, const GisImportRequest
       ++made;
       if (!near.empty()) {
         surface.SetCurrentObject(node);
-        console.AfficheMessage(surface.ObjTag("Id") + " : à moins de " + metres + " m de " +
+        console.AfficheMessage(surface.ObjTag(kTagId) + " : à moins de " + metres + " m de " +
                                IdList(near));
       }
       continue;
@@ -553,16 +555,16 @@ int ImportGisLayer(ImportTarget target, Console& console, const GisImportRequest
     if (up == down) {
       surface.SetCurrentObject(up);
       console.AfficheMessage(name_of(feature) + " : ses deux extrémités tombent sur le noeud " +
-                             surface.ObjTag("Id") + ", non importée");
+                             surface.ObjTag(kTagId) + ", non importée");
       continue;
     }
     const int link = DrawLinkByNumber(surface, state, i_name, up, down);
     if (link == 0) continue;
     ++made;
     surface.SetCurrentObject(up);
-    const std::string up_id = surface.ObjTag("Id");
+    const std::string up_id = surface.ObjTag(kTagId);
     surface.SetCurrentObject(down);
-    const std::string down_id = surface.ObjTag("Id");
+    const std::string down_id = surface.ObjTag(kTagId);
     surface.SetCurrentObject(link);
     for (std::size_t v = 1; v + 1 < p.size(); ++v) {
       const std::int32_t x = UserToLogicX(map, p[v].first, p[v].second);
@@ -570,10 +572,10 @@ int ImportGisLayer(ImportTarget target, Console& console, const GisImportRequest
       surface.SetLinkPoint(static_cast<int>(v) + 1, x, y);
     }
     const std::string id = take_id(feature, std::string(type->prefix), link_number);
-    surface.SetObjTag("Id", id);
+    surface.SetObjTag(kTagId, id);
     surface.SetObjTag("libell", id);
-    surface.SetObjTag("sNodAm", up_id);
-    surface.SetObjTag("sNodAv", down_id);
+    surface.SetObjTag(kTagSNodAm, up_id);
+    surface.SetObjTag(kTagSNodAv, down_id);
     set_tags(feature);
     if (Trim(surface.ObjTag("libell")).empty()) surface.SetObjTag("libell", id);
     if (!up_note.empty()) console.AfficheMessage(id + " : " + up_note);

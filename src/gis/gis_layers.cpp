@@ -4,11 +4,13 @@
 #include <cmath>
 #include <unordered_map>
 
+#include "drawing/object_tags.h"
 #include "drawing/surface_guards.h"
 #include "foundation/numbers.h"
 #include "foundation/text.h"
 #include "network/catalogue.h"
 #include "network/georeferencing.h"
+#include "network/network_tags.h"
 
 namespace pluvane {
 
@@ -104,7 +106,7 @@ std::vector<GisLayer> CollectGisLayers(Surface& surface, const NetworkState& sta
   const auto place_of = [&](int object) {
     surface.SetCurrentObject(object);
     Place place;
-    const std::string xus = Trim(surface.ObjTag("Xus")), yus = Trim(surface.ObjTag("Yus"));
+    const std::string xus = Trim(surface.ObjTag(kTagXus)), yus = Trim(surface.ObjTag(kTagYus));
     if (!xus.empty() && !yus.empty()) {
       place.x = Val(xus);
       place.y = Val(yus);
@@ -124,10 +126,10 @@ std::vector<GisLayer> CollectGisLayers(Surface& surface, const NetworkState& sta
   std::unordered_map<std::string, int> node_ids;
   surface.SetCurrentObject(kPage);
   for (int n = surface.FirstObject(); n > 10; n = surface.NextObject()) {
-    const Kind kind = KindOf(ValInt(surface.ObjTag("iName")));
+    const Kind kind = KindOf(ValInt(surface.ObjTag(kTagIName)));
     if (kind == Kind::kNone) continue;
     objects.emplace_back(n, kind);
-    if (kind == Kind::kNode) node_ids.emplace(surface.ObjTag("Id"), n);
+    if (kind == Kind::kNode) node_ids.emplace(surface.ObjTag(kTagId), n);
   }
   for (const auto& [n, kind] : objects) {
     if (kind == Kind::kNode) node_places.emplace(n, place_of(n));
@@ -174,7 +176,7 @@ std::vector<GisLayer> CollectGisLayers(Surface& surface, const NetworkState& sta
       builder.Set(feature, "libAm", up ? up->label : "");
       builder.Set(feature, "libAv", down ? down->label : "");
     } else if (kind == Kind::kSingular) {
-      const auto node = node_ids.find(surface.ObjTag("sNodAm"));
+      const auto node = node_ids.find(surface.ObjTag(kTagSNodAm));
       const Place place = node != node_ids.end() ? node_places[node->second] : place_of(n);
       feature.points.emplace_back(place.x, place.y);
     } else if (kind == Kind::kNode) {

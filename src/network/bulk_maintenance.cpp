@@ -9,6 +9,7 @@
 #include "drawing/surface_guards.h"
 #include "drawing/surface_helpers.h"
 #include "network/catalogue.h"
+#include "network/network_tags.h"
 #include "network/node_links.h"
 
 namespace pluvane {
@@ -36,12 +37,14 @@ std::optional<int> AskType(UserInterface& ui, const std::string& title) {
 
 // Types whose Id is a prefix and a number.
 bool RegeneratedType(int i_name) {
-  return (i_name >= 1 && i_name <= 14) || i_name == 16 || i_name == kINameNode;
+  return (i_name >= kINameBV && i_name <= kINameCLAV) || i_name == kINameMark ||
+         i_name == kINameNode;
 }
 
 // Element types: those a label is given to.
 bool LabelledType(int i_name) {
-  return (i_name >= 1 && i_name <= 16) || i_name == 21 || i_name == kINameNode;
+  return (i_name >= kINameBV && i_name <= kINameMark) || i_name == kINameBVS ||
+         i_name == kINameNode;
 }
 
 bool Matches(int i_name, int wanted) { return wanted == 0 || i_name == wanted; }
@@ -71,18 +74,18 @@ int RegenerateIds(Surface& surface, int i_name) {
   std::unordered_map<int, int> ranks;
   int count = 0;
   for (int n = surface.FirstObject(); n > 0; n = surface.NextObject()) {
-    const int type = ValInt(surface.ObjTag("iName"));
+    const int type = ValInt(surface.ObjTag(kTagIName));
     if (!RegeneratedType(type) || !Matches(type, i_name)) continue;
     const ElementType* row = ElementTypeOfIName(type);
     const std::string prefix = row ? std::string(row->prefix) : std::string();
-    surface.SetObjTag("Id", prefix + std::to_string(++ranks[type]));
+    surface.SetObjTag(kTagId, prefix + std::to_string(++ranks[type]));
     // Labels of older files were kept under "Libell".
     const std::string old_label = surface.ObjTag("Libell");
     if (!Trim(old_label).empty()) {
       surface.SetObjTag("libell", old_label);
       surface.SetObjTag("Libell", "");
     }
-    if (Trim(surface.ObjTag("libell")).empty()) surface.SetObjTag("libell", surface.ObjTag("Id"));
+    if (Trim(surface.ObjTag("libell")).empty()) surface.SetObjTag("libell", surface.ObjTag(kTagId));
     ++count;
   }
   return count;
@@ -92,9 +95,9 @@ int RegenerateLabels(Surface& surface, int i_name) {
   CursorKeeper keeper(surface);
   int count = 0;
   for (int n = surface.FirstObject(); n > 0; n = surface.NextObject()) {
-    const int type = ValInt(surface.ObjTag("iName"));
+    const int type = ValInt(surface.ObjTag(kTagIName));
     if (!LabelledType(type) || !Matches(type, i_name)) continue;
-    surface.SetObjTag("libell", surface.ObjTag("Id"));
+    surface.SetObjTag("libell", surface.ObjTag(kTagId));
     ++count;
   }
   return count;
@@ -104,7 +107,7 @@ int LowerNodeLabels(Surface& surface) {
   CursorKeeper keeper(surface);
   int count = 0;
   for (int n = surface.FirstObject(); n > 0; n = surface.NextObject()) {
-    if (ValInt(surface.ObjTag("iName")) != kINameNode) continue;
+    if (ValInt(surface.ObjTag(kTagIName)) != kINameNode) continue;
     const std::string label = surface.ObjTag("libell");
     if (label.empty() || UCase(label) != label || LCase(label) == label) continue;
     surface.SetObjTag("libell", LCase(label));
@@ -117,16 +120,16 @@ int WriteIdInNodsOfLink(Surface& surface) {
   CursorKeeper keeper(surface);
   std::vector<int> links;
   for (int n = surface.FirstObject(); n > 0; n = surface.NextObject()) {
-    if (surface.ObjectKind() == kKindLink && ValInt(surface.ObjTag("iGroup")) == kGroupLink)
+    if (surface.ObjectKind() == kKindLink && ValInt(surface.ObjTag(kTagIGroup)) == kGroupLink)
       links.push_back(n);
   }
   for (int link : links) {
     surface.SetCurrentObject(link);
     const int upstream = surface.LinkEndObject(0);
     const int downstream = surface.LinkEndObject(1);
-    surface.SetObjTag("sNodAm", upstream > 0 ? TagOfObject(surface, upstream, "Id") : "");
+    surface.SetObjTag(kTagSNodAm, upstream > 0 ? TagOfObject(surface, upstream, kTagId) : "");
     surface.SetCurrentObject(link);
-    surface.SetObjTag("sNodAv", downstream > 0 ? TagOfObject(surface, downstream, "Id") : "");
+    surface.SetObjTag(kTagSNodAv, downstream > 0 ? TagOfObject(surface, downstream, kTagId) : "");
   }
   return static_cast<int>(links.size());
 }
@@ -140,10 +143,10 @@ int WriteIdInNodsOfIgroup1(Surface& surface) {
   std::vector<Node> nodes;
   std::vector<int> points;
   for (int n = surface.FirstObject(); n > 0; n = surface.NextObject()) {
-    const int type = ValInt(surface.ObjTag("iName"));
+    const int type = ValInt(surface.ObjTag(kTagIName));
     if (type == kINameNode) {
-      nodes.push_back({surface.ObjectShape(n)->box, surface.ObjTag("Id")});
-    } else if (ValInt(surface.ObjTag("iGroup")) == kGroupPoint && LabelledType(type)) {
+      nodes.push_back({surface.ObjectShape(n)->box, surface.ObjTag(kTagId)});
+    } else if (ValInt(surface.ObjTag(kTagIGroup)) == kGroupPoint && LabelledType(type)) {
       points.push_back(n);
     }
   }
@@ -153,7 +156,7 @@ int WriteIdInNodsOfIgroup1(Surface& surface) {
     for (const Node& node : nodes) {
       if (!Inside(x, y, node.box)) continue;
       surface.SetCurrentObject(point);
-      surface.SetObjTag("sNodAm", node.id);
+      surface.SetObjTag(kTagSNodAm, node.id);
       ++count;
       break;
     }
@@ -167,10 +170,10 @@ int WriteLinkTagInGroup3(Surface& surface, std::string_view tag) {
   std::unordered_map<std::string, int> links;
   std::vector<int> regulators;
   for (int n = surface.FirstObject(); n > 0; n = surface.NextObject()) {
-    const int group = ValInt(surface.ObjTag("iGroup"));
+    const int group = ValInt(surface.ObjTag(kTagIGroup));
     if (group == kGroupRegulator) regulators.push_back(n);
     if (group != kGroupLink) continue;
-    links.emplace(surface.ObjTag("Id"), n);
+    links.emplace(surface.ObjTag(kTagId), n);
     links.emplace(surface.ObjTag("libell"), n);
   }
   links.erase("");
@@ -192,7 +195,7 @@ int WriteLinkTagInGroup3(Surface& surface, std::string_view tag) {
 
 int DeleteByIName(Surface& surface, int i_name) {
   CursorKeeper keeper(surface);
-  const std::vector<int> numbers = FindObjectList(surface, "iName", std::to_string(i_name));
+  const std::vector<int> numbers = FindObjectList(surface, kTagIName, std::to_string(i_name));
   int count = 0;
   for (int number : numbers) {
     if (surface.ObjectShape(number) && surface.DeleteObject(number) > 0) ++count;
@@ -267,7 +270,7 @@ void mnuMyUtil_WriteIdInNods(Surface& surface, UserInterface& ui) {
 void mnuMyUtil_WriteLinkIdInGroup3(Surface& surface, UserInterface& ui) {
   const std::string title = "Ecrire les identifiants des liaisons";
   if (NoNetwork(surface, ui, title)) return;
-  Report(ui, std::to_string(WriteLinkTagInGroup3(surface, "Id")) + " obj ont été traités", title);
+  Report(ui, std::to_string(WriteLinkTagInGroup3(surface, kTagId)) + " obj ont été traités", title);
 }
 
 void mnuMyUtil_WriteLinkLibInGroup3(Surface& surface, UserInterface& ui) {

@@ -5,9 +5,11 @@
 
 #include "foundation/numbers.h"
 #include "drawing/surface_guards.h"
+#include "network/catalogue.h"
 #include "network/hidden_record.h"
 #include "drawing/surface_helpers.h"
 #include "drawing/symbol_file.h"
+#include "network/network_tags.h"
 
 namespace pluvane {
 
@@ -28,7 +30,7 @@ TagList TagsOf(Surface& surface, int number) {
 // Writes the tags in their order on the current object, iName replaced.
 void WriteTags(Surface& surface, const TagList& tags, int i_name) {
   for (const auto& [name, value] : tags) {
-    if (name == "iName") {
+    if (name == kTagIName) {
       surface.SetObjTag(name, i_name);
     } else {
       surface.SetObjTag(name, value);
@@ -60,7 +62,7 @@ template <typename Make>
 int Convert(Surface& surface, int from, int to, Make make) {
   CursorKeeper keeper(surface);
   int count = 0;
-  for (int number : FindObjectList(surface, "iName", from)) {
+  for (int number : FindObjectList(surface, kTagIName, from)) {
     const TagList tags = TagsOf(surface, number);
     surface.DeleteObject(number);
     make(tags);
@@ -76,18 +78,18 @@ std::string CalibrationPointId(int index) { return "Pt" + std::to_string(index);
 
 int FindCalibrationPoint(Surface& surface, const std::string& id) {
   CursorKeeper keeper(surface);
-  return FindObject2(surface, "Id", id, "iName", kCalibrationPoint);
+  return FindObject2(surface, kTagId, id, kTagIName, kINameCalage);
 }
 
 int ShowCalibrationPoints(Surface& surface, const NetworkState& state) {
-  return Convert(surface, kHiddenCalibrationPoint, kCalibrationPoint, [&](const TagList& tags) {
-    AddCalibrationSymbol(surface, state, RoundLong(Val(TagValue(tags, "Xlog"))),
-                         RoundLong(Val(TagValue(tags, "Ylog"))));
+  return Convert(surface, kINameHiddenCalage, kINameCalage, [&](const TagList& tags) {
+    AddCalibrationSymbol(surface, state, RoundLong(Val(TagValue(tags, kTagXlog))),
+                         RoundLong(Val(TagValue(tags, kTagYlog))));
   });
 }
 
 int HideCalibrationPoints(Surface& surface, const NetworkState& state) {
-  return Convert(surface, kCalibrationPoint, kHiddenCalibrationPoint,
+  return Convert(surface, kINameCalage, kINameHiddenCalage,
                  [&](const TagList&) { AddHiddenRecord(surface, state); });
 }
 
@@ -96,10 +98,10 @@ void AddCalibrationPoints(Surface& surface, const NetworkState& state) {
   const Calibration& c = state.calibration;
   for (int i = 1; i <= kCalibrationPointCount; ++i) {
     AddCalibrationSymbol(surface, state, c.logic_x[i], c.logic_y[i]);
-    surface.SetObjTag("iName", kCalibrationPoint);
-    surface.SetObjTag("Id", CalibrationPointId(i));
-    surface.SetObjTag("Xlog", c.logic_x[i]);
-    surface.SetObjTag("Ylog", c.logic_y[i]);
+    surface.SetObjTag(kTagIName, kINameCalage);
+    surface.SetObjTag(kTagId, CalibrationPointId(i));
+    surface.SetObjTag(kTagXlog, c.logic_x[i]);
+    surface.SetObjTag(kTagYlog, c.logic_y[i]);
     surface.SetObjTag("Xcal", c.user_x[i]);
     surface.SetObjTag("Ycal", c.user_y[i]);
   }
@@ -108,8 +110,8 @@ void AddCalibrationPoints(Surface& surface, const NetworkState& state) {
 void ReadCalibrationPoint(Surface& surface, int number, Calibration& calibration, int index) {
   CursorKeeper keeper(surface);
   surface.SetCurrentObject(number);
-  calibration.logic_x[index] = RoundLong(Val(surface.ObjTag("Xlog")));
-  calibration.logic_y[index] = RoundLong(Val(surface.ObjTag("Ylog")));
+  calibration.logic_x[index] = RoundLong(Val(surface.ObjTag(kTagXlog)));
+  calibration.logic_y[index] = RoundLong(Val(surface.ObjTag(kTagYlog)));
   calibration.user_x[index] = Val(surface.ObjTag("Xcal"));
   calibration.user_y[index] = Val(surface.ObjTag("Ycal"));
 }
@@ -118,7 +120,7 @@ bool ReadCalibrationPoints(Surface& surface, int i_name, Calibration& calibratio
   CursorKeeper keeper(surface);
   int found[kCalibrationPointCount + 1] = {};
   for (int i = 1; i <= kCalibrationPointCount; ++i) {
-    found[i] = FindObject2(surface, "Id", CalibrationPointId(i), "iName", i_name);
+    found[i] = FindObject2(surface, kTagId, CalibrationPointId(i), kTagIName, i_name);
     if (found[i] < 1) return false;
   }
   for (int i = 1; i <= kCalibrationPointCount; ++i) {

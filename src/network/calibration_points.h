@@ -9,12 +9,11 @@
 #include <string>
 
 #include "drawing/surface.h"
+#include "network/catalogue.h"
 #include "network/network_state.h"
 
 namespace pluvane {
 
-inline constexpr int kCalibrationPoint = 15;
-inline constexpr int kHiddenCalibrationPoint = 150;
 inline constexpr int kCalibrationPointCount = 3;
 inline constexpr const char* kCalibrationSymbol = "CAL.wmf";
 

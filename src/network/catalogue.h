@@ -44,6 +44,9 @@ inline constexpr int kINameRainScenario = 109;
 inline constexpr int kINameCalageLabel = 110;
 inline constexpr int kINameScenario = 111;
 inline constexpr int kINameCurrentScenario = 112;
+// The records of the external rain library: a gauge's rain, a hyetograph.
+inline constexpr int kINameExternalGauge = 127;
+inline constexpr int kINameExternalHyeto = 128;
 // The hidden form of a calibration point.
 inline constexpr int kINameHiddenCalage = 150;
 

@@ -9,6 +9,7 @@
 #include "foundation/numbers.h"
 #include "foundation/text.h"
 #include "network/catalogue.h"
+#include "network/network_tags.h"
 
 namespace pluvane {
 
@@ -47,10 +48,10 @@ std::vector<Scanned> ScanObjects(Surface& surface, UserInterface& ui) {
     }
     Scanned object;
     object.number = n;
-    object.i_name_text = surface.ObjTag("iName");
+    object.i_name_text = surface.ObjTag(kTagIName);
     object.i_name = ValInt(object.i_name_text);
     if (object.i_name > kLastScanned) continue;
-    object.id = surface.ObjTag("Id");
+    object.id = surface.ObjTag(kTagId);
     object.box = surface.ObjectShape(n)->box;
     objects.push_back(std::move(object));
   }
@@ -90,16 +91,16 @@ std::optional<CheckReport> CheckForbiddenValues(Surface& surface, UserInterface&
     surface.SetCurrentObject(object.number);
     const std::string head = "Id : " + object.id;
     switch (object.i_name) {
-      case 1:
-      case 21:
+      case kINameBV:
+      case kINameBVS:
         if (Val(surface.ObjTag("m")) == 0) Fault(report, head + " : pente nulle");
         break;
-      case 2:
-      case 5:
+      case kINameRout:
+      case kINameCAC:
         if (Val(surface.ObjTag("Dn")) == 0) Fault(report, head + " : diametre nul");
         break;
-      case 6:
-      case 7: {
+      case kINameCAF:
+      case kINameCAO: {
         const std::string section = surface.ObjTag("IdSect");
         const auto found = Trim(section).empty() ? sections.end() : sections.find(section);
         if (found == sections.end()) {
@@ -133,7 +134,7 @@ std::optional<CheckReport> CheckDoublets(Surface& surface, UserInterface& ui) {
   for (const Scanned& object : objects) {
     if (Trim(object.id).empty()) continue;
     surface.SetCurrentObject(object.number);
-    if (ValInt(surface.ObjTag("iGroup")) == 0) continue;
+    if (ValInt(surface.ObjTag(kTagIGroup)) == 0) continue;
     Entry entry{object.number, object.i_name, object.id, surface.ObjTag("libell")};
     ++ids[{entry.i_name, entry.id}];
     if (!Trim(entry.label).empty()) ++labels[{entry.i_name, entry.label}];
@@ -167,9 +168,9 @@ std::optional<CheckReport> CheckOrphans(Surface& surface, UserInterface& ui) {
   std::unordered_map<std::string, int> by_id;  // the first object of each Id
   for (const Scanned& object : objects) {
     by_id.emplace(object.id, object.number);
-    if (object.i_name != 2) continue;
+    if (object.i_name != kINameRout) continue;
     surface.SetCurrentObject(object.number);
-    route_starts.insert(surface.ObjTag("sNodAm"));
+    route_starts.insert(surface.ObjTag(kTagSNodAm));
   }
   for (const Scanned& object : objects) {
     surface.SetCurrentObject(object.number);
@@ -179,18 +180,18 @@ std::optional<CheckReport> CheckOrphans(Surface& surface, UserInterface& ui) {
       continue;
     }
     switch (object.i_name) {
-      case 1:
+      case kINameBV:
         if (!route_starts.contains(object.id)) Fault(report, head);
         break;
-      case 3:
-      case 4:
-      case 8:
-      case 9:
-      case 10:
-      case 11:
-      case 16:
-      case 21: {
-        const std::string node = surface.ObjTag("sNodAm");
+      case kINameHYBV:
+      case kINameHY:
+      case kINameDQQ:
+      case kINameDQZ:
+      case kINameRS:
+      case kINameRSP:
+      case kINameMark:
+      case kINameBVS: {
+        const std::string node = surface.ObjTag(kTagSNodAm);
         const auto found = Trim(node).empty() ? by_id.end() : by_id.find(node);
         if (found == by_id.end() ||
             !Overlap(object.box, surface.ObjectShape(found->second)->box)) {
@@ -199,7 +200,7 @@ std::optional<CheckReport> CheckOrphans(Surface& surface, UserInterface& ui) {
         break;
       }
       case kINameNode:
-        if (ValInt(surface.ObjTag("iLink")) == 0 && surface.NodeLinkCount() == 0) {
+        if (ValInt(surface.ObjTag(kTagILink)) == 0 && surface.NodeLinkCount() == 0) {
           Fault(report, head);
         }
         break;

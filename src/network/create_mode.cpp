@@ -3,6 +3,7 @@
 #include <cstdlib>
 #include <tuple>
 
+#include "drawing/object_tags.h"
 #include "foundation/numbers.h"
 #include "network/catalogue.h"
 #include "network/default_tags.h"
@@ -65,7 +66,7 @@ void Warn(PlacementContext& c, const std::string& text, const std::string& title
 
 void PressFree(PlacementContext& c, PlacementState& p) {
   if (p.HitObject == 0) return;
-  const int i_name = Tag(c.surface, p.HitObject, "iName");
+  const int i_name = Tag(c.surface, p.HitObject, kTagIName);
   if (i_name != kINameNode && i_name != kINameHYBV) p.CancelRelease = true;
 }
 
@@ -74,7 +75,7 @@ void PressUninodal(PlacementContext& c, PlacementState& p) {
     p.CancelRelease = true;
     return;
   }
-  if (Tag(c.surface, p.HitObject, "iGroup") != kGroupNode) {
+  if (Tag(c.surface, p.HitObject, kTagIGroup) != kGroupNode) {
     Warn(c, "un obj ne peut pas être déposé sur un autre", c.caption);
     p.CancelRelease = true;
     p.TargetNode = 0;
@@ -96,7 +97,7 @@ void PressUninodal(PlacementContext& c, PlacementState& p) {
 int LinkEnd(PlacementContext& c, const PlacementState& p, bool first) {
   const bool route = INameOfKey(p.CreationKey) == kINameRout;
   if (route) {
-    const int i_name = Tag(c.surface, p.HitObject, "iName");
+    const int i_name = Tag(c.surface, p.HitObject, kTagIName);
     if (first) return i_name == kINameBV ? p.HitObject : 0;
     if (i_name != kINameHYBV) return 0;
     return NodeUnder(c.surface, p.HitObject);
@@ -245,7 +246,7 @@ PlacementResult ReleaseInCreateMode(PlacementContext& context, PlacementState& p
       if (result.created == 0) return result;
       if (!placement.PendingCalagePoint.empty()) {
         s.SetCurrentObject(result.created);
-        s.SetObjTag("Id", placement.PendingCalagePoint);
+        s.SetObjTag(kTagId, placement.PendingCalagePoint);
       }
       result.open_info_calage = true;
       break;

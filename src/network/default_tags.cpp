@@ -6,6 +6,7 @@
 #include "network/catalogue.h"
 #include "network/georeferencing.h"
 #include "drawing/surface_helpers.h"
+#include "network/network_tags.h"
 #include "network/topology.h"
 
 namespace pluvane {
@@ -28,7 +29,7 @@ class TagWriter {
       if (!no_count) ++state_.ElementCounters[i_name];
       n_ = state_.ElementCounters[i_name];
     }
-    s_.SetEditMode(11);
+    s_.SetEditMode(kEditSelection);
     Head(type);
     Body(type);
     return MakeIdUnique(s_, state_, i_name, n_);
@@ -46,24 +47,24 @@ class TagWriter {
 
   void Head(const ElementType& type) {
     if (type.i_name == kINameRayon) {
-      Text("Id", "Rayon");
-      Text("iName", "17");
+      Text(kTagId, "Rayon");
+      Text(kTagIName, std::to_string(kINameRayon));
       return;
     }
     if (type.i_name == kINameReach) {
       const std::string number = std::to_string(state_.PendingReach);
-      Text("Id", number);
-      Text("iName", "100");
+      Text(kTagId, number);
+      Text(kTagIName, std::to_string(kINameReach));
       Text("libell", "Bief" + number);
       return;
     }
     // Imports name both kinds of catchment as catchments; the BVS form comes after.
     const std::string_view prefix = import_ && type.i_name == kINameBVS ? "Bv_" : type.prefix;
     const std::string id = std::string(prefix) + std::to_string(n_);
-    Text("Id", id);
+    Text(kTagId, id);
     Text("libell", id);
-    Num("iName", type.i_name);
-    if (type.i_name != kINameCalage) Num("iGroup", type.i_group);
+    Num(kTagIName, type.i_name);
+    if (type.i_name != kINameCalage) Num(kTagIGroup, type.i_group);
   }
 
   Point Position() const {
@@ -76,8 +77,8 @@ class TagWriter {
   // Xlog, Ylog, then their map form under the names given (none on imports).
   void PositionTags(const char* x_user, const char* y_user) {
     const Point p = Position();
-    Num("Xlog", p.x);
-    Num("Ylog", p.y);
+    Num(kTagXlog, p.x);
+    Num(kTagYlog, p.y);
     if (import_) return;
     Num(x_user, LogicToUserX(state_.calibration, p.x, p.y));
     Num(y_user, LogicToUserY(state_.calibration, p.x, p.y));
@@ -87,12 +88,12 @@ class TagWriter {
     if (place_.target_node < kFirstObjectNumber) return "";
     const int current = s_.CurrentObject();
     s_.SetCurrentObject(place_.target_node);
-    const std::string id = s_.CurrentObject() == place_.target_node ? s_.ObjTag("Id") : "";
+    const std::string id = s_.CurrentObject() == place_.target_node ? s_.ObjTag(kTagId) : "";
     s_.SetCurrentObject(current);
     return id;
   }
 
-  void NodeTag() { Text("sNodAm", TargetNodeId()); }
+  void NodeTag() { Text(kTagSNodAm, TargetNodeId()); }
 
   // sNodAm and sNodAv from the link's ends; imports set them from their data.
   void EndTags() {
@@ -103,12 +104,12 @@ class TagWriter {
       const int object = s_.LinkEndObject(end);
       if (object >= kFirstObjectNumber) {
         s_.SetCurrentObject(object);
-        ids[end] = s_.ObjTag("Id");
+        ids[end] = s_.ObjTag(kTagId);
         s_.SetCurrentObject(link);
       }
     }
-    Text("sNodAm", ids[0]);
-    Text("sNodAv", ids[1]);
+    Text(kTagSNodAm, ids[0]);
+    Text(kTagSNodAv, ids[1]);
   }
 
   void Length() {
@@ -117,7 +118,7 @@ class TagWriter {
 
   void CollectorHead() {
     EndTags();
-    Num("iBief", 0);
+    Num(kTagIBief, 0);
     if (!import_) Zeros({"ZRam", "ZRav"});
   }
 
@@ -129,8 +130,8 @@ class TagWriter {
   }
 
   void Catchment() {
-    Text("sNodAm", "");
-    PositionTags("Xus", "Yus");
+    Text(kTagSNodAm, "");
+    PositionTags(kTagXus, kTagYus);
     Text("S", "5");
     Text("L", "50");
     Text("m", "0.005");
@@ -151,7 +152,7 @@ class TagWriter {
         break;
       case kINameBVS:
         Catchment();
-        Text("Id", "Bvs_" + std::to_string(n_));
+        Text(kTagId, "Bvs_" + std::to_string(n_));
         NodeTag();
         Num("Qsec", DryWeatherFlow());
         break;
@@ -211,7 +212,7 @@ class TagWriter {
         break;
       case kINamePLU:
       case kINameNode:
-        PositionTags("Xus", "Yus");
+        PositionTags(kTagXus, kTagYus);
         break;
       case kINameTR:
         EndTags();
@@ -242,14 +243,14 @@ class TagWriter {
 }  // namespace
 
 std::string MakeIdUnique(Surface& surface, NetworkState& state, int i_name, std::int32_t& counter) {
-  std::string id = surface.ObjTag("Id");
-  while (CountByTag(surface, "Id", id) >= 2) {
+  std::string id = surface.ObjTag(kTagId);
+  while (CountByTag(surface, kTagId, id) >= 2) {
     ++counter;
     if (i_name >= 1 && i_name < kINameReach) state.ElementCounters[i_name] = counter;
     const std::size_t underscore = id.find('_');
     id = underscore == std::string::npos ? "Obj_" + std::to_string(counter)
                                          : id.substr(0, underscore + 1) + std::to_string(counter);
-    surface.SetObjTag("Id", id);
+    surface.SetObjTag(kTagId, id);
   }
   return id;
 }
@@ -278,10 +279,10 @@ void WriteRadiusTags(Surface& surface, const Calibration& calibration) {
   const double yus = LogicToUserY(calibration, x, y);
   const double edge_x = LogicToUserX(calibration, x + half_width, y);
   const double edge_y = LogicToUserY(calibration, x + half_width, y);
-  surface.SetObjTag("Xlog", x);
-  surface.SetObjTag("Ylog", y);
-  surface.SetObjTag("Xus", xus);
-  surface.SetObjTag("Yus", yus);
+  surface.SetObjTag(kTagXlog, x);
+  surface.SetObjTag(kTagYlog, y);
+  surface.SetObjTag(kTagXus, xus);
+  surface.SetObjTag(kTagYus, yus);
   surface.SetObjTag("Rayon", std::hypot(edge_x - xus, edge_y - yus));
 }
 

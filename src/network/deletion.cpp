@@ -7,6 +7,7 @@
 #include "network/catalogue.h"
 #include "drawing/surface_guards.h"
 #include "drawing/surface_helpers.h"
+#include "network/network_tags.h"
 #include "network/topology.h"
 
 namespace pluvane {
@@ -16,14 +17,14 @@ namespace {
 // The node whose Id is `id`, 0 if none; the cursor does not move.
 int NodeWithId(Surface& surface, const std::string& id) {
   CursorKeeper keeper(surface);
-  return FindObject2(surface, "iName", kINameNode, "Id", id);
+  return FindObject2(surface, kTagIName, kINameNode, kTagId, id);
 }
 
 void LowerLinkCount(Surface& surface, int node) {
   surface.SetCurrentObject(node);
   if (surface.CurrentObject() != node) return;
-  const double links = Val(surface.ObjTag("iLink"));
-  if (links > 0) surface.SetObjTag("iLink", links - 1);
+  const double links = Val(surface.ObjTag(kTagILink));
+  if (links > 0) surface.SetObjTag(kTagILink, links - 1);
 }
 
 }  // namespace
@@ -35,8 +36,8 @@ int DeleteSelection(Surface& surface, NetworkState& state) {
     surface.SetCurrentObject(kSelection);
     const int object = surface.FirstSelected();
     if (object <= 0) break;
-    const int i_name = ValInt(surface.ObjTag("iName"));
-    if (i_name >= kINameReach || surface.ObjTag("Id") == "ObjAlpha") {
+    const int i_name = ValInt(surface.ObjTag(kTagIName));
+    if (i_name >= kINameReach || surface.ObjTag(kTagId) == "ObjAlpha") {
       surface.SetSelected(false);
       continue;
     }
@@ -59,7 +60,7 @@ int DeleteSelection(Surface& surface, NetworkState& state) {
       }
     } else {
       surface.SetCurrentObject(object);
-      const std::string s_nod_am = Trim(surface.ObjTag("sNodAm"));
+      const std::string s_nod_am = Trim(surface.ObjTag(kTagSNodAm));
       if (noted == 0 && !s_nod_am.empty()) noted = NodeWithId(surface, s_nod_am);
     }
     deleted += surface.DeleteObject(object);

@@ -4,6 +4,7 @@
 #include <string_view>
 #include <vector>
 
+#include "drawing/object_tags.h"
 #include "foundation/numbers.h"
 #include "network/catalogue.h"
 #include "drawing/surface_helpers.h"
@@ -28,12 +29,12 @@ std::string EditSelectedElement(Surface& surface, UserInterface& ui) {
   if (selected.size() != 1) return "";
   const int object = selected.front();
   surface.SetCurrentObject(object);
-  const int i_name = ValInt(surface.ObjTag("iName"));
+  const int i_name = ValInt(surface.ObjTag(kTagIName));
   if (i_name == kINameNode) return "";
-  const std::string id = surface.ObjTag("Id");
+  const std::string id = surface.ObjTag(kTagId);
   const std::string label = surface.ObjTag("libell");
   const bool link = surface.ObjectKind() == kKindLink;
-  const int count = SelectByTag(surface, "Id", id);
+  const int count = SelectByTag(surface, kTagId, id);
   if (count > 1) {
     if (link) {
       const int first = SelectedObjects(surface).front();

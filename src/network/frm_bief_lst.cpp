@@ -3,6 +3,7 @@
 #include <map>
 #include <utility>
 
+#include "drawing/object_tags.h"
 #include "foundation/numbers.h"
 #include "foundation/text.h"
 #include "network/catalogue.h"
@@ -123,7 +124,7 @@ void FrmBiefLst::mnSave() {
       const std::string number = Trim(reaches_.Text(1, row));
       if (number == numbers_[row - 1]) continue;
       surface_.SetCurrentObject(reach);
-      surface_.SetObjTag("Id", number);
+      surface_.SetObjTag(kTagId, number);
       surface_.SetObjTag("libell", "Bief" + number);
       renumbered = true;
     }
@@ -139,7 +140,7 @@ void FrmBiefLst::cmdOk() {
     for (int row = 1; row <= reaches_.MaxRows(); ++row) {
       if (!IsMarked(reaches_, row)) continue;
       const int reach =
-          FindObject2(surface_, "libell", "Bief" + numbers_[row - 1], "iName", kINameReach);
+          FindObject2(surface_, "libell", "Bief" + numbers_[row - 1], kTagIName, kINameReach);
       if (reach > 0) DeleteReach(surface_, reach);
     }
   }

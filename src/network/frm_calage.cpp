@@ -2,12 +2,14 @@
 
 #include <utility>
 
+#include "drawing/object_tags.h"
 #include "foundation/fixed_width.h"
 #include "foundation/grid_checks.h"
 #include "foundation/numbers.h"
 #include "foundation/text.h"
 #include "network/calibration_points.h"
 #include "drawing/surface_guards.h"
+#include "network/catalogue.h"
 #include "network/load_calibration.h"
 #include "network/map_coordinates.h"
 #include "drawing/surface_helpers.h"
@@ -32,7 +34,7 @@ FrmCalage::FrmCalage(Surface& surface, NetworkState& state, UserInterface& ui, C
       host_(std::move(host)),
       grid_(2, kCalibrationPointCount) {
   if (host_.EnableMainWindow) host_.EnableMainWindow(false);
-  if (CountByName(surface_, kCalibrationPoint) == 0) ShowCalibrationPoints(surface_, state_);
+  if (CountByName(surface_, kINameCalage) == 0) ShowCalibrationPoints(surface_, state_);
   grid_.SetCaption(Caption());
   grid_.SetColHead(1, "X");
   grid_.SetColHead(2, "Y");
@@ -104,8 +106,8 @@ void FrmCalage::cmdOk() {
     CursorKeeper keeper(surface_);
     for (int row = 1; row <= kCalibrationPointCount; ++row) {
       surface_.SetCurrentObject(points[row]);
-      surface_.SetObjTag("iName", kCalibrationPoint);
-      surface_.SetObjTag("Id", CalibrationPointId(row));
+      surface_.SetObjTag(kTagIName, kINameCalage);
+      surface_.SetObjTag(kTagId, CalibrationPointId(row));
       surface_.SetObjTag("Xcal", grid_.Value(1, row));
       surface_.SetObjTag("Ycal", grid_.Value(2, row));
       ReadCalibrationPoint(surface_, points[row], state_.calibration, row);

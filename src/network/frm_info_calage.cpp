@@ -1,5 +1,6 @@
 #include "network/frm_info_calage.h"
 
+#include "drawing/object_tags.h"
 #include "foundation/numbers.h"
 #include "drawing/surface_guards.h"
 
@@ -9,7 +10,7 @@ FrmInfoCalage::FrmInfoCalage(Surface& surface, UserInterface& ui, int record)
     : surface_(surface), ui_(ui), record_(record), grid_(2, 1) {
   CursorKeeper keeper(surface_);
   surface_.SetCurrentObject(record_);
-  if (surface_.CurrentObject() == record_) point_id_ = surface_.ObjTag("Id");
+  if (surface_.CurrentObject() == record_) point_id_ = surface_.ObjTag(kTagId);
   grid_.SetCaption(Caption());
   grid_.SetColHead(1, "X");
   grid_.SetColHead(2, "Y");

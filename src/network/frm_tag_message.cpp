@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "drawing/object_tags.h"
 #include "foundation/text.h"
 #include "drawing/surface_helpers.h"
 #include "network/locate_element.h"
@@ -65,7 +66,7 @@ int FrmTagMessage::LocateRow(int row) {
   if (row < 1 || row > lines_.MaxRows()) return 0;
   const std::string designation = DesignationOfLine(lines_.Text(1, row));
   if (designation.empty()) return 0;
-  int found = FindIgnoringCase(surface_, "Id", designation);
+  int found = FindIgnoringCase(surface_, kTagId, designation);
   if (found == 0) found = FindIgnoringCase(surface_, "libell", designation);
   if (found == 0) {
     ui_.ShowStatus("Aucun élément " + designation);

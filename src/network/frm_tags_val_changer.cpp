@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "drawing/object_tags.h"
 #include "foundation/text.h"
 #include "drawing/surface_guards.h"
 #include "network/bulk_maintenance.h"
@@ -69,7 +70,7 @@ void FrmTagEdit1::SelectLine(int row) {
 void FrmTagEdit1::cmdSave() {
   const std::string tag = edit_.Text(1, 1);
   if (object_ <= 0 || row_ == 0 || tag.empty()) return;
-  if (tag == "iName") {
+  if (tag == kTagIName) {
     ui_.ShowMessage("Le type de l'élément (iName) ne peut pas être changé.", Caption(),
                     MessageIcon::kExclamation);
     return;
@@ -90,7 +91,7 @@ FrmTagsValChanger::FrmTagsValChanger(Surface& surface, UserInterface& ui,
                          "Nouvelle valeur"};
   for (int row = 1; row <= 5; ++row) fields_.SetText(0, row, heads[row - 1]);
   fields_.SetType(1, 1, CellType::List("iGroup\tiType\tiName"));
-  fields_.SetText(1, 1, "iName");
+  fields_.SetText(1, 1, kTagIName);
 }
 
 std::vector<FormCommand> FrmTagsValChanger::Commands() {
@@ -130,7 +131,7 @@ void FrmTagsValChanger::cmdGo() {
   for (int n : matching) {
     surface_.SetCurrentObject(n);
     surface_.SetObjTag(tag, new_value);
-    report_.push_back(surface_.ObjTag("Id") + " => " + new_value + " changed");
+    report_.push_back(surface_.ObjTag(kTagId) + " => " + new_value + " changed");
   }
   report_.push_back(std::to_string(matching.size()) + " obj ont été traités");
   if (show_report_) show_report_(report_);

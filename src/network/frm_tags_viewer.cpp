@@ -9,6 +9,7 @@
 #include "drawing/surface_guards.h"
 #include "drawing/surface_helpers.h"
 #include "network/bulk_maintenance.h"
+#include "network/network_tags.h"
 
 namespace pluvane {
 
@@ -24,7 +25,7 @@ std::string JoinTabs(const std::vector<std::string>& entries) {
 }
 
 bool Skipped(const std::string& name) {
-  return name == "iGroup" || name == "iName" || name == "Xlog" || name == "Ylog";
+  return name == kTagIGroup || name == kTagIName || name == kTagXlog || name == kTagYlog;
 }
 
 }  // namespace
@@ -101,7 +102,7 @@ void FrmTagsViewer::cmdGo() {
                     MessageIcon::kExclamation);
     return;
   }
-  const std::string tag = by_type ? "iName" : "iGroup";
+  const std::string tag = by_type ? kTagIName : kTagIGroup;
   const std::vector<int> objects = FindObjectList(surface_, tag, std::to_string(*value));
   if (mode_ == "ETIQ") return Label(objects);
   if (mode_ == "APPSYMBOLE") return ChangeSymbol(tag, *value, objects);
@@ -118,7 +119,7 @@ void FrmTagsViewer::Scan(const std::string& tag, int value, const std::vector<in
   int rank = 0;
   for (int n : objects) {
     surface_.SetCurrentObject(n);
-    report_.push_back("*" + surface_.ObjTag("iName") + " " + surface_.ObjTag("libell") + " n° " +
+    report_.push_back("*" + surface_.ObjTag(kTagIName) + " " + surface_.ObjTag("libell") + " n° " +
                       std::to_string(++rank));
     for (int i = 0; i < surface_.ObjTagCount(); ++i) {
       const std::string name = surface_.ObjTagName(i);
@@ -160,7 +161,7 @@ void FrmTagsViewer::Label(const std::vector<int>& objects) {
     surface_.SetTextItalic(font->italic);
     surface_.SetTextColor(font->color);
     if (link) surface_.SetTextAngle(angle);
-    surface_.SetObjTag("Id", "ETIQ");
+    surface_.SetObjTag(kTagId, "ETIQ");
     ++count;
   }
   ui_.ShowMessage(" ok " + std::to_string(count) + " étiquettes ont été placés.", Caption(),
@@ -172,9 +173,9 @@ void FrmTagsViewer::ChangeSymbol(const std::string& tag, int value,
   CursorKeeper keeper(surface_);
   // The family of the elements: the one chosen, or that of the type.
   int family = value;
-  if (tag == "iName") {
+  if (tag == kTagIName) {
     family = 0;
-    if (!objects.empty()) family = ValInt(TagOfObject(surface_, objects.front(), "iGroup"));
+    if (!objects.empty()) family = ValInt(TagOfObject(surface_, objects.front(), kTagIGroup));
   }
   if (family != 1 && family != 3) {
     ui_.ShowMessage("Le changement de symbole ne s'applique que sur les elm uninodaux.", Caption(),

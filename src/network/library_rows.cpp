@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "drawing/object_tags.h"
 #include "foundation/text.h"
 #include "drawing/surface_guards.h"
 #include "drawing/surface_helpers.h"
@@ -13,7 +14,7 @@ void SSMarkRowDeleted(Surface& surface, int i_name, Grid& grid, int row) {
   if (row < 1 || row > grid.MaxRows()) return;
   {
     CursorKeeper keeper(surface);
-    if (FindObject2(surface, "iName", i_name, "Id", grid.Text(1, row)) > 10) {
+    if (FindObject2(surface, kTagIName, i_name, kTagId, grid.Text(1, row)) > 10) {
       surface.SetObjTag("okDel", kDeletedMark);
     }
   }
@@ -24,10 +25,10 @@ void SSMarkRowDeleted(Surface& surface, int i_name, Grid& grid, int row) {
 std::vector<std::string> DeleteMarkedRecords(Surface& surface, int i_name) {
   std::vector<std::string> ids;
   CursorKeeper keeper(surface);
-  for (int number : FindObjectList(surface, "iName", i_name)) {
+  for (int number : FindObjectList(surface, kTagIName, i_name)) {
     surface.SetCurrentObject(number);
     if (surface.ObjTag("okDel") != kDeletedMark) continue;
-    ids.push_back(surface.ObjTag("Id"));
+    ids.push_back(surface.ObjTag(kTagId));
     surface.DeleteObject(number);
   }
   return ids;

@@ -9,6 +9,7 @@
 #include "network/catalogue.h"
 #include "network/default_tags.h"
 #include "network/georeferencing.h"
+#include "network/network_tags.h"
 #include "network/reaches.h"
 #include "drawing/surface_guards.h"
 #include "drawing/surface_helpers.h"
@@ -74,16 +75,16 @@ void WriteHalf(Surface& surface, const HalfTags& half, const std::string& i_bief
   surface.SetObjTag("L", half.length);
   surface.SetObjTag("ZRam", half.z_ram);
   surface.SetObjTag("ZRav", half.z_rav);
-  surface.SetObjTag("sNodAm", half.upstream_id);
-  surface.SetObjTag("sNodAv", half.downstream_id);
-  surface.SetObjTag("iBief", i_bief);
+  surface.SetObjTag(kTagSNodAm, half.upstream_id);
+  surface.SetObjTag(kTagSNodAv, half.downstream_id);
+  surface.SetObjTag(kTagIBief, i_bief);
   if (i_name == kINameCAC) surface.SetObjTag("Dn", dn);
 }
 
 void CountLinkAt(Surface& surface, int node) {
   CursorKeeper keeper(surface);
   surface.SetCurrentObject(node);
-  surface.SetObjTag("iLink", ValInt(surface.ObjTag("iLink")) + 1);
+  surface.SetObjTag(kTagILink, ValInt(surface.ObjTag(kTagILink)) + 1);
 }
 
 }  // namespace
@@ -102,7 +103,7 @@ std::string BreakBubbleText(Surface& surface, int link, double x, double y) {
   CursorKeeper keeper(surface);
   surface.SetCurrentObject(link);
   if (link < kFirstObjectNumber || surface.CurrentObject() != link ||
-      surface.ObjectKind() != kKindLink || !IsCollectorIName(ValInt(surface.ObjTag("iName")))) {
+      surface.ObjectKind() != kKindLink || !IsCollectorIName(ValInt(surface.ObjTag(kTagIName)))) {
     return "";
   }
   const auto [xa, ya] = ObjectCentre(surface, surface.LinkEndObject(0));
@@ -132,13 +133,13 @@ void CopyLinkTags(Surface& surface, NetworkState& state, const LinkTemplate& old
       surface.SetObjTag(old.tags[i].first, old.tags[i].second);
     }
   }
-  surface.SetObjTag("Id", ValueOf(old, "Id"));
+  surface.SetObjTag(kTagId, ValueOf(old, kTagId));
   if (!second_half) return;
   const int i_name = INameOfKey(old.key);
   std::int32_t counter = i_name >= 1 && i_name < kINameReach ? state.ElementCounters[i_name] : 0;
   const std::string id = MakeIdUnique(surface, state, i_name, counter);
   surface.SetObjTag("libell", id);
-  surface.SetObjTag("iBief", ValueOf(old, "iBief"));
+  surface.SetObjTag(kTagIBief, ValueOf(old, kTagIBief));
 }
 
 BrokenLink BreakLink(PlacementContext& context, int link, double x, double y) {
@@ -150,7 +151,7 @@ BrokenLink BreakLink(PlacementContext& context, int link, double x, double y) {
       surface.ObjectKind() != kKindLink) {
     return made;
   }
-  const int i_name = ValInt(surface.ObjTag("iName"));
+  const int i_name = ValInt(surface.ObjTag(kTagIName));
   LinkTemplate old;
   old.key = KeyOfIName(i_name);
   old.style = {LinkStyleOfKey(state, old.key).color, -state.LinkThick, surface.LineStyle()};
@@ -160,7 +161,7 @@ BrokenLink BreakLink(PlacementContext& context, int link, double x, double y) {
   const std::string z_rav = surface.ObjTag("ZRav");
   const double length = Val(surface.ObjTag("L"));
   const std::string dn = surface.ObjTag("Dn");
-  const std::string i_bief = surface.ObjTag("iBief");
+  const std::string i_bief = surface.ObjTag(kTagIBief);
   for (int i = 0; i < surface.ObjTagCount(); ++i) {
     old.tags.emplace_back(surface.ObjTagName(i), surface.ObjTagValue(i));
   }
@@ -181,20 +182,21 @@ BrokenLink BreakLink(PlacementContext& context, int link, double x, double y) {
   const double p = PercentAlong(xu, yu, xd, yd, xn, yn);
   const double first_length = p / 100 * length;
   const std::string level = NumToText(Val(z_ram) - slope * first_length);
-  const std::string node_id = TagOfObject(surface, node, "Id");
+  const std::string node_id = TagOfObject(surface, node, kTagId);
 
   made.first = AddHalf(surface, state, old, upstream, node, false);
   if (made.first == 0) return made;
-  WriteHalf(surface, {first_length, z_ram, level, TagOfObject(surface, upstream, "Id"), node_id},
+  WriteHalf(surface, {first_length, z_ram, level, TagOfObject(surface, upstream, kTagId), node_id},
             i_bief, i_name, dn);
   CountLinkAt(surface, node);
 
   made.second = AddHalf(surface, state, old, node, downstream, true);
   if (made.second == 0) return made;
-  WriteHalf(surface,
-            {length - first_length, level, z_rav, node_id, TagOfObject(surface, downstream, "Id")},
-            i_bief, i_name, dn);
-  const std::string second_id = surface.ObjTag("Id");
+  WriteHalf(
+      surface,
+      {length - first_length, level, z_rav, node_id, TagOfObject(surface, downstream, kTagId)},
+      i_bief, i_name, dn);
+  const std::string second_id = surface.ObjTag(kTagId);
   CountLinkAt(surface, node);
 
   AppendToReach(surface, Trim(i_bief), ReachCollector{second_id, i_name});
@@ -207,7 +209,7 @@ void ReleaseInBreakMode(PlacementContext& context, int hit, double x, double y) 
   Surface& surface = context.surface;
   surface.SetCurrentObject(hit);
   if (hit < kFirstObjectNumber || surface.CurrentObject() != hit) return;
-  if (!IsCollectorIName(ValInt(surface.ObjTag("iName")))) {
+  if (!IsCollectorIName(ValInt(surface.ObjTag(kTagIName)))) {
     context.ui.ShowMessage(kNotBreakable, "", MessageIcon::kNone);
     return;
   }

@@ -8,6 +8,7 @@
 
 #include "drawing/surface_guards.h"
 #include "drawing/surface_helpers.h"
+#include "network/network_tags.h"
 
 namespace pluvane {
 
@@ -39,14 +40,14 @@ void Restore(Surface& surface, const LinkCopy& copy) {
   // The tags in their order, with the values of sNodAm and sNodAv exchanged.
   std::string upstream, downstream;
   for (const auto& [name, value] : copy.tags) {
-    if (name == "sNodAm") upstream = value;
-    if (name == "sNodAv") downstream = value;
+    if (name == kTagSNodAm) upstream = value;
+    if (name == kTagSNodAv) downstream = value;
   }
   surface.SetObjTagCount(static_cast<int>(copy.tags.size()));
   for (std::size_t i = 0; i < copy.tags.size(); ++i) {
     const std::string& name = copy.tags[i].first;
-    const std::string& value = name == "sNodAm"   ? downstream
-                               : name == "sNodAv" ? upstream
+    const std::string& value = name == kTagSNodAm   ? downstream
+                               : name == kTagSNodAv ? upstream
                                                   : copy.tags[i].second;
     surface.SetObjTagName(static_cast<int>(i), name);
     surface.SetObjTagValue(static_cast<int>(i), value);

@@ -9,6 +9,7 @@
 #include "foundation/text.h"
 #include "network/catalogue.h"
 #include "network/default_tags.h"
+#include "network/network_tags.h"
 #include "network/placement.h"
 #include "network/reaches.h"
 #include "drawing/surface_guards.h"
@@ -76,8 +77,8 @@ Upstream ReadUpstream(Surface& surface, const NetworkState& state, int link) {
   a.line_width = surface.LineWidth();
   a.line_color = surface.LineColor();
   a.markers = ReadLinkMarkers(surface);
-  a.identity = ReadTags(surface, {"Id", "libell", "iName", "iGroup", "iBief"});
-  const int i_name = ValInt(surface.ObjTag("iName"));
+  a.identity = ReadTags(surface, {kTagId, "libell", kTagIName, kTagIGroup, kTagIBief});
+  const int i_name = ValInt(surface.ObjTag(kTagIName));
   a.hydraulics = ReadTags(surface, HydraulicTags(i_name));
   if (!a.hydraulics.empty()) {
     a.key = KeyOfIName(i_name);
@@ -112,8 +113,8 @@ int FuseAtNode(PlacementContext& context, int node) {
   const int end = surface.LinkEndObject(1);
   const std::string z_rav = surface.ObjTag("ZRav");
   const double b_length = Val(surface.ObjTag("L"));
-  const std::string b_reach = Trim(surface.ObjTag("iBief"));
-  const std::string b_id = surface.ObjTag("Id");
+  const std::string b_reach = Trim(surface.ObjTag(kTagIBief));
+  const std::string b_id = surface.ObjTag(kTagId);
 
   UndoStep step(surface, kFusionTitle);
   const int fused = surface.AddLink(a.start, end);
@@ -136,8 +137,8 @@ int FuseAtNode(PlacementContext& context, int node) {
   surface.SetObjTag("L", a.length + b_length);
   surface.SetObjTag("ZRam", a.z_ram);
   surface.SetObjTag("ZRav", z_rav);
-  surface.SetObjTag("sNodAm", TagOfObject(surface, a.start, "Id"));
-  surface.SetObjTag("sNodAv", TagOfObject(surface, end, "Id"));
+  surface.SetObjTag(kTagSNodAm, TagOfObject(surface, a.start, kTagId));
+  surface.SetObjTag(kTagSNodAv, TagOfObject(surface, end, kTagId));
 
   // What stood on the node goes; the node takes the two old links with it.
   for (int element : ElementsOnNode(surface, node)) surface.DeleteObject(element);

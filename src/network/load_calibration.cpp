@@ -2,10 +2,12 @@
 
 #include <string>
 
+#include "drawing/object_tags.h"
 #include "foundation/numbers.h"
 #include "foundation/text.h"
 #include "network/calibration_points.h"
 #include "drawing/surface_guards.h"
+#include "network/catalogue.h"
 #include "network/georeferencing.h"
 #include "drawing/surface_helpers.h"
 
@@ -21,7 +23,7 @@ void TakeParameter(const Surface& surface, const char* tag, double& parameter) {
 
 void ReadParamReseau(Surface& surface, Calibration& c) {
   CursorKeeper keeper(surface);
-  if (FindObject(surface, "Id", "ParamReseau") < 1) return;
+  if (FindObject(surface, kTagId, "ParamReseau") < 1) return;
   TakeParameter(surface, "XORI", c.XORI);
   TakeParameter(surface, "YORI", c.YORI);
   TakeParameter(surface, "XMUCOS", c.XMUCOS);
@@ -41,7 +43,7 @@ bool SolveCalibrationOrWarn(Calibration& calibration, UserInterface& ui) {
 }
 
 void LoadCalibration(Surface& surface, NetworkState& state, UserInterface& ui) {
-  if (ReadCalibrationPoints(surface, kHiddenCalibrationPoint, state.calibration)) {
+  if (ReadCalibrationPoints(surface, kINameHiddenCalage, state.calibration)) {
     SolveCalibrationOrWarn(state.calibration, ui);
   } else {
     ReadParamReseau(surface, state.calibration);

@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "drawing/object_tags.h"
 #include "foundation/numbers.h"
 #include "foundation/text.h"
 #include "network/catalogue.h"
@@ -44,7 +45,7 @@ int LocateElement(Surface& surface, NetworkState& state, UserInterface& ui, std:
     const std::string value = surface.ObjTag(tag_name);
     if (UCase(value) != wanted) continue;
     found.push_back(n);
-    lines += "\n" + value + " type " + ShortCodeOfIName(ValInt(surface.ObjTag("iName")));
+    lines += "\n" + value + " type " + ShortCodeOfIName(ValInt(surface.ObjTag(kTagIName)));
   }
   if (found.empty()) {
     ui.ShowMessage("Aucun élément " + *answer, kLocateTitle, MessageIcon::kInformation);

@@ -9,23 +9,27 @@
 #include "foundation/numbers.h"
 #include "foundation/text.h"
 #include "drawing/surface_guards.h"
+#include "network/catalogue.h"
 #include "network/georeferencing.h"
 #include "drawing/surface_helpers.h"
+#include "network/network_tags.h"
 
 namespace pluvane {
 
 namespace {
 
-bool HoldsAPlace(int i_name) { return i_name == 99 || i_name == 12 || i_name == 21 || i_name == 1; }
+bool HoldsAPlace(int i_name) {
+  return i_name == kINameNode || i_name == kINamePLU || i_name == kINameBVS || i_name == kINameBV;
+}
 
 // The point elements standing on the node, found by their sNodAm and by the
 // rule that their box covers the node's centre; the selection is not touched.
 std::vector<int> StandingOn(Surface& surface, const std::string& node_id, double cx, double cy) {
   std::vector<int> standing;
   if (Trim(node_id).empty()) return standing;
-  for (int number : FindObjectList(surface, "sNodAm", node_id)) {
+  for (int number : FindObjectList(surface, kTagSNodAm, node_id)) {
     surface.SetCurrentObject(number);
-    const int group = ValInt(surface.ObjTag("iGroup"));
+    const int group = ValInt(surface.ObjTag(kTagIGroup));
     if (group != 1 && group != 3) continue;
     if (cx < surface.ObjLeft() || cx > surface.ObjRight()) continue;
     if (cy < surface.ObjTop() || cy > surface.ObjBottom()) continue;
@@ -42,14 +46,14 @@ int RecomputeUserCoordinates(Surface& surface, const NetworkState& state) {
   surface.SetRedraw(false);
   int count = 0;
   for (int n = surface.FirstObject(); n > 0; n = surface.NextObject()) {
-    if (!HoldsAPlace(ValInt(surface.ObjTag("iName")))) continue;
+    if (!HoldsAPlace(ValInt(surface.ObjTag(kTagIName)))) continue;
     auto [cx, cy] = ObjectCentre(surface, n);
-    surface.SetObjTag("Xlog", cx);
-    surface.SetObjTag("Ylog", cy);
-    const std::int32_t x = RoundLong(Val(surface.ObjTag("Xlog")));
-    const std::int32_t y = RoundLong(Val(surface.ObjTag("Ylog")));
-    surface.SetObjTag("Xus", LogicToUserX(state.calibration, x, y));
-    surface.SetObjTag("Yus", LogicToUserY(state.calibration, x, y));
+    surface.SetObjTag(kTagXlog, cx);
+    surface.SetObjTag(kTagYlog, cy);
+    const std::int32_t x = RoundLong(Val(surface.ObjTag(kTagXlog)));
+    const std::int32_t y = RoundLong(Val(surface.ObjTag(kTagYlog)));
+    surface.SetObjTag(kTagXus, LogicToUserX(state.calibration, x, y));
+    surface.SetObjTag(kTagYus, LogicToUserY(state.calibration, x, y));
     ++count;
   }
   surface.SetRedraw(redraw);
@@ -66,8 +70,8 @@ struct MapShift {
 };
 
 std::optional<MapShift> ShiftToMap(Surface& surface, const Calibration& calibration) {
-  const double x_log = Val(surface.ObjTag("Xlog")), y_log = Val(surface.ObjTag("Ylog"));
-  const double x_us = Val(surface.ObjTag("Xus")), y_us = Val(surface.ObjTag("Yus"));
+  const double x_log = Val(surface.ObjTag(kTagXlog)), y_log = Val(surface.ObjTag(kTagYlog));
+  const double x_us = Val(surface.ObjTag(kTagXus)), y_us = Val(surface.ObjTag(kTagYus));
   if (std::fabs(x_log) < 1 && std::fabs(y_log) < 1 && std::fabs(x_us) < 0.000001 &&
       std::fabs(y_us) < 0.000001) {
     return std::nullopt;
@@ -87,8 +91,8 @@ std::optional<MapShift> ShiftToMap(Surface& surface, const Calibration& calibrat
 
 // Writes the logical position and moves the current object there.
 void ApplyShift(Surface& surface, const MapShift& shift) {
-  surface.SetObjTag("Xlog", shift.x);
-  surface.SetObjTag("Ylog", shift.y);
+  surface.SetObjTag(kTagXlog, shift.x);
+  surface.SetObjTag(kTagYlog, shift.y);
   surface.MoveObject(shift.dx, shift.dy);
 }
 
@@ -113,7 +117,8 @@ bool SnapNodeToMap(Surface& surface, const Calibration& calibration, int node) {
   if (!MakeCurrent(surface, node)) return false;
   const std::optional<MapShift> shift = ShiftToMap(surface, calibration);
   if (!shift) return false;
-  const std::vector<int> standing = StandingOn(surface, surface.ObjTag("Id"), shift->cx, shift->cy);
+  const std::vector<int> standing =
+      StandingOn(surface, surface.ObjTag(kTagId), shift->cx, shift->cy);
   surface.SetCurrentObject(node);
   ApplyShift(surface, *shift);
   for (int number : standing) {

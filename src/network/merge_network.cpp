@@ -11,6 +11,7 @@
 #include "network/calibration_points.h"
 #include "network/catalogue.h"
 #include "network/map_coordinates.h"
+#include "network/network_tags.h"
 #include "network/node_links.h"
 #include "network/persistence.h"
 #include "network/reaches.h"
@@ -55,12 +56,12 @@ class GuestRenamer {
       : surface_(surface), state_(state), ui_(ui), prefix_(std::move(prefix)) {
     for (int n : guest) {
       surface_.SetCurrentObject(n);
-      by_type_[ValInt(surface_.ObjTag("iName"))].push_back(n);
+      by_type_[ValInt(surface_.ObjTag(kTagIName))].push_back(n);
     }
     // How many objects of the drawing, host and guest, hold each Id, by type.
     for (int n = surface_.FirstObject(); n > 0; n = surface_.NextObject()) {
-      const int i_name = ValInt(surface_.ObjTag("iName"));
-      if (by_type_.count(i_name)) ++id_counts_[i_name][surface_.ObjTag("Id")];
+      const int i_name = ValInt(surface_.ObjTag(kTagIName));
+      if (by_type_.count(i_name)) ++id_counts_[i_name][surface_.ObjTag(kTagId)];
     }
   }
 
@@ -97,15 +98,15 @@ class GuestRenamer {
       const int up = surface_.LinkEndObject(0), down = surface_.LinkEndObject(1);
       const std::string up_id = IdOf(up), down_id = IdOf(down);
       surface_.SetCurrentObject(n);
-      surface_.SetObjTag("sNodAm", up_id);
-      surface_.SetObjTag("sNodAv", down_id);
+      surface_.SetObjTag(kTagSNodAm, up_id);
+      surface_.SetObjTag(kTagSNodAv, down_id);
     }
   }
 
  private:
   void Rename(int i_name, int n) {
     surface_.SetCurrentObject(n);
-    const std::string old_id = surface_.ObjTag("Id");
+    const std::string old_id = surface_.ObjTag(kTagId);
     std::string id = old_id;
     auto& counts = id_counts_[i_name];
     if (counts[id] > 1) {
@@ -121,7 +122,7 @@ class GuestRenamer {
       Recount(counts, id, prefix_ + "_" + id);
       surface_.SetObjTag("libell", prefix_ + "_" + surface_.ObjTag("libell"));
     }
-    if (id != old_id) surface_.SetObjTag("Id", id);
+    if (id != old_id) surface_.SetObjTag(kTagId, id);
     renamed_[i_name].emplace(old_id, id);
     if (i_name == kINameNode) new_nodes_.emplace(id, n);
 
@@ -151,9 +152,10 @@ class GuestRenamer {
 
   void RenameNode(int n) {
     surface_.SetCurrentObject(n);
-    const std::string node = surface_.ObjTag("sNodAm");
+    const std::string node = surface_.ObjTag(kTagSNodAm);
     if (Trim(node).empty()) return;
-    if (const std::string* found = Renamed(kINameNode, node)) surface_.SetObjTag("sNodAm", *found);
+    if (const std::string* found = Renamed(kINameNode, node))
+      surface_.SetObjTag(kTagSNodAm, *found);
   }
 
   // A catchment or a gauge goes where its map coordinates say; any other
@@ -164,7 +166,7 @@ class GuestRenamer {
       return;
     }
     surface_.SetCurrentObject(n);
-    const int node = NodeNamed(surface_.ObjTag("sNodAm"));
+    const int node = NodeNamed(surface_.ObjTag(kTagSNodAm));
     if (node < 1) return;
     surface_.SetCurrentObject(node);
     std::int32_t left, top, right, bottom;
@@ -178,12 +180,12 @@ class GuestRenamer {
     auto found = new_nodes_.find(id);
     if (found != new_nodes_.end()) return found->second;
     CursorKeeper keeper(surface_);
-    return FindObject2(surface_, "Id", id, "iName", kINameNode);
+    return FindObject2(surface_, kTagId, id, kTagIName, kINameNode);
   }
 
   std::string IdOf(int object) {
     surface_.SetCurrentObject(object);
-    return surface_.CurrentObject() == object ? surface_.ObjTag("Id") : std::string();
+    return surface_.CurrentObject() == object ? surface_.ObjTag(kTagId) : std::string();
   }
 
   Surface& surface_;
@@ -199,8 +201,8 @@ class GuestRenamer {
 };
 
 void DeleteCalibrationRecords(Surface& surface) {
-  for (int i_name : {kCalibrationPoint, kHiddenCalibrationPoint}) {
-    for (int n : FindObjectList(surface, "iName", i_name)) surface.DeleteObject(n);
+  for (int i_name : {kINameCalage, kINameHiddenCalage}) {
+    for (int n : FindObjectList(surface, kTagIName, i_name)) surface.DeleteObject(n);
   }
 }
 
@@ -213,7 +215,7 @@ int MergeNetwork(NetworkSession& s, const std::function<void()>& rebuild_arrows)
     Refuse(s.ui, "Un réseau d'accueil type Pluvane doit être chargé !");
     return 0;
   }
-  if (CountByName(surface, kHiddenCalibrationPoint) < 1) {
+  if (CountByName(surface, kINameHiddenCalage) < 1) {
     Refuse(s.ui, "Le réseau d'accueil doit être calé !");
     return 0;
   }

@@ -9,6 +9,7 @@
 #include "network/georeferencing.h"
 #include "drawing/surface_guards.h"
 #include "drawing/surface_helpers.h"
+#include "network/network_tags.h"
 #include "network/topology.h"
 
 namespace pluvane {
@@ -35,7 +36,7 @@ MoveOutcome FinishMove(Surface& surface, NetworkState& state, bool ctrl) {
   std::vector<int> links;
   for (int number : moved) {
     surface.SetCurrentObject(number);
-    const int i_name = ValInt(surface.ObjTag("iName"));
+    const int i_name = ValInt(surface.ObjTag(kTagIName));
     if (i_name == kINameRayon) {
       WriteRadiusTags(surface, state.calibration);
       ++outcome.updated;
@@ -47,19 +48,19 @@ MoveOutcome FinishMove(Surface& surface, NetworkState& state, bool ctrl) {
     }
     surface.SetSelected(true);
     const auto [cx, cy] = ObjectCentre(surface, number);
-    surface.SetObjTag("Xlog", cx);
-    surface.SetObjTag("Ylog", cy);
+    surface.SetObjTag(kTagXlog, cx);
+    surface.SetObjTag(kTagYlog, cy);
     ++outcome.updated;
     if (ctrl) {
       const std::int32_t x = RoundLong(cx), y = RoundLong(cy);
-      surface.SetObjTag("Xlog", x);
-      surface.SetObjTag("Ylog", y);
-      surface.SetObjTag("Xus", LogicToUserX(state.calibration, x, y));
-      surface.SetObjTag("Yus", LogicToUserY(state.calibration, x, y));
+      surface.SetObjTag(kTagXlog, x);
+      surface.SetObjTag(kTagYlog, y);
+      surface.SetObjTag(kTagXus, LogicToUserX(state.calibration, x, y));
+      surface.SetObjTag(kTagYus, LogicToUserY(state.calibration, x, y));
       for (int link : surface.LinksOf(number)) links.push_back(link);
     }
     if (i_name == kINameCalage) {
-      const int index = CalibrationIndex(surface.ObjTag("Id"));
+      const int index = CalibrationIndex(surface.ObjTag(kTagId));
       if (index > 0) {
         state.calibration.logic_x[index] = RoundLong(cx);
         state.calibration.logic_y[index] = RoundLong(cy);
@@ -72,7 +73,7 @@ MoveOutcome FinishMove(Surface& surface, NetworkState& state, bool ctrl) {
   links.erase(std::unique(links.begin(), links.end()), links.end());
   for (int link : links) {
     surface.SetCurrentObject(link);
-    if (!CarriesLength(ValInt(surface.ObjTag("iName")))) continue;
+    if (!CarriesLength(ValInt(surface.ObjTag(kTagIName)))) continue;
     surface.SetObjTag("L", LinkLengthFromUserTags(surface, link));
   }
   if (outcome.calibration_moved) outcome.calibration_solved = SolveCalibration(state.calibration);

@@ -21,8 +21,6 @@ constexpr const char* kPasteQuestion =
 constexpr const char* kNothingCopied = "Aucun Obj n'est copié !";
 constexpr const char* kClipboardEmpty = "Le presse-papier est vide !";
 constexpr const char* kNotOurFormat = "Le contenu du presse-papier n'est pas au format xpr!";
-// The edit mode of plain selection.
-constexpr int kSelectMode = 11;
 
 }  // namespace
 
@@ -63,7 +61,7 @@ int PasteFromClipboard(PlacementContext& context) {
     return result;
   }
   if (result != kPasteDone) context.ui.ShowMessage(kNotOurFormat, "", MessageIcon::kNone);
-  surface.SetEditMode(kSelectMode);
+  surface.SetEditMode(kEditSelection);
   return result;
 }
 

@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "drawing/object_tags.h"
 #include "foundation/numbers.h"
 #include "network/hidden_record.h"
 #include "drawing/surface_helpers.h"
@@ -13,7 +14,7 @@ namespace {
 void NewRecord(Surface& surface, const NetworkState& state, const char* id) {
   DeleteByTagId(surface, id);
   AddHiddenRecord(surface, state);
-  surface.SetObjTag("Id", id);
+  surface.SetObjTag(kTagId, id);
 }
 
 void WriteCalculationDefaults(Surface& surface, const NetworkState& state) {
@@ -44,7 +45,7 @@ void WriteParameterRecords(Surface& surface, const NetworkState& state) {
   if (!state.CoordinateSystem.empty()) surface.SetObjTag(kCoordinateSystemTag, state.CoordinateSystem);
 
   NewRecord(surface, state, kZoomFactors);
-  surface.SetObjTag("iGroup", -1);
+  surface.SetObjTag(kTagIGroup, -1);
   surface.SetObjTag("zZoom", state.ZoomFactor);
   surface.SetObjTag("zDx", RoundLong(surface.ViewLeft()));
   surface.SetObjTag("zDy", RoundLong(surface.ViewTop()));
@@ -61,7 +62,7 @@ void CreateBlankParamReseau(Surface& surface, const NetworkState& state) {
 
 void ReadParamReseau(Surface& surface, NetworkState& state) {
   const int saved = surface.CurrentObject();
-  if (FindObject(surface, "Id", kParamReseau) > 10) {
+  if (FindObject(surface, kTagId, kParamReseau) > 10) {
     state.CoordinateSystem = surface.ObjTag(kCoordinateSystemTag);
     auto take = [&](const char* tag, double& field) {
       const double value = Val(surface.ObjTag(tag));
@@ -82,7 +83,7 @@ void ReadParamReseau(Surface& surface, NetworkState& state) {
 
 bool ReadZoomFactors(Surface& surface, NetworkState& state, double& left, double& top) {
   const int saved = surface.CurrentObject();
-  const bool found = FindObject2(surface, "Id", kZoomFactors, "iGroup", -1) > 10;
+  const bool found = FindObject2(surface, kTagId, kZoomFactors, kTagIGroup, -1) > 10;
   if (found) {
     state.ZoomFactor = Val(surface.ObjTag("zZoom"));
     // A factor of nothing would leave no view at all.

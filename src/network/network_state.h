@@ -10,6 +10,7 @@
 #include <string>
 
 #include "drawing/drawing_settings.h"
+#include "foundation/settings_keys.h"
 #include "foundation/paths.h"
 
 namespace pluvane {
@@ -64,7 +65,7 @@ struct NetworkState : DrawingSettings {
 // The configuration file in use; before the start found it, the one beside
 // the programs.
 inline std::string IniFilePath(const NetworkState& state) {
-  return state.IniFile.empty() ? JoinPath(state.AppPath, "pluvane.ini") : state.IniFile;
+  return state.IniFile.empty() ? JoinPath(state.AppPath, kIniFileName) : state.IniFile;
 }
 
 // The folder of the shipped data; before the start found it, the programs'.

@@ -1,5 +1,6 @@
 #include "network/network_summary.h"
 
+#include "drawing/object_tags.h"
 #include "foundation/numbers.h"
 #include "network/calibration_points.h"
 #include "network/catalogue.h"
@@ -11,7 +12,7 @@ std::map<int, int> CountsByIName(Surface& surface) {
   CursorKeeper keeper(surface);
   std::map<int, int> counts;
   for (int n = surface.FirstObject(); n > 10; n = surface.NextObject()) {
-    const int i_name = ValLong(surface.ObjTag("iName"));
+    const int i_name = ValLong(surface.ObjTag(kTagIName));
     if (i_name > 0) ++counts[i_name];
   }
   return counts;
@@ -19,7 +20,7 @@ std::map<int, int> CountsByIName(Surface& surface) {
 
 bool IsCalibrated(Surface& surface) {
   Calibration scratch;
-  return ReadCalibrationPoints(surface, kHiddenCalibrationPoint, scratch);
+  return ReadCalibrationPoints(surface, kINameHiddenCalage, scratch);
 }
 
 std::string NetworkInfoText(Surface& surface, const NetworkState& state) {

@@ -6,6 +6,7 @@
 #include "foundation/numbers.h"
 #include "network/catalogue.h"
 #include "drawing/surface_guards.h"
+#include "network/network_tags.h"
 
 namespace pluvane {
 
@@ -14,10 +15,10 @@ int RecountNodeLinks(Surface& surface) {
   std::unordered_map<int, int> counts;  // node -> links
   std::vector<int> nodes, links;
   for (int n = surface.FirstObject(); n > 0; n = surface.NextObject()) {
-    if (ValInt(surface.ObjTag("iName")) == kINameNode) {
+    if (ValInt(surface.ObjTag(kTagIName)) == kINameNode) {
       nodes.push_back(n);
       counts[n] = 0;
-    } else if (ValInt(surface.ObjTag("iGroup")) == kGroupLink &&
+    } else if (ValInt(surface.ObjTag(kTagIGroup)) == kGroupLink &&
                surface.ObjectKind() == kKindLink) {
       links.push_back(n);
     }
@@ -32,7 +33,7 @@ int RecountNodeLinks(Surface& surface) {
   }
   for (int node : nodes) {
     surface.SetCurrentObject(node);
-    surface.SetObjTag("iLink", counts[node]);
+    surface.SetObjTag(kTagILink, counts[node]);
   }
   return static_cast<int>(links.size());
 }

@@ -3,6 +3,8 @@
 #include <cerrno>
 #include <cmath>
 
+#include "drawing/object_tags.h"
+#include "foundation/settings_keys.h"
 #include "foundation/dialogs.h"
 #include "foundation/errors.h"
 #include "foundation/fixed_width.h"
@@ -10,6 +12,7 @@
 #include "foundation/numbers.h"
 #include "foundation/paths.h"
 #include "foundation/text.h"
+#include "network/catalogue.h"
 #include "network/hidden_record.h"
 #include "network/load_calibration.h"
 #include "network/network_parameters.h"
@@ -142,8 +145,8 @@ bool OpenNetwork(NetworkSession& s, bool direct, const std::string& path) {
 
   s.state.ScenarioName.clear();
   s.ui.ShowPanel("sbrSCN", "");
-  if (FindObject(s.surface, "iName", 112) > 10) {
-    s.state.ScenarioName = Trim(s.surface.ObjTag("Id"));
+  if (FindObject(s.surface, kTagIName, kINameCurrentScenario) > 10) {
+    s.state.ScenarioName = Trim(s.surface.ObjTag(kTagId));
     s.ui.ShowPanel("sbrSCN",
                    s.state.ScenarioName + ScenarioModeText(s.surface, s.state.ScenarioName));
   }
@@ -155,7 +158,7 @@ bool OpenNetwork(NetworkSession& s, bool direct, const std::string& path) {
 void RestoreNetworkParameters(NetworkSession& s) {
   Surface& surface = s.surface;
   NetworkState& state = s.state;
-  state.NodeCount = CountByName(surface, 99);
+  state.NodeCount = CountByName(surface, kINameNode);
   // One walk for all kinds: a walk per kind made opening a large network slow.
   const std::array<int, 100> counters = MaxIdNumbers(surface);
   for (int i = 1; i <= 99; ++i) {
@@ -174,8 +177,8 @@ void RestoreNetworkParameters(NetworkSession& s) {
   std::vector<int> hidden;
   surface.SetCurrentObject(kPage);
   for (int n = surface.FirstObject(); n > 10; n = surface.NextObject()) {
-    const double i_name = Val(surface.ObjTag("iName"));
-    if ((i_name >= 100 && i_name <= 999) || surface.ObjTag("Id") == kParamReseau) {
+    const double i_name = Val(surface.ObjTag(kTagIName));
+    if ((i_name >= kINameReach && i_name <= 999) || surface.ObjTag(kTagId) == kParamReseau) {
       hidden.push_back(n);
     }
   }
@@ -222,10 +225,10 @@ bool SaveNetworkAs(NetworkSession& s) {
   s.state.NetworkFile = file;
   ShowCaption(s);
   const std::string ini = IniFilePath(s.state);
-  IniWrite("Autres", "Zoom Ini", Trim(FormatFixed(s.state.ZoomFactor, 15, 8)), ini);
-  IniWrite("Autres", "Zoom Dx", NumToText(std::round(s.surface.ViewLeft())), ini);
-  IniWrite("Autres", "Zoom Dy", NumToText(std::round(s.surface.ViewTop())), ini);
-  IniWrite("Paramètres", "Résolution Maxi", NumToText(s.state.LogicWidth), ini);
+  IniWrite(kSectionOthers, kKeyZoomFactor, Trim(FormatFixed(s.state.ZoomFactor, 15, 8)), ini);
+  IniWrite(kSectionOthers, kKeyZoomLeft, NumToText(std::round(s.surface.ViewLeft())), ini);
+  IniWrite(kSectionOthers, kKeyZoomTop, NumToText(std::round(s.surface.ViewTop())), ini);
+  IniWrite(kSectionParameters, kKeyResolution, NumToText(s.state.LogicWidth), ini);
   // The records are made after the file was written: the file holds them as
   // they stood at the previous save, and the next Save writes these.
   WriteParameterRecords(s.surface, s.state);

@@ -3,6 +3,7 @@
 #include <cmath>
 #include <string>
 
+#include "drawing/object_tags.h"
 #include "foundation/numbers.h"
 #include "network/catalogue.h"
 #include "network/default_tags.h"
@@ -110,7 +111,7 @@ int DrawSymbol(Surface& surface, NetworkState& state, UserInterface& ui, double 
     bottom = y + h;
   }
   const std::string picture = SymbolPathOfKey(state.SymbolDir, key);
-  surface.SetEditMode(12);
+  surface.SetEditMode(kEditPicture);
   if (picture.empty() || !surface.LoadFile(picture, 1)) {
     ShowSymbolError(ui, state);
     return 0;
@@ -174,7 +175,7 @@ HydrologicalComplex PlaceHydrologicalComplex(Surface& surface, NetworkState& sta
   HydrologicalComplex made;
   surface.SetCurrentObject(hit_object);
   if (hit_object < kFirstObjectNumber || surface.CurrentObject() != hit_object) return made;
-  const int i_name = ValInt(surface.ObjTag("iName"));
+  const int i_name = ValInt(surface.ObjTag(kTagIName));
   if (i_name != kINameNode && i_name != kINameHYBV) return made;
   UndoStep step(surface, kSymbolStep);
   const int node = NodeUnder(surface, hit_object);
@@ -188,7 +189,7 @@ HydrologicalComplex PlaceHydrologicalComplex(Surface& surface, NetworkState& sta
   int routes = 0;
   for (int n : ObjectsTouching(surface, made.outlet)) {
     surface.SetCurrentObject(n);
-    if (surface.ObjectKind() == kKindLink && ValInt(surface.ObjTag("iName")) == kINameRout) {
+    if (surface.ObjectKind() == kKindLink && ValInt(surface.ObjTag(kTagIName)) == kINameRout) {
       ++routes;
     }
   }

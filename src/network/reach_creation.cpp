@@ -6,6 +6,7 @@
 #include "foundation/numbers.h"
 #include "foundation/text.h"
 #include "network/catalogue.h"
+#include "network/network_tags.h"
 #include "network/reaches.h"
 #include "drawing/surface_guards.h"
 #include "drawing/surface_helpers.h"
@@ -22,7 +23,7 @@ bool IsCollector(Surface& surface, int object) {
   CursorKeeper keeper(surface);
   surface.SetCurrentObject(object);
   return object > 10 && surface.CurrentObject() == object &&
-         IsCollectorKind(ValInt(surface.ObjTag("iName")));
+         IsCollectorKind(ValInt(surface.ObjTag(kTagIName)));
 }
 
 }  // namespace
@@ -38,7 +39,7 @@ std::string ReachClickInfo(Surface& surface, UserInterface& ui, int object) {
   if (!IsCollector(surface, object)) return "";
   CursorKeeper keeper(surface);
   surface.SetCurrentObject(object);
-  const std::string reach = Trim(surface.ObjTag("iBief"));
+  const std::string reach = Trim(surface.ObjTag(kTagIBief));
   const std::string text = surface.ObjTag("libell") + " : bief " +
                            (reach.empty() || Val(reach) == 0 ? std::string("?") : reach);
   ui.ShowStatus(text);
@@ -69,8 +70,8 @@ int EndReachCreation(Surface& surface, NetworkState& state, UserInterface& ui,
     CursorKeeper keeper(surface);
     for (int object : kept) {
       surface.SetCurrentObject(object);
-      upstream.push_back(surface.ObjTag("sNodAm"));
-      downstream.push_back(surface.ObjTag("sNodAv"));
+      upstream.push_back(surface.ObjTag(kTagSNodAm));
+      downstream.push_back(surface.ObjTag(kTagSNodAv));
     }
   }
   CollectorOrder order;

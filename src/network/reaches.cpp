@@ -11,6 +11,7 @@
 #include "network/hidden_record.h"
 #include "drawing/surface_guards.h"
 #include "drawing/surface_helpers.h"
+#include "network/network_tags.h"
 
 namespace pluvane {
 
@@ -59,11 +60,11 @@ int OrdonnerCollecteurs(UserInterface& ui, const std::vector<int>& objects,
 
 int FindReach(Surface& surface, const std::string& reach_id) {
   CursorKeeper keeper(surface);
-  return FindObject2(surface, "Id", Trim(reach_id), "iName", kINameReach);
+  return FindObject2(surface, kTagId, Trim(reach_id), kTagIName, kINameReach);
 }
 
 std::vector<int> ReachRecords(Surface& surface) {
-  return FindObjectList(surface, "iName", kINameReach);
+  return FindObjectList(surface, kTagIName, kINameReach);
 }
 
 std::vector<std::string> ReachNumbers(Surface& surface) {
@@ -71,7 +72,7 @@ std::vector<std::string> ReachNumbers(Surface& surface) {
   std::vector<std::string> numbers;
   for (int reach : ReachRecords(surface)) {
     surface.SetCurrentObject(reach);
-    numbers.push_back(Trim(surface.ObjTag("Id")));
+    numbers.push_back(Trim(surface.ObjTag(kTagId)));
   }
   return numbers;
 }
@@ -92,7 +93,7 @@ std::vector<ReachCollector> ReachCollectors(Surface& surface, int reach) {
 
 int FindCollector(Surface& surface, const ReachCollector& collector) {
   CursorKeeper keeper(surface);
-  return FindObject2(surface, "Id", collector.id, "iName", collector.i_name);
+  return FindObject2(surface, kTagId, collector.id, kTagIName, collector.i_name);
 }
 
 int AddReachRecord(Surface& surface, NetworkState& state, const std::vector<int>& collectors) {
@@ -101,7 +102,7 @@ int AddReachRecord(Surface& surface, NetworkState& state, const std::vector<int>
   std::vector<ReachCollector> listed;
   for (int number : collectors) {
     surface.SetCurrentObject(number);
-    listed.push_back({surface.ObjTag("Id"), ValInt(surface.ObjTag("iName"))});
+    listed.push_back({surface.ObjTag(kTagId), ValInt(surface.ObjTag(kTagIName))});
   }
   const int reach = AddHiddenRecord(surface, state);
   const std::string reach_id = CreateDefaultTags(surface, state, kReachKey, false);
@@ -114,7 +115,7 @@ int AddReachRecord(Surface& surface, NetworkState& state, const std::vector<int>
   }
   for (int number : collectors) {
     surface.SetCurrentObject(number);
-    surface.SetObjTag("iBief", reach_id);
+    surface.SetObjTag(kTagIBief, reach_id);
   }
   return reach;
 }
@@ -154,7 +155,7 @@ void DeleteReach(Surface& surface, int reach) {
     const int number = FindCollector(surface, collector);
     if (number < 1) continue;
     surface.SetCurrentObject(number);
-    surface.SetObjTag("iBief", 0);
+    surface.SetObjTag(kTagIBief, 0);
   }
   surface.DeleteObject(reach);
 }
@@ -166,19 +167,19 @@ int UpdateReachTags(Surface& surface) {
   // The first object of each Id and iName, found in one walk.
   std::map<std::pair<std::string, int>, int> objects;
   for (int n = surface.FirstObject(); n > 0; n = surface.NextObject()) {
-    const int i_name = ValInt(surface.ObjTag("iName"));
+    const int i_name = ValInt(surface.ObjTag(kTagIName));
     if (i_name >= kINameReach || i_name < 1) continue;
-    objects.emplace(std::make_pair(surface.ObjTag("Id"), i_name), n);
+    objects.emplace(std::make_pair(surface.ObjTag(kTagId), i_name), n);
   }
   int written = 0;
   for (int reach : reaches) {
     surface.SetCurrentObject(reach);
-    const std::string reach_id = Trim(surface.ObjTag("Id"));
+    const std::string reach_id = Trim(surface.ObjTag(kTagId));
     for (const ReachCollector& collector : ReachCollectors(surface, reach)) {
       auto found = objects.find({collector.id, collector.i_name});
       if (found == objects.end()) continue;
       surface.SetCurrentObject(found->second);
-      surface.SetObjTag("iBief", reach_id);
+      surface.SetObjTag(kTagIBief, reach_id);
       ++written;
     }
   }

@@ -1,33 +1,28 @@
 #include "network/recent_files.h"
 
+#include "foundation/settings_keys.h"
 #include "foundation/ini_profile.h"
 #include "foundation/numbers.h"
 #include "foundation/text.h"
 
 namespace pluvane {
 
-namespace {
-
-const char kSection[] = "Fichiers recents";
-
-}  // namespace
-
 std::string RecentFiles::Key(int index) const {
-  return Trim(IniRead(kSection, std::to_string(index), 255, ini_file_));
+  return Trim(IniRead(kSectionRecentFiles, std::to_string(index), 255, ini_file_));
 }
 
 void RecentFiles::WriteKey(int index, const std::string& value) const {
   if (ini_file_.empty()) return;
-  IniWrite(kSection, std::to_string(index), value, ini_file_);
+  IniWrite(kSectionRecentFiles, std::to_string(index), value, ini_file_);
 }
 
 void RecentFiles::Load() {
-  max_ = ValLong(IniRead(kSection, "nbMaxFichiers", 255, ini_file_));
+  max_ = ValLong(IniRead(kSectionRecentFiles, kKeyRecentMax, 255, ini_file_));
   if (max_ <= 0) max_ = 4;
-  int count = ValLong(IniRead(kSection, "nbFichiers", 255, ini_file_));
+  int count = ValLong(IniRead(kSectionRecentFiles, kKeyRecentCount, 255, ini_file_));
   if (count > max_) {
     count = max_;
-    IniWrite(kSection, "nbFichiers", std::to_string(count), ini_file_);
+    IniWrite(kSectionRecentFiles, kKeyRecentCount, std::to_string(count), ini_file_);
   }
   captions_.clear();
   if (Key(1).empty()) return;
@@ -51,7 +46,7 @@ void RecentFiles::Add(const std::string& path) {
   int count = Count();
   if (count < max_) {
     ++count;
-    IniWrite(kSection, "nbFichiers", std::to_string(count), ini_file_);
+    IniWrite(kSectionRecentFiles, kKeyRecentCount, std::to_string(count), ini_file_);
   }
   if (Key(1) != path) {
     for (int i = max_ - 1; i >= 1; --i) WriteKey(i + 1, Key(i));
@@ -63,7 +58,7 @@ void RecentFiles::Add(const std::string& path) {
 
 void RecentFiles::WriteCount() const {
   if (ini_file_.empty()) return;
-  IniWrite(kSection, "nbFichiers", std::to_string(Count()), ini_file_);
+  IniWrite(kSectionRecentFiles, kKeyRecentCount, std::to_string(Count()), ini_file_);
 }
 
 }  // namespace pluvane

@@ -7,6 +7,7 @@
 #include "network/catalogue.h"
 #include "drawing/surface_guards.h"
 #include "drawing/surface_helpers.h"
+#include "network/network_tags.h"
 
 namespace pluvane {
 
@@ -20,9 +21,9 @@ struct NodePlace {
 
 std::vector<NodePlace> Nodes(Surface& surface) {
   std::vector<NodePlace> nodes;
-  for (int n : FindObjectList(surface, "iName", kINameNode)) {
+  for (int n : FindObjectList(surface, kTagIName, kINameNode)) {
     surface.SetCurrentObject(n);
-    NodePlace node{n, surface.ObjTag("Id"), {}};
+    NodePlace node{n, surface.ObjTag(kTagId), {}};
     surface.GetObjectBounds(node.box.left, node.box.top, node.box.right, node.box.bottom);
     nodes.push_back(std::move(node));
   }
@@ -52,16 +53,16 @@ int mnuUtil_snapSymbol(Surface& surface, UserInterface& ui) {
   std::vector<int> elements;
   surface.SetCurrentObject(kPage);
   for (int n = surface.FirstObject(); n > 0; n = surface.NextObject()) {
-    const int group = ValInt(surface.ObjTag("iGroup"));
+    const int group = ValInt(surface.ObjTag(kTagIGroup));
     if (group == kGroupPoint || group == kGroupRegulator) elements.push_back(n);
   }
   int count = 0;
   for (int n : elements) {
     surface.SetCurrentObject(n);
     const auto [cx, cy] = ObjectCentre(surface, n);
-    const NodePlace* node = NodeOf(nodes, surface.ObjTag("sNodAm"), cx, cy);
+    const NodePlace* node = NodeOf(nodes, surface.ObjTag(kTagSNodAm), cx, cy);
     if (!node) continue;
-    surface.SetObjTag("sNodAm", node->id);
+    surface.SetObjTag(kTagSNodAm, node->id);
     surface.SetObjectBounds(node->box.left, node->box.top, node->box.right, node->box.bottom);
     ++count;
   }

@@ -8,6 +8,7 @@
 #include "network/georeferencing.h"
 #include "drawing/surface_guards.h"
 #include "drawing/surface_helpers.h"
+#include "network/network_tags.h"
 
 namespace pluvane {
 
@@ -18,12 +19,12 @@ constexpr int kTouchFlags = 12288;
 
 int INameOf(Surface& surface, int number) {
   surface.SetCurrentObject(number);
-  return surface.CurrentObject() == number ? ValInt(surface.ObjTag("iName")) : 0;
+  return surface.CurrentObject() == number ? ValInt(surface.ObjTag(kTagIName)) : 0;
 }
 
 std::string IdOf(Surface& surface, int number) {
   surface.SetCurrentObject(number);
-  return surface.CurrentObject() == number ? surface.ObjTag("Id") : std::string();
+  return surface.CurrentObject() == number ? surface.ObjTag(kTagId) : std::string();
 }
 
 // The links touching the node whose end `end` is an object with the node's Id
@@ -46,9 +47,9 @@ std::vector<int> LinksAtEnd(Surface& surface, int node, int end, Accept accept) 
 
 std::pair<double, double> LogicalPosition(Surface& surface, int number) {
   surface.SetCurrentObject(number);
-  const std::string x = surface.ObjTag("Xlog");
+  const std::string x = surface.ObjTag(kTagXlog);
   if (Trim(x).empty()) return ObjectCentre(surface, number);
-  return {RoundLong(Val(x)), RoundLong(Val(surface.ObjTag("Ylog")))};
+  return {RoundLong(Val(x)), RoundLong(Val(surface.ObjTag(kTagYlog)))};
 }
 
 std::vector<int> ObjectsTouching(Surface& surface, int object) {
@@ -75,9 +76,9 @@ int NodeUnder(Surface& surface, int element) {
     node = element;
   } else if (element >= kFirstObjectNumber) {
     surface.SetCurrentObject(element);
-    const std::string s_nod_am = surface.ObjTag("sNodAm");
+    const std::string s_nod_am = surface.ObjTag(kTagSNodAm);
     if (surface.CurrentObject() == element && !Trim(s_nod_am).empty()) {
-      node = FindObject2(surface, "iName", kINameNode, "Id", s_nod_am);
+      node = FindObject2(surface, kTagIName, kINameNode, kTagId, s_nod_am);
     }
   }
   surface.SetCurrentObject(element);
@@ -89,10 +90,10 @@ int CountOnNode(Surface& surface, int node) {
   int count = 0;
   for (int n : ObjectsTouching(surface, node)) {
     surface.SetCurrentObject(n);
-    const std::string id = UCase(Trim(surface.ObjTag("Id")));
+    const std::string id = UCase(Trim(surface.ObjTag(kTagId)));
     if (id.empty() || id == "RAYON") continue;
-    if (ValInt(surface.ObjTag("iGroup")) == kGroupLink) continue;
-    if (ValInt(surface.ObjTag("iName")) == kINameNode) continue;
+    if (ValInt(surface.ObjTag(kTagIGroup)) == kGroupLink) continue;
+    if (ValInt(surface.ObjTag(kTagIName)) == kINameNode) continue;
     ++count;
   }
   if (saved >= 1) {
@@ -107,7 +108,7 @@ std::vector<int> ElementsOnNode(Surface& surface, int node) {
   std::vector<int> elements;
   for (int n : ObjectsTouching(surface, node)) {
     surface.SetCurrentObject(n);
-    const int group = ValInt(surface.ObjTag("iGroup"));
+    const int group = ValInt(surface.ObjTag(kTagIGroup));
     if (group == kGroupPoint || group == kGroupRegulator) elements.push_back(n);
   }
   return elements;
@@ -118,19 +119,19 @@ int CountGroupOnNode(Surface& surface, int node, int group) {
   int count = 0;
   for (int n : ElementsOnNode(surface, node)) {
     surface.SetCurrentObject(n);
-    if (ValInt(surface.ObjTag("iGroup")) == group) ++count;
+    if (ValInt(surface.ObjTag(kTagIGroup)) == group) ++count;
   }
   return count;
 }
 
 std::vector<int> DownstreamCollectors(Surface& surface, int node) {
   return LinksAtEnd(surface, node, 0,
-                    [](Surface& s) { return ValInt(s.ObjTag("iGroup")) == kGroupLink; });
+                    [](Surface& s) { return ValInt(s.ObjTag(kTagIGroup)) == kGroupLink; });
 }
 
 std::vector<int> UpstreamLinks(Surface& surface, int node) {
   return LinksAtEnd(surface, node, 1, [](Surface& s) {
-    switch (ValInt(s.ObjTag("iName"))) {
+    switch (ValInt(s.ObjTag(kTagIName))) {
       case kINameRout:
       case kINameCAC:
       case kINameCAF:
@@ -163,9 +164,9 @@ double LinkLengthFromUserTags(Surface& surface, int link) {
   const int end0 = surface.LinkEndObject(0);
   const int end1 = surface.LinkEndObject(1);
   surface.SetCurrentObject(end0);
-  const double x0 = Val(surface.ObjTag("Xus")), y0 = Val(surface.ObjTag("Yus"));
+  const double x0 = Val(surface.ObjTag(kTagXus)), y0 = Val(surface.ObjTag(kTagYus));
   surface.SetCurrentObject(end1);
-  const double x1 = Val(surface.ObjTag("Xus")), y1 = Val(surface.ObjTag("Yus"));
+  const double x1 = Val(surface.ObjTag(kTagXus)), y1 = Val(surface.ObjTag(kTagYus));
   return std::hypot(x1 - x0, y1 - y0);
 }
 

@@ -4,7 +4,9 @@
 #include <cmath>
 #include <limits>
 
+#include "drawing/object_tags.h"
 #include "foundation/numbers.h"
+#include "network/catalogue.h"
 
 namespace pluvane {
 
@@ -14,8 +16,8 @@ bool NetworkBounds(Surface& surface, std::int32_t& left, std::int32_t& top, std:
   bool any = false;
   surface.SetCurrentObject(kPage);
   for (int n = surface.FirstObject(); n > 10; n = surface.NextObject()) {
-    const double i_name = Val(surface.ObjTag("iName"));
-    if (i_name <= 0 || i_name >= 100) continue;
+    const double i_name = Val(surface.ObjTag(kTagIName));
+    if (i_name <= 0 || i_name >= kINameReach) continue;
     std::int32_t ol, ot, orr, ob;
     surface.GetObjectBounds(ol, ot, orr, ob);
     if (!any) {

@@ -105,9 +105,9 @@ void mnuOpt_Attrib_Text_Size(UserInterface& ui, Surface& surface) {
   ToSelection(surface, [&] { surface.SetTextSize(-static_cast<double>(TextHeight(*size))); });
 }
 
-void mnuOpt_PlacerLigne(Surface& surface) { surface.SetEditMode(kKindLine); }
-void mnuOpt_PlacerRect(Surface& surface) { surface.SetEditMode(kKindRectangle); }
-void mnuOpt_PlacerTxt(Surface& surface) { surface.SetEditMode(kKindText); }
+void mnuOpt_PlacerLigne(Surface& surface) { surface.SetEditMode(kEditLine); }
+void mnuOpt_PlacerRect(Surface& surface) { surface.SetEditMode(kEditRectangle); }
+void mnuOpt_PlacerTxt(Surface& surface) { surface.SetEditMode(kEditText); }
 
 std::string mnuUtil_Vistrel_ChooseFile(UserInterface& ui, ViewerState& state) {
   const std::string initial = state.last_curve_file.empty() ? "*.deb" : state.last_curve_file;

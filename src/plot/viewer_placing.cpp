@@ -54,19 +54,19 @@ int PlaceText(UserInterface& ui, Surface& surface, Point at) {
 }  // namespace
 
 bool IsPlacingMode(int edit_mode) {
-  return edit_mode == kKindLine || edit_mode == kKindRectangle || edit_mode == kKindText;
+  return edit_mode == kEditLine || edit_mode == kEditRectangle || edit_mode == kEditText;
 }
 
 int PlaceViewerObject(UserInterface& ui, Surface& surface, double x1, double y1, double x2,
                       double y2) {
   const int mode = surface.EditMode();
   if (!IsPlacingMode(mode)) return 0;
-  surface.SetEditMode(kViewerSelectMode);
+  surface.SetEditMode(kEditSelection);
   const Point a{Logical(x1), Logical(y1)}, b{Logical(x2), Logical(y2)};
   int number = 0;
-  if (mode == kKindLine) number = PlaceLine(surface, a, b);
-  if (mode == kKindRectangle) number = PlaceRectangle(surface, a, b);
-  if (mode == kKindText) number = PlaceText(ui, surface, a);
+  if (mode == kEditLine) number = PlaceLine(surface, a, b);
+  if (mode == kEditRectangle) number = PlaceRectangle(surface, a, b);
+  if (mode == kEditText) number = PlaceText(ui, surface, a);
   if (number != 0) surface.Refresh();
   return number;
 }

@@ -10,9 +10,6 @@
 
 namespace pluvane {
 
-// The edit mode in which clicks select and drags move.
-inline constexpr int kViewerSelectMode = 11;
-
 // True when the surface waits for a line, a rectangle or a text.
 bool IsPlacingMode(int edit_mode);
 

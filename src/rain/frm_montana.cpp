@@ -2,10 +2,12 @@
 
 #include <set>
 
+#include "drawing/object_tags.h"
 #include "drawing/surface_guards.h"
 #include "drawing/surface_helpers.h"
 #include "foundation/grid_rows.h"
 #include "foundation/text.h"
+#include "network/catalogue.h"
 #include "rain/montana_columns.h"
 #include "rain/rain_records.h"
 
@@ -21,10 +23,10 @@ struct StormReference {
   const char* cb_tag;
 };
 constexpr StormReference kReferences[] = {
-    {kCaquotRain, "IdMonta", "Ca", "Cb"},
-    {kSimpleTriangleRain, "IdMonta", "Ca", "Cb"},
-    {kDoubleTriangleRain, "IdTot", "CaTot", "CbTot"},
-    {kDoubleTriangleRain, "IdInt", "CaInt", "CbInt"},
+    {kINameCaquot, "IdMonta", "Ca", "Cb"},
+    {kINameSimpleTriangle, "IdMonta", "Ca", "Cb"},
+    {kINameDoubleTriangle, "IdTot", "CaTot", "CbTot"},
+    {kINameDoubleTriangle, "IdInt", "CaInt", "CbInt"},
 };
 
 }  // namespace
@@ -71,7 +73,7 @@ void FrmMontana::mnDel() {
   SSDeleteRow(grid_, row);
   ids_.Removed(row);
   CursorKeeper keeper(surface_);
-  const int number = FindObject2(surface_, "iName", kMontanaEntry, "Id", id);
+  const int number = FindObject2(surface_, kTagIName, kINameMontana, kTagId, id);
   if (number > 10) surface_.DeleteObject(number);
 }
 
@@ -84,9 +86,9 @@ void FrmMontana::LeaveCell(Grid& grid, int col, int row) {
 
 void FrmMontana::Rename(const std::string& old_id, const std::string& new_id) {
   CursorKeeper keeper(surface_);
-  const int number = FindRainRecord(surface_, kMontanaEntry, old_id);
+  const int number = FindRainRecord(surface_, kINameMontana, old_id);
   if (number <= 10) return;
-  surface_.SetObjTag("Id", new_id);
+  surface_.SetObjTag(kTagId, new_id);
   for (const StormReference& reference : kReferences) {
     RewriteReferences(surface_, reference.kind, reference.ref_tag, old_id, new_id);
   }
@@ -112,13 +114,14 @@ void FrmMontana::mnSave() {
   std::set<std::string> listed;
   for (int row = 1; row <= grid_.MaxRows(); ++row) listed.insert(IdKey(grid_.Text(kColId, row)));
   CursorKeeper keeper(surface_);
-  for (int number : RecordsOfKind(surface_, kMontanaEntry)) {
-    if (listed.count(IdKey(RecordTag(surface_, number, "Id"))) == 0) surface_.DeleteObject(number);
+  for (int number : RecordsOfKind(surface_, kINameMontana)) {
+    if (listed.count(IdKey(RecordTag(surface_, number, kTagId))) == 0)
+      surface_.DeleteObject(number);
   }
   for (int row = 1; row <= grid_.MaxRows(); ++row) {
     const std::string id = Trim(grid_.Text(kColId, row));
-    if (FindRainRecord(surface_, kMontanaEntry, id) == 0) {
-      AddRainRecord(surface_, state_, kMontanaEntry, id);
+    if (FindRainRecord(surface_, kINameMontana, id) == 0) {
+      AddRainRecord(surface_, state_, kINameMontana, id);
     }
     surface_.SetObjTag("Design", grid_.Text(kColDesign, row));
     surface_.SetObjTag("Pret", grid_.Text(kColPret, row));

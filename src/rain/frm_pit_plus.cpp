@@ -2,10 +2,12 @@
 
 #include <utility>
 
+#include "drawing/object_tags.h"
 #include "drawing/surface_guards.h"
 #include "foundation/grid_checks.h"
 #include "foundation/numbers.h"
 #include "editors/grid_plot_view.h"
+#include "network/catalogue.h"
 #include "rain/rain_records.h"
 
 namespace pluvane {
@@ -46,12 +48,12 @@ void FrmPitPlus::mnSave() {
   CursorKeeper keeper(surface);
   surface.SetCurrentObject(number_);
   if (number_ <= 10 || surface.CurrentObject() != number_) {
-    number_ = FindRainRecord(surface, kSyntheticRain, id_);
-    if (number_ == 0) number_ = AddRainRecord(surface, context_.state, kSyntheticRain, id_);
+    number_ = FindRainRecord(surface, kINameSynthetic, id_);
+    if (number_ == 0) number_ = AddRainRecord(surface, context_.state, kINameSynthetic, id_);
   }
-  surface.SetObjTag("iGroup", -1);
-  surface.SetObjTag("iName", kSyntheticRain);
-  surface.SetObjTag("Id", id_);
+  surface.SetObjTag(kTagIGroup, -1);
+  surface.SetObjTag(kTagIName, kINameSynthetic);
+  surface.SetObjTag(kTagId, id_);
   surface.SetObjTag("NbPt", grid_.MaxRows());
   for (int i = 1; i <= grid_.MaxRows(); ++i) {
     surface.SetObjTag("X" + std::to_string(i), grid_.Value(1, i));

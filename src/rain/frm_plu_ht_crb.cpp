@@ -9,6 +9,7 @@
 #include "foundation/paths.h"
 #include "foundation/text.h"
 #include "editors/grid_plot_view.h"
+#include "network/catalogue.h"
 #include "rain/rain_records.h"
 
 namespace pluvane {
@@ -31,7 +32,7 @@ std::vector<std::string> TabFields(const std::string& line) {
 
 }  // namespace
 
-std::vector<int> Md_nbPluvio(Surface& surface) { return RecordsOfKind(surface, kRainGauge); }
+std::vector<int> Md_nbPluvio(Surface& surface) { return RecordsOfKind(surface, kINamePLU); }
 
 FrmPluHtCrb::FrmPluHtCrb(EditorContext& context, std::string id, int number,
                          std::string working_file)

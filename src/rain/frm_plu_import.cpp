@@ -2,6 +2,7 @@
 
 #include "foundation/paths.h"
 #include "foundation/text.h"
+#include "network/network_tags.h"
 #include "rain/rain_records.h"
 
 namespace pluvane {
@@ -15,8 +16,8 @@ std::string FileHead(const std::string& key) {
 }
 
 int LibraryKind(const std::string& key) {
-  if (key == "PR") return kExternalGaugeRain;
-  if (key == "PPHY") return kExternalHyetoRain;
+  if (key == "PR") return kINameExternalGauge;
+  if (key == "PPHY") return kINameExternalHyeto;
   return ImportedKind(key);
 }
 
@@ -27,7 +28,7 @@ LibrarySetup ImportSetup(const std::string& key) {
   setup.id_head = "Désignation de l'événement";
   setup.add_prefix = "xPR_";
   setup.insert_prefix = "Prx_";
-  setup.columns = {{LibraryColumn::kTag, "Commentaire", "UsId", "", 24},
+  setup.columns = {{LibraryColumn::kTag, "Commentaire", kTagUsId, "", 24},
                    {LibraryColumn::kTag, FileHead(key), "FileSpec", "", 26},
                    {LibraryColumn::kBrowse, "", "", "parcourir...", 10}};
   return setup;

@@ -6,15 +6,17 @@
 #include "drawing/surface_helpers.h"
 #include "drawing/surface_object.h"
 #include "foundation/numbers.h"
+#include "network/catalogue.h"
 #include "network/default_tags.h"
 #include "network/georeferencing.h"
+#include "network/network_tags.h"
 #include "rain/rain_records.h"
 
 namespace pluvane {
 
 int FindRadius(Surface& surface) {
   CursorKeeper keeper(surface);
-  return FindObject2(surface, "iName", kRainRadius, "Id", "Rayon");
+  return FindObject2(surface, kTagIName, kINameRayon, kTagId, "Rayon");
 }
 
 FrmPluRayon::FrmPluRayon(EditorContext& context) : context_(context), grid_(1, 3) {
@@ -25,13 +27,14 @@ FrmPluRayon::FrmPluRayon(EditorContext& context) : context_(context), grid_(1, 3
   grid_.SetColWidth(1, 14);
   Surface& surface = context_.surface;
   const int current = surface.CurrentObject();
-  radius_ = current > 10 && TagOfObject(surface, current, "iName") == "17" ? current
-                                                                           : FindRadius(surface);
+  radius_ = current > 10 && TagOfObject(surface, current, kTagIName) == std::to_string(kINameRayon)
+                ? current
+                : FindRadius(surface);
   if (radius_ == 0) return;
   // A circle just drawn carries the tags of its centre and radius already.
   grid_.SetText(1, kRowRadius, TagOfObject(surface, radius_, "Rayon"));
-  grid_.SetText(1, kRowX, TagOfObject(surface, radius_, "Xus"));
-  grid_.SetText(1, kRowY, TagOfObject(surface, radius_, "Yus"));
+  grid_.SetText(1, kRowX, TagOfObject(surface, radius_, kTagXus));
+  grid_.SetText(1, kRowY, TagOfObject(surface, radius_, kTagYus));
 }
 
 std::vector<FormCommand> FrmPluRayon::Commands() {
@@ -54,9 +57,12 @@ void FrmPluRayon::cmdOk() {
   const std::int32_t r_log = RoundLong(std::sqrt(dx * dx + dy * dy));
 
   CursorKeeper keeper(surface);
-  int radius = radius_ > 10 && TagOfObject(surface, radius_, "iName") == "17" ? radius_ : 0;
+  int radius =
+      radius_ > 10 && TagOfObject(surface, radius_, kTagIName) == std::to_string(kINameRayon)
+          ? radius_
+          : 0;
   // At most one radius: the others go.
-  for (int other : FindObjectList(surface, "iName", kRainRadius)) {
+  for (int other : FindObjectList(surface, kTagIName, kINameRayon)) {
     if (other != radius) surface.DeleteObject(other);
   }
   if (radius == 0) {
@@ -66,18 +72,18 @@ void FrmPluRayon::cmdOk() {
   }
   surface.SetCurrentObject(radius);
   surface.SetObjectBounds(x_log - r_log, y_log - r_log, x_log + r_log, y_log + r_log);
-  surface.SetObjTag("Id", "Rayon");
-  surface.SetObjTag("Xlog", x_log);
-  surface.SetObjTag("Ylog", y_log);
-  surface.SetObjTag("Xus", xc);
-  surface.SetObjTag("Yus", yc);
+  surface.SetObjTag(kTagId, "Rayon");
+  surface.SetObjTag(kTagXlog, x_log);
+  surface.SetObjTag(kTagYlog, y_log);
+  surface.SetObjTag(kTagXus, xc);
+  surface.SetObjTag(kTagYus, yc);
   surface.SetObjTag("Rayon", r);
   Close();
 }
 
 void FrmPluRayon::cmdDel() {
   Surface& surface = context_.surface;
-  for (int radius : FindObjectList(surface, "iName", kRainRadius)) surface.DeleteObject(radius);
+  for (int radius : FindObjectList(surface, kTagIName, kINameRayon)) surface.DeleteObject(radius);
   Close();
 }
 

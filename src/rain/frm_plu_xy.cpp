@@ -2,6 +2,8 @@
 
 #include "drawing/surface_guards.h"
 #include "foundation/text.h"
+#include "network/catalogue.h"
+#include "network/network_tags.h"
 #include "rain/rain_records.h"
 
 namespace pluvane {
@@ -17,8 +19,8 @@ FrmPluXy::FrmPluXy(EditorContext& context)
   grid_.SetColWidth(1, 16);
   old_label_ = surface.ObjTag("libell");
   grid_.SetText(1, kRowLabel, old_label_);
-  grid_.SetText(1, kRowX, surface.ObjTag("Xus"));
-  grid_.SetText(1, kRowY, surface.ObjTag("Yus"));
+  grid_.SetText(1, kRowX, surface.ObjTag(kTagXus));
+  grid_.SetText(1, kRowY, surface.ObjTag(kTagYus));
 }
 
 std::vector<FormCommand> FrmPluXy::Commands() {
@@ -30,7 +32,7 @@ void FrmPluXy::cmdOk() {
   const std::string label = Trim(grid_.Text(1, kRowLabel));
   {
     CursorKeeper keeper(surface);
-    for (int number : RecordsOfKind(surface, kRainGauge)) {
+    for (int number : RecordsOfKind(surface, kINamePLU)) {
       if (number == gauge_) continue;
       if (IdKey(RecordTag(surface, number, "libell")) != IdKey(label)) continue;
       context_.ui.ShowMessage(label + " existe déjà.", Caption(), MessageIcon::kExclamation);
@@ -43,8 +45,8 @@ void FrmPluXy::cmdOk() {
   surface.SetCurrentObject(gauge_);
   if (surface.CurrentObject() != gauge_) return;
   surface.SetObjTag("libell", label);
-  surface.SetObjTag("Xus", Trim(grid_.Text(1, kRowX)));
-  surface.SetObjTag("Yus", Trim(grid_.Text(1, kRowY)));
+  surface.SetObjTag(kTagXus, Trim(grid_.Text(1, kRowX)));
+  surface.SetObjTag(kTagYus, Trim(grid_.Text(1, kRowY)));
   Close();
 }
 

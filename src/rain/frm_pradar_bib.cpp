@@ -1,5 +1,7 @@
 #include "rain/frm_pradar_bib.h"
 
+#include "network/catalogue.h"
+#include "network/network_tags.h"
 #include "rain/rain_records.h"
 
 namespace pluvane {
@@ -8,12 +10,12 @@ namespace {
 
 LibrarySetup RadarSetup() {
   LibrarySetup setup;
-  setup.kind = kRadarRain;
+  setup.kind = kINameRadar;
   setup.caption = "Bibliothèque des événements pluvieux de source radar";
   setup.id_head = "Désignation de l'événement";
   setup.add_prefix = "Radar_";
   setup.insert_prefix = "Radar_";
-  setup.columns = {{LibraryColumn::kTag, "Commentaire", "UsId", "", 16},
+  setup.columns = {{LibraryColumn::kTag, "Commentaire", kTagUsId, "", 16},
                    {LibraryColumn::kTag,
                     "Fichier des surfaces actives des sous-BV découpés (*.CRB)", "CrbFile", "", 22},
                    {LibraryColumn::kBrowse, "", "", "parcourir...", 10},

@@ -5,6 +5,8 @@
 #include "drawing/surface_guards.h"
 #include "foundation/paths.h"
 #include "foundation/text.h"
+#include "network/catalogue.h"
+#include "network/network_tags.h"
 #include "rain/frm_plu_ht_crb.h"
 #include "rain/rain_records.h"
 
@@ -14,7 +16,7 @@ namespace {
 
 LibrarySetup PrealSetup() {
   LibrarySetup setup;
-  setup.kind = kGaugeRain;
+  setup.kind = kINameRealRain;
   setup.caption = "Pluviométrie en mode interne";
   setup.id_head = "Id. de l'événement pluvieux";
   setup.add_prefix = "Pluie";
@@ -23,7 +25,7 @@ LibrarySetup PrealSetup() {
   setup.columns = {{LibraryColumn::kTag, "Désignation de l'événement", "Design", "", 24},
                    {LibraryColumn::kList, "Méthode d'interpolation", "iModePluie",
                     std::string(kThiessen) + "\t" + kWeightedDistance, 20},
-                   {LibraryColumn::kTag, "Commentaire", "UsId", "", 24},
+                   {LibraryColumn::kTag, "Commentaire", kTagUsId, "", 24},
                    {LibraryColumn::kEdit, "Courbes H(t)", "", "&Editer...", 10}};
   return setup;
 }
@@ -31,7 +33,7 @@ LibrarySetup PrealSetup() {
 }  // namespace
 
 FrmPrealBib::FrmPrealBib(EditorContext& context) : RainLibrary(context, PrealSetup()) {
-  if (!RecordsOfKind(surface_, kRainGauge).empty()) return;
+  if (!RecordsOfKind(surface_, kINamePLU).empty()) return;
   ui_.ShowMessage(
       "Vous devez créer au moins un pluviomètre pour pouvoir\rdéfinir ensuite sa pluviométrie "
       "en mode interne.",
@@ -55,8 +57,9 @@ void FrmPrealBib::BeforeWrite() {
   for (int row = 1; row <= grid_.MaxRows(); ++row) {
     if (!RowDeleted(row)) listed.insert(IdKey(grid_.Text(1, row)));
   }
-  for (int number : RecordsOfKind(surface_, kGaugeRain)) {
-    if (listed.count(IdKey(RecordTag(surface_, number, "Id"))) == 0) surface_.DeleteObject(number);
+  for (int number : RecordsOfKind(surface_, kINameRealRain)) {
+    if (listed.count(IdKey(RecordTag(surface_, number, kTagId))) == 0)
+      surface_.DeleteObject(number);
   }
 }
 

@@ -2,10 +2,12 @@
 
 #include <utility>
 
+#include "drawing/object_tags.h"
 #include "drawing/surface_guards.h"
 #include "foundation/grid_checks.h"
 #include "foundation/numbers.h"
 #include "foundation/text.h"
+#include "network/catalogue.h"
 #include "rain/montana_columns.h"
 #include "rain/rain_records.h"
 
@@ -19,11 +21,11 @@ struct TriangleRow {
 };
 
 std::vector<TriangleRow> TriangleRows(int kind) {
-  if (kind == kSimpleTriangleRain) {
+  if (kind == kINameSimpleTriangle) {
     return {{"Duree", "Durée totale de la précipitation (mn)="},
             {"Timax", "Instant du pic pluvieux (mn)="}};
   }
-  if (kind == kDoubleTriangleRain) {
+  if (kind == kINameDoubleTriangle) {
     return {{"DureeTot", "Durée totale de l'épisode pluvieux (mn)="},
             {"DureeInt", "Durée de l'épisode intense (mn)="},
             {"Timax", "Instant du pic pluvieux (mn)="}};
@@ -53,7 +55,7 @@ FrmStormPlus::FrmStormPlus(EditorContext& context, int kind, std::string id, int
     MontanaHeads(grid);
     grid.SetColHead(kColChoose, "");
     grid.SetText(0, 1,
-                 kind_ != kDoubleTriangleRain ? "Coef. de Montana"
+                 kind_ != kINameDoubleTriangle ? "Coef. de Montana"
                  : which == 0                 ? "Coef. de Montana pour l'épisode total"
                                               : "Coef de Montana pour l'épisode intense");
     for (int col = kColId; col <= kColCb; ++col) grid.SetLocked(col, 1, true);
@@ -62,7 +64,7 @@ FrmStormPlus::FrmStormPlus(EditorContext& context, int kind, std::string id, int
     grid.SetNote(kColChoose, 1, "Parcourir les coef. de Montana");
     grid.SetColWidth(kColChoose, 20);
     const std::string s = Suffix(which);
-    grid.SetText(kColId, 1, tag(kind_ == kDoubleTriangleRain ? "Id" + s : "IdMonta"));
+    grid.SetText(kColId, 1, tag(kind_ == kINameDoubleTriangle ? "Id" + s : "IdMonta"));
     grid.SetText(kColDesign, 1, tag("Design" + s));
     grid.SetText(kColPret, 1, tag("Pret" + s));
     grid.SetText(kColCa, 1, tag("Ca" + s));
@@ -88,9 +90,9 @@ FrmStormPlus::FrmStormPlus(EditorContext& context, int kind, std::string id, int
 
 std::string FrmStormPlus::Caption() const {
   switch (kind_) {
-    case kCaquotRain:
+    case kINameCaquot:
       return "Pluie Caquot " + id_;
-    case kSimpleTriangleRain:
+    case kINameSimpleTriangle:
       return "Pluie simple triangle " + id_;
     default:
       return "Pluie double triangle " + id_;
@@ -100,7 +102,7 @@ std::string FrmStormPlus::Caption() const {
 std::vector<Grid*> FrmStormPlus::Grids() {
   std::vector<Grid*> grids = {&montana_[0]};
   if (MontanaGrids() == 2) grids.push_back(&montana_[1]);
-  if (kind_ != kCaquotRain) grids.push_back(&triangle_);
+  if (kind_ != kINameCaquot) grids.push_back(&triangle_);
   grids.push_back(&library_);
   return grids;
 }
@@ -111,7 +113,7 @@ std::vector<FormCommand> FrmStormPlus::Commands() {
 }
 
 std::string FrmStormPlus::Suffix(int which) const {
-  if (kind_ != kDoubleTriangleRain) return "";
+  if (kind_ != kINameDoubleTriangle) return "";
   return which == 0 ? "Tot" : "Int";
 }
 
@@ -145,13 +147,13 @@ void FrmStormPlus::mnSave() {
     number_ = FindRainRecord(surface, kind_, id_);
     if (number_ == 0) number_ = AddRainRecord(surface, context_.state, kind_, id_);
   }
-  surface.SetObjTag("iGroup", -1);
-  surface.SetObjTag("iName", kind_);
-  surface.SetObjTag("Id", id_);
+  surface.SetObjTag(kTagIGroup, -1);
+  surface.SetObjTag(kTagIName, kind_);
+  surface.SetObjTag(kTagId, id_);
   for (int which = 0; which < MontanaGrids(); ++which) {
     const Grid& grid = montana_[which];
     const std::string s = Suffix(which);
-    surface.SetObjTag(kind_ == kDoubleTriangleRain ? "Id" + s : "IdMonta",
+    surface.SetObjTag(kind_ == kINameDoubleTriangle ? "Id" + s : "IdMonta",
                       Trim(grid.Text(kColId, 1)));
     surface.SetObjTag("Design" + s, Trim(grid.Text(kColDesign, 1)));
     surface.SetObjTag("Pret" + s, grid.Value(kColPret, 1));

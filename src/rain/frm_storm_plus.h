@@ -10,6 +10,7 @@
 
 #include "editors/editor_context.h"
 #include "foundation/form_controller.h"
+#include "network/catalogue.h"
 #include "rain/montana_columns.h"
 
 namespace pluvane {
@@ -55,7 +56,7 @@ class FrmStormPlus : public FormController {
  private:
   // The tags of Montana grid `which`: "" for the single one, "Tot" or "Int".
   std::string Suffix(int which) const;
-  int MontanaGrids() const { return kind_ == 106 ? 2 : 1; }
+  int MontanaGrids() const { return kind_ == kINameDoubleTriangle ? 2 : 1; }
   std::vector<std::string> TriangleTags() const;
 
   EditorContext& context_;

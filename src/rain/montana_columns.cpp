@@ -1,7 +1,9 @@
 #include "rain/montana_columns.h"
 
+#include "drawing/object_tags.h"
 #include "drawing/surface_guards.h"
 #include "drawing/surface_helpers.h"
+#include "network/catalogue.h"
 #include "rain/rain_records.h"
 
 namespace pluvane {
@@ -18,11 +20,11 @@ void MontanaHeads(Grid& grid) {
 
 void AppendMontanaEntries(Surface& surface, Grid& grid) {
   CursorKeeper keeper(surface);
-  for (int number : RecordsOfKind(surface, kMontanaEntry)) {
+  for (int number : RecordsOfKind(surface, kINameMontana)) {
     surface.SetCurrentObject(number);
     const int row = grid.MaxRows() + 1;
     grid.SetMaxRows(row);
-    grid.SetText(kMontanaColId, row, surface.ObjTag("Id"));
+    grid.SetText(kMontanaColId, row, surface.ObjTag(kTagId));
     grid.SetText(kMontanaColDesign, row, surface.ObjTag("Design"));
     grid.SetText(kMontanaColPret, row, surface.ObjTag("Pret"));
     grid.SetText(kMontanaColCa, row, surface.ObjTag("Ca"));

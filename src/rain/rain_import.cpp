@@ -2,9 +2,11 @@
 
 #include <set>
 
+#include "drawing/object_tags.h"
 #include "drawing/surface_guards.h"
 #include "foundation/paths.h"
 #include "foundation/text.h"
+#include "network/catalogue.h"
 #include "rain/rain_records.h"
 #include "rain/rain_text.h"
 
@@ -60,19 +62,19 @@ void WriteNewTags(Surface& surface, const std::vector<std::pair<std::string, std
 
 int ImportedKind(const std::string& key) {
   const std::string k = UCase(Trim(key));
-  if (k == "PR") return kGaugeRain;
-  if (k == "CAQ") return kCaquotRain;
-  if (k == "PPST") return kSimpleTriangleRain;
-  if (k == "PPDT") return kDoubleTriangleRain;
-  if (k == "PPHY") return kSyntheticRain;
-  if (k == "PRAD") return kRadarRain;
+  if (k == "PR") return kINameRealRain;
+  if (k == "CAQ") return kINameCaquot;
+  if (k == "PPST") return kINameSimpleTriangle;
+  if (k == "PPDT") return kINameDoubleTriangle;
+  if (k == "PPHY") return kINameSynthetic;
+  if (k == "PRAD") return kINameRadar;
   return 0;
 }
 
 bool CheckGaugeExists(Surface& surface, UserInterface& ui, const std::string& name) {
   CursorKeeper keeper(surface);
-  for (int gauge : RecordsOfKind(surface, kRainGauge)) {
-    if (IdKey(RecordTag(surface, gauge, "Id")) == IdKey(name) ||
+  for (int gauge : RecordsOfKind(surface, kINamePLU)) {
+    if (IdKey(RecordTag(surface, gauge, kTagId)) == IdKey(name) ||
         IdKey(RecordTag(surface, gauge, "libell")) == IdKey(name)) {
       return true;
     }

@@ -8,6 +8,7 @@
 #include "foundation/grid_rows.h"
 #include "foundation/text.h"
 #include "network/library_rows.h"
+#include "network/network_tags.h"
 #include "rain/rain_records.h"
 
 namespace pluvane {
@@ -63,7 +64,7 @@ void RainLibrary::Load() {
     surface_.SetCurrentObject(number);
     const int row = grid_.MaxRows() + 1;
     grid_.SetMaxRows(row);
-    grid_.SetText(1, row, surface_.ObjTag("Id"));
+    grid_.SetText(1, row, surface_.ObjTag(kTagId));
     for (std::size_t i = 0; i < setup_.columns.size(); ++i) {
       const int col = static_cast<int>(i) + 2;
       const LibraryColumn& column = setup_.columns[i];
@@ -117,7 +118,7 @@ void RainLibrary::NameNewRow(int row, const std::string& prefix) {
   if (!setup_.create_on_add) return;
   CursorKeeper keeper(surface_);
   AddRainRecord(surface_, state_, setup_.kind, name);
-  surface_.SetObjTag("UsId", grid_.Text(2, row));
+  surface_.SetObjTag(kTagUsId, grid_.Text(2, row));
 }
 
 void RainLibrary::mnAdd() {
@@ -141,7 +142,7 @@ void RainLibrary::LeaveCell(Grid& grid, int col, int row) {
   if (!old_id || Trim(*old_id).empty()) return;
   const std::string new_id = grid_.Text(1, row);
   CursorKeeper keeper(surface_);
-  if (FindRainRecord(surface_, setup_.kind, *old_id) > 10) surface_.SetObjTag("Id", new_id);
+  if (FindRainRecord(surface_, setup_.kind, *old_id) > 10) surface_.SetObjTag(kTagId, new_id);
   RenameScenarioRain(surface_, *old_id, new_id);
 }
 
@@ -180,7 +181,7 @@ void RainLibrary::Edit(int row) {
     number = FindRainRecord(surface_, setup_.kind, id);
     if (number == 0 && setup_.create_on_add) {
       number = AddRainRecord(surface_, state_, setup_.kind, id);
-      surface_.SetObjTag("UsId", Trim(grid_.Text(2, row)));
+      surface_.SetObjTag(kTagUsId, Trim(grid_.Text(2, row)));
     }
   }
   std::unique_ptr<FormController> editor = MakeEditor(id, number);
@@ -193,9 +194,9 @@ bool RainLibrary::CheckRows() {
 }
 
 void RainLibrary::WriteRow(int row) {
-  surface_.SetObjTag("iGroup", -1);
-  surface_.SetObjTag("iName", setup_.kind);
-  surface_.SetObjTag("Id", Trim(grid_.Text(1, row)));
+  surface_.SetObjTag(kTagIGroup, -1);
+  surface_.SetObjTag(kTagIName, setup_.kind);
+  surface_.SetObjTag(kTagId, Trim(grid_.Text(1, row)));
   for (std::size_t i = 0; i < setup_.columns.size(); ++i) {
     const LibraryColumn& column = setup_.columns[i];
     if (column.kind != LibraryColumn::kTag && column.kind != LibraryColumn::kList) continue;

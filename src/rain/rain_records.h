@@ -8,24 +8,11 @@
 #include <vector>
 
 #include "drawing/surface.h"
+#include "network/catalogue.h"
 #include "network/network_state.h"
 
 namespace pluvane {
 
-// iName of each record of the rain library.
-inline constexpr int kMontanaEntry = 102;
-inline constexpr int kGaugeRain = 103;
-inline constexpr int kCaquotRain = 104;
-inline constexpr int kSimpleTriangleRain = 105;
-inline constexpr int kDoubleTriangleRain = 106;
-inline constexpr int kSyntheticRain = 107;
-inline constexpr int kRadarRain = 108;
-inline constexpr int kExternalGaugeRain = 127;
-inline constexpr int kExternalHyetoRain = 128;
-inline constexpr int kScenarioRecord = 111;
-// The gauge on the drawing and the radius of action of design storms.
-inline constexpr int kRainGauge = 12;
-inline constexpr int kRainRadius = 17;
 
 // The two interpolation methods of the gauges, in the order of their numbers.
 inline constexpr const char* kThiessen = "1. Thiessen";

@@ -7,6 +7,7 @@
 #include "foundation/line_parsing.h"
 #include "foundation/numbers.h"
 #include "foundation/text.h"
+#include "network/network_tags.h"
 #include "rain/rain_records.h"
 
 namespace pluvane {
@@ -194,8 +195,8 @@ bool DecodeRainBlock(UserInterface& ui, const RainTextBlock& block, DecodedRain&
                      RainBlockFault& fault) {
   rain = DecodedRain{};
   fault = RainBlockFault{};
-  rain.tags.emplace_back("Id", block.name);
-  rain.tags.emplace_back("UsId", block.name);
+  rain.tags.emplace_back(kTagId, block.name);
+  rain.tags.emplace_back(kTagUsId, block.name);
   BlockLines in(block);
   bool ok = false;
   const std::vector<const char*> centre = {"", "", ""};

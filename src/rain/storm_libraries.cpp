@@ -1,5 +1,7 @@
 #include "rain/storm_libraries.h"
 
+#include "network/catalogue.h"
+#include "network/network_tags.h"
 #include "rain/frm_pit_plus.h"
 #include "rain/frm_storm_plus.h"
 #include "rain/rain_records.h"
@@ -12,15 +14,15 @@ LibrarySetup StormSetup(int kind) {
   LibrarySetup setup;
   setup.kind = kind;
   switch (kind) {
-    case kCaquotRain:
+    case kINameCaquot:
       setup.caption = "Pluie Caquot (CAQ)";
       setup.add_prefix = "CAQ_";
       break;
-    case kSimpleTriangleRain:
+    case kINameSimpleTriangle:
       setup.caption = "Bibliothèque Pluie Simple Triangle (PST)";
       setup.add_prefix = "PST_";
       break;
-    case kDoubleTriangleRain:
+    case kINameDoubleTriangle:
       setup.caption = "Bibliothèque Pluie Double Triangle (PDT)";
       setup.add_prefix = "PDT_";
       break;
@@ -31,7 +33,7 @@ LibrarySetup StormSetup(int kind) {
   }
   setup.insert_prefix = setup.add_prefix;
   setup.id_head = "Désignation";
-  setup.columns = {{LibraryColumn::kTag, "Commentaire", "UsId", "", 30},
+  setup.columns = {{LibraryColumn::kTag, "Commentaire", kTagUsId, "", 30},
                    {LibraryColumn::kEdit, "Edition de données", "", "&Editer...", 12}};
   return setup;
 }
@@ -42,7 +44,7 @@ FrmStormBib::FrmStormBib(EditorContext& context, int kind)
     : RainLibrary(context, StormSetup(kind)) {}
 
 std::unique_ptr<FormController> FrmStormBib::MakeEditor(const std::string& id, int number) {
-  if (kind() == kSyntheticRain) return std::make_unique<FrmPitPlus>(context_, id, number);
+  if (kind() == kINameSynthetic) return std::make_unique<FrmPitPlus>(context_, id, number);
   return std::make_unique<FrmStormPlus>(context_, kind(), id, number);
 }
 

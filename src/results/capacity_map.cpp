@@ -3,9 +3,11 @@
 #include <algorithm>
 #include <filesystem>
 
+#include "drawing/object_tags.h"
 #include "drawing/surface_guards.h"
 #include "drawing/surface_helpers.h"
 #include "drawing/surface_object.h"
+#include "foundation/settings_keys.h"
 #include "foundation/errors.h"
 #include "foundation/fixed_width.h"
 #include "foundation/grid.h"
@@ -14,6 +16,7 @@
 #include "foundation/numbers.h"
 #include "foundation/paths.h"
 #include "foundation/text.h"
+#include "network/catalogue.h"
 #include "network/network_parameters.h"
 
 namespace pluvane {
@@ -31,7 +34,7 @@ std::unordered_map<std::string, int> CollectorIndex(Surface& map) {
   std::unordered_map<std::string, int> index;
   CursorKeeper keep(map);
   for (int number = map.FirstObject(); number != 0; number = map.NextObject()) {
-    if (Trim(map.ObjTag("iGroup")) != kCollectorGroup) continue;
+    if (Trim(map.ObjTag(kTagIGroup)) != kCollectorGroup) continue;
     index.emplace(Trim(map.ObjTag("libell")), number);
   }
   return index;
@@ -39,17 +42,17 @@ std::unordered_map<std::string, int> CollectorIndex(Surface& map) {
 
 bool IsCollector(Surface& map, int object) {
   if (object < kFirstObjectNumber || !map.ObjectShape(object)) return false;
-  return Trim(TagOfObject(map, object, "iGroup")) == kCollectorGroup;
+  return Trim(TagOfObject(map, object, kTagIGroup)) == kCollectorGroup;
 }
 
 }  // namespace
 
 CapacityScale ReadCapacityScale(UserInterface& ui, const std::string& ini_file) {
   CapacityScale scale;
-  const int count = static_cast<int>(Val(IniRead(kCapacityScaleSection, "Nombre de Co", 255, ini_file)));
+  const int count = static_cast<int>(Val(IniRead(kSectionScale, kKeyScaleCount, 255, ini_file)));
   // The keys are taken from Co1 on while they stand.
   for (int rank = 1;; ++rank) {
-    const std::string value = IniRead(kCapacityScaleSection, "Co" + std::to_string(rank), 255, ini_file);
+    const std::string value = IniRead(kSectionScale, "Co" + std::to_string(rank), 255, ini_file);
     if (Trim(value).empty()) break;
     const std::size_t comma = value.find(',');
     CapacityClass item;
@@ -67,17 +70,17 @@ CapacityScale ReadCapacityScale(UserInterface& ui, const std::string& ini_file) 
 }
 
 bool WriteCapacityScale(const std::vector<CapacityClass>& classes, const std::string& ini_file) {
-  bool written = IniWrite(kCapacityScaleSection, "Nombre de Co", std::to_string(classes.size()), ini_file);
+  bool written = IniWrite(kSectionScale, kKeyScaleCount, std::to_string(classes.size()), ini_file);
   for (std::size_t i = 0; i < classes.size() && written; ++i) {
-    written = IniWrite(kCapacityScaleSection, "Co" + std::to_string(i + 1),
+    written = IniWrite(kSectionScale, "Co" + std::to_string(i + 1),
                        std::to_string(classes[i].colour) + "," + std::to_string(classes[i].percent),
                        ini_file);
   }
   // Keys left from a longer scale would make the count disagree.
   for (std::size_t rank = classes.size() + 1; written; ++rank) {
     const std::string key = "Co" + std::to_string(rank);
-    if (Trim(IniRead(kCapacityScaleSection, key, 255, ini_file)).empty()) break;
-    written = IniWrite(kCapacityScaleSection, key, "", ini_file);
+    if (Trim(IniRead(kSectionScale, key, 255, ini_file)).empty()) break;
+    written = IniWrite(kSectionScale, key, "", ini_file);
   }
   return written;
 }
@@ -152,7 +155,7 @@ std::string CapacityToolTip(Surface& map, int object, bool diagnostic) {
     if (!text.empty()) text += "\r\n";
     text += label + tag(name);
   };
-  const bool not_seven = tag("iName") != "7";
+  const bool not_seven = tag(kTagIName) != std::to_string(kINameCAO);
   if (diagnostic) {
     for (const Row& row : kDiagnostic) add(row.label, row.tag);
     if (not_seven) add("Vol de perte/chaussée (m3) = ", "VolPerte");
@@ -180,7 +183,7 @@ void CapacityMap::CopyNetwork() {
   map_.DeselectAll();
   map_.SetRedraw(false);
   for (int number = map_.FirstObject(); number != 0; number = map_.NextObject()) {
-    if (Trim(map_.ObjTag("iGroup")) == kCollectorGroup) map_.SetLineColor(kCapacityGrey);
+    if (Trim(map_.ObjTag(kTagIGroup)) == kCollectorGroup) map_.SetLineColor(kCapacityGrey);
   }
   map_.SetRedraw(true);
 }
@@ -292,7 +295,7 @@ bool CapacityMap::ApplyLine(const std::string& line,
   const bool diagnostic = calc_mode_ == 0;
   static const char* const kDiagnostic[] = {"Qbase", "QmaxAm", "VolAm", "Qcapable", "QmaxAv", "VolAv", "VolPerte"};
   static const char* const kDimensioning[] = {"QmaxAm", "VolAm", "Qcapable", "DiamEq", "Extens", "NewDiam"};
-  const bool seven = Trim(map_.ObjTag("iName")) == "7";
+  const bool seven = Trim(map_.ObjTag(kTagIName)) == std::to_string(kINameCAO);
   for (int w = 0; w < count; ++w) {
     const char* name = nullptr;
     if (diagnostic) {
@@ -324,7 +327,7 @@ void CapacityMap::Recolour() {
   CursorKeeper keep(map_);
   map_.SetRedraw(false);
   for (int number = map_.FirstObject(); number != 0; number = map_.NextObject()) {
-    if (Trim(map_.ObjTag("iGroup")) != kCollectorGroup) continue;
+    if (Trim(map_.ObjTag(kTagIGroup)) != kCollectorGroup) continue;
     const std::string rate = Trim(map_.ObjTag("Taux"));
     if (!rate.empty()) map_.SetLineColor(CoColour(scale_.classes, Val(rate)));
   }

@@ -18,7 +18,6 @@
 namespace pluvane {
 
 inline constexpr const char* kCapacityMapTitle = "Cartographie de la capacité de remplissage";
-inline constexpr const char* kCapacityScaleSection = "Co Echelle";
 // Collectors before their result is known.
 inline constexpr std::int32_t kCapacityGrey = 218 + 256 * 218 + 65536 * 218;
 // A collector that must be enlarged, in dimensioning mode.

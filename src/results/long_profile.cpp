@@ -13,6 +13,7 @@
 #include "foundation/paths.h"
 #include "foundation/text.h"
 #include "network/catalogue.h"
+#include "network/network_tags.h"
 #include "plot/auto_scale.h"
 #include "plot/curve_file.h"
 #include "plot/script_words.h"
@@ -25,10 +26,10 @@ namespace {
 // object of that Id is of the kind, which is the rule; else the whole search.
 int FindElement(Surface& surface, const std::string& id, int i_name) {
   const int first = surface.FindById(id);
-  if (first > 0 && TagMatch(i_name).Matches(TagOfObject(surface, first, "iName"))) return first;
+  if (first > 0 && TagMatch(i_name).Matches(TagOfObject(surface, first, kTagIName))) return first;
   if (first == 0) return 0;
   CursorKeeper keeper(surface);
-  return FindObject2(surface, "Id", id, "iName", i_name);
+  return FindObject2(surface, kTagId, id, kTagIName, i_name);
 }
 
 // The ground level of a node, 0 when it isn't there.
@@ -96,8 +97,8 @@ ReachProfile ReadReachProfile(Surface& surface, const std::string& reach_id) {
     const double invert_up = Val(surface.ObjTag("ZRam"));
     const double invert_down = Val(surface.ObjTag("ZRav"));
     const double length = Val(surface.ObjTag("L"));
-    const std::string upstream = surface.ObjTag("sNodAm");
-    const std::string downstream = surface.ObjTag("sNodAv");
+    const std::string upstream = surface.ObjTag(kTagSNodAm);
+    const std::string downstream = surface.ObjTag(kTagSNodAv);
     const double height = Trim(kind) == "5" ? SectionHeight(surface, surface.ObjTag("IdSect"))
                                             : Val(surface.ObjTag("Dn"));
     if (i == 0) reach.ground[0] = GroundOf(surface, upstream);

@@ -4,6 +4,7 @@
 #include <cstdio>
 #include <filesystem>
 
+#include "foundation/settings_keys.h"
 #include "foundation/errors.h"
 #include "foundation/ini_profile.h"
 #include "foundation/line_parsing.h"
@@ -95,7 +96,7 @@ Application::Activation Application::FirstActivation() {
   activated_ = true;
   if (!DecimalTest(HalfAsText())) return Activation::kEndProcess;
   const std::string ini = IniFilePath(state_);
-  if (ProfileBoolean(IniRead(kSectionOthers, "FlashScreen", 10, ini)) && show_about) show_about();
+  if (ProfileBoolean(IniRead(kSectionOthers, kKeyFlashScreen, 10, ini)) && show_about) show_about();
 
   const double w = state_.LogicWidth, h = state_.LogicHeight;
   ZoomToRect(surface_, state_, w / 4, h / 4, 3 * w / 4, 3 * h / 4);
@@ -142,7 +143,7 @@ void Application::Unload(int tool_band_position) {
     }
   }
   const std::string ini = IniFilePath(state_);
-  IniWrite(kSectionParameters, "Position de la BO", std::to_string(tool_band_position), ini);
+  IniWrite(kSectionParameters, kKeyToolBandPosition, std::to_string(tool_band_position), ini);
   if (!state_.SavedNumericLocale.empty()) {
     std::setlocale(LC_NUMERIC, state_.SavedNumericLocale.c_str());
   }

@@ -57,7 +57,7 @@ int CapacityCommand(const std::vector<std::string>& args, const std::string& app
   CapacityMap map(ui);
   const CapacityMapInput input{&program.surface, sor,
                                FolderExist(work_dir) ? work_dir : DirOf(sor),
-                               JoinPath(app_path, "pluvane.ini")};
+                               IniFilePath(state)};
   if (!map.Load(input)) return 1;
   const bool written = as_network ? map.map().SaveFile(output, kNativeFormat)
                                   : writer(map.map(), map.legend(), output, folder, state.SymbolDir);

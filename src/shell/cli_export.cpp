@@ -95,10 +95,8 @@ int Export(const std::vector<std::string>& args, const std::string& app_path, st
                    MessageIcon::kExclamation);
     return 1;
   }
-  // The folder dialog answers the folder given.
-  ui.Queue(folder);
   if (nodes) {
-    const int count = MnuFi_Export_Txt_Nod(network.surface, state, ui);
+    const int count = MnuFi_Export_Txt_Nod(network.surface, state, ui, folder);
     return count < 0 || ErrorShown(ui) ? 1 : 0;
   }
   // The chooser answers the types listed, or every type on offer, in the
@@ -121,8 +119,8 @@ int Export(const std::vector<std::string>& args, const std::string& app_path, st
   };
   ReportStream report(out);
   const int count = what == "app"
-                        ? MnuFi_Export_Txt_App(network.surface, state, ui, report, choose)
-                        : MnuFi_Export_Txt_Can(network.surface, state, ui, report, choose);
+                        ? MnuFi_Export_Txt_App(network.surface, state, ui, report, choose, folder)
+                        : MnuFi_Export_Txt_Can(network.surface, state, ui, report, choose, folder);
   if (!chosen || count < 0) return 1;
   return ErrorShown(ui) ? 1 : 0;
 }

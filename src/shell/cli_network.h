@@ -15,7 +15,8 @@ namespace pluvane {
 
 class CliNetwork {
  public:
-  explicit CliNetwork(ScriptedUi& ui) : application(surface, ui, Application::Use::kCommandLine) {}
+  explicit CliNetwork(ScriptedUi& ui)
+      : application(surface, ui, Application::Use::kCommandLine), ui_(ui) {}
 
   // Starts as the program does (the configuration beside the programs in
   // `app_path`, or the user's) and opens `path`. False when either was
@@ -23,11 +24,19 @@ class CliNetwork {
   bool Open(const std::string& app_path, const std::string& path);
   // Starts without opening a network.
   bool Start(const std::string& app_path) { return application.Load(app_path, ""); }
+  // Starts as Open does and reads `path` as a drawing alone, for its pictures
+  // (the network's settings are not taken). False when either was refused;
+  // the message, under `title`, has been shown.
+  bool OpenDrawing(const std::string& app_path, const std::string& path,
+                   const std::string& title);
 
   AppState& state() { return application.state(); }
 
   Surface surface;
   Application application;
+
+ private:
+  ScriptedUi& ui_;
 };
 
 }  // namespace pluvane

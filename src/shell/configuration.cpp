@@ -48,39 +48,40 @@ bool LoadConfiguration(AppState& state, UserInterface& ui, ResourceLibrary& reso
   const std::string ini = IniFilePath(state);
   const std::string p = kSectionParameters;
 
-  std::string library = Trim(ReadProfileValue(p, "Fichier Ressource", 80, ini));
+  std::string library = Trim(ReadProfileValue(p, kKeyResourceFile, 80, ini));
   if (!HasSeparator(library)) library = JoinPath(DataFolder(state), library);
   resources.Load(ui, library);
 
   state.SymbolDir =
-      FolderUnderApp(DataFolder(state), ReadProfileValue(p, "Répertoire des symboles", 80, ini),
+      FolderUnderApp(DataFolder(state), ReadProfileValue(p, kKeySymbolFolder, 80, ini),
                      "Symboles");
   if (!FolderExist(state.SymbolDir)) {
-    ui.ShowMessage("Le nom du répertoire des symboles est mal défini dans le fichier \r\n" +
-                       std::string(kProgramName) + ".ini",
-                   "Attention!", MessageIcon::kExclamation);
+    ui.ShowMessage(
+        std::string("Le nom du répertoire des symboles est mal défini dans le fichier \r\n") +
+            kIniFileName,
+        "Attention!", MessageIcon::kExclamation);
     return false;
   }
 
-  std::int32_t resolution = ValLong(ReadProfileValue(p, "Résolution Maxi", 80, ini));
+  std::int32_t resolution = ValLong(ReadProfileValue(p, kKeyResolution, 80, ini));
   if (resolution < 1000) resolution = 1000;
   state.LogicWidth = resolution;
   state.LogicHeight = resolution;
 
-  state.ToolBandPosition = ValLong(ReadProfileValue(p, "Position de la BO", 10, ini));
+  state.ToolBandPosition = ValLong(ReadProfileValue(p, kKeyToolBandPosition, 10, ini));
   if (state.ToolBandPosition == 0) state.ToolBandPosition = 4;
 
-  state.LinkThick = Val(ReadProfileValue(p, "Epaisseur de trait", 80, ini));
+  state.LinkThick = Val(ReadProfileValue(p, kKeyLinkThick, 80, ini));
   if (state.LinkThick == 0) state.LinkThick = 50;
-  state.SymbolSize = Val(ReadProfileValue(p, "Taille des symboles", 80, ini));
+  state.SymbolSize = Val(ReadProfileValue(p, kKeySymbolSize, 80, ini));
   if (state.SymbolSize == 0) state.SymbolSize = 120;
 
-  std::string back = Trim(ReadProfileValue(kSectionOthers, "CoBack Ecran", 20, ini));
+  std::string back = Trim(ReadProfileValue(kSectionOthers, kKeyScreenBackColor, 20, ini));
   state.ScreenBackColor = back.empty() ? 16777215 : ValLong(back);
 
   state.PointBufferSize = 10000;
   // The zoom factor saved by the last Save As; under 0.00001 it means none.
-  state.ZoomFactor = Val(ReadProfileValue(kSectionOthers, "Zoom Ini", 20, ini));
+  state.ZoomFactor = Val(ReadProfileValue(kSectionOthers, kKeyZoomFactor, 20, ini));
   if (state.ZoomFactor < 0.00001) state.ZoomFactor = 1;
   state.CalcMode = 0;
   state.CalcDuree = 120;

@@ -6,20 +6,12 @@
 
 #include <string>
 
+#include "foundation/settings_keys.h"
 #include "foundation/user_interface.h"
 #include "shell/app_state.h"
 #include "shell/resource_library.h"
 
 namespace pluvane {
-
-// The base name of the programs' configuration file.
-inline constexpr const char* kProgramName = "pluvane";
-
-// Section and key names of the configuration file.
-inline constexpr const char* kSectionParameters = "Paramètres";
-inline constexpr const char* kSectionOthers = "Autres";
-inline constexpr const char* kSectionRecentFiles = "Fichiers recents";
-inline constexpr const char* kSectionScale = "Co Echelle";
 
 
 // A profile read with an empty default (a missing key reads as empty), and the

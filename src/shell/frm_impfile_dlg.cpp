@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <limits>
 
+#include "foundation/settings_keys.h"
 #include "foundation/ini_profile.h"
 #include "foundation/numbers.h"
 #include "foundation/paths.h"
@@ -15,7 +16,6 @@ namespace pluvane {
 namespace {
 
 constexpr const char* kTitle = "Pluvane";
-constexpr const char* kFactorKey = "Facteur d'affichage";
 constexpr int kFactorBuffer = 255;
 // Under this the factor is taken as unset.
 constexpr double kFactorFloor = 0.000001;
@@ -53,7 +53,7 @@ bool FrmImpfileDlg::cmdOk(const std::string& path, int mode) {
     return false;
   }
   const std::string ini = IniFilePath(state_);
-  double f = Val(IniRead(kSectionParameters, kFactorKey, kFactorBuffer, ini));
+  double f = Val(IniRead(kSectionParameters, kKeyDisplayFactor, kFactorBuffer, ini));
   if (std::fabs(f) < kFactorFloor) f = 1;
 
   const bool readable = picture_readable ? picture_readable(path) : FileExist(path);
@@ -71,7 +71,7 @@ bool FrmImpfileDlg::cmdOk(const std::string& path, int mode) {
     }
   }
   state_.BackgroundFactor = f;
-  IniWrite(kSectionParameters, kFactorKey, NumToText(f), ini);
+  IniWrite(kSectionParameters, kKeyDisplayFactor, NumToText(f), ini);
   ui_.ShowStatus("Image de fond d'ecran : " + path);
   surface_.Refresh();
   return true;

@@ -1,5 +1,6 @@
 #include "shell/frm_preference.h"
 
+#include "foundation/settings_keys.h"
 #include "foundation/numbers.h"
 #include "foundation/text.h"
 #include "shell/configuration.h"
@@ -26,11 +27,11 @@ FrmPreference::FrmPreference(AppState& state, UserInterface& ui, std::function<v
   grid_.SetType(1, kRowLinkThick, CellType::Float(0, 1e9, 2));
   grid_.SetType(1, kRowResolution, CellType::Integer(1000, 2147483647));
   grid_.SetType(1, kRowFlashScreen, CellType::CheckBox());
-  grid_.SetText(1, kRowSymbolSize, Trim(ReadProfileValue(p, "Taille des symboles", 40, ini)));
-  grid_.SetText(1, kRowLinkThick, Trim(ReadProfileValue(p, "Epaisseur de trait", 40, ini)));
-  grid_.SetText(1, kRowResolution, Trim(ReadProfileValue(p, "Résolution Maxi", 40, ini)));
+  grid_.SetText(1, kRowSymbolSize, Trim(ReadProfileValue(p, kKeySymbolSize, 40, ini)));
+  grid_.SetText(1, kRowLinkThick, Trim(ReadProfileValue(p, kKeyLinkThick, 40, ini)));
+  grid_.SetText(1, kRowResolution, Trim(ReadProfileValue(p, kKeyResolution, 40, ini)));
   grid_.SetText(1, kRowFlashScreen,
-                ProfileBoolean(ReadProfileValue(kSectionOthers, "FlashScreen", 10, ini)) ? "1"
+                ProfileBoolean(ReadProfileValue(kSectionOthers, kKeyFlashScreen, 10, ini)) ? "1"
                                                                                          : "0");
 }
 
@@ -52,10 +53,10 @@ void FrmPreference::cmdOk() {
   const std::string ini = IniFilePath(state_);
   const std::string p = kSectionParameters;
   const std::int32_t resolution = ValLong(grid_.Text(1, kRowResolution));
-  WriteProfileValue(p, "Taille des symboles", Val(grid_.Text(1, kRowSymbolSize)), ini);
-  WriteProfileValue(p, "Epaisseur de trait", Val(grid_.Text(1, kRowLinkThick)), ini);
-  WriteProfileValue(p, "Résolution Maxi", resolution, ini);
-  WriteProfileValue(kSectionOthers, "FlashScreen",
+  WriteProfileValue(p, kKeySymbolSize, Val(grid_.Text(1, kRowSymbolSize)), ini);
+  WriteProfileValue(p, kKeyLinkThick, Val(grid_.Text(1, kRowLinkThick)), ini);
+  WriteProfileValue(p, kKeyResolution, resolution, ini);
+  WriteProfileValue(kSectionOthers, kKeyFlashScreen,
                     ProfileBoolean(grid_.Text(1, kRowFlashScreen)) ? "1" : "0", ini);
   // The new sizes count from now on, so that a refresh redraws with them.
   state_.SymbolSize = Val(grid_.Text(1, kRowSymbolSize));

@@ -7,18 +7,17 @@
 #include <system_error>
 
 #include "foundation/paths.h"
+#include "foundation/settings_keys.h"
 
 namespace pluvane {
 
 namespace {
 
-const char kIniName[] = "pluvane.ini";
-
 bool Writable(const std::string& path) { return ::access(path.c_str(), W_OK) == 0; }
 
 // The shipped data: beside the programs, else in ../share/pluvane.
 std::string DataDirOf(const std::string& app_path) {
-  if (FileExist(JoinPath(app_path, kIniName)) || FolderExist(JoinPath(app_path, "Symboles"))) {
+  if (FileExist(JoinPath(app_path, kIniFileName)) || FolderExist(JoinPath(app_path, "Symboles"))) {
     return app_path;
   }
   std::error_code error;
@@ -50,7 +49,7 @@ std::string UserConfigHome() {
 Installation LocateInstallation(const std::string& app_path, bool make_user_copy) {
   Installation found;
   found.data_dir = DataDirOf(app_path);
-  const std::string shipped = JoinPath(found.data_dir, kIniName);
+  const std::string shipped = JoinPath(found.data_dir, kIniFileName);
   // The portable layout writes its configuration where it stands.
   if (found.data_dir == app_path && (!FileExist(shipped) || (Writable(shipped) && Writable(app_path)))) {
     found.ini_file = shipped;
@@ -59,7 +58,7 @@ Installation LocateInstallation(const std::string& app_path, bool make_user_copy
   found.ini_file = shipped;
   const std::string home = UserConfigHome();
   if (home.empty()) return found;
-  const std::string copy = JoinPath(JoinPath(home, "pluvane"), kIniName);
+  const std::string copy = JoinPath(JoinPath(home, "pluvane"), kIniFileName);
   if (FileExist(copy) || (make_user_copy && FileExist(shipped) && MakeUserCopy(shipped, copy))) {
     found.ini_file = copy;
   }

@@ -26,10 +26,6 @@ inline constexpr const char* kModeRefresh = "MDREFRESH";
 inline constexpr const char* kModeRotate = "MDROTATE";
 inline constexpr const char* kModeBubble = "MYMDBUBLE";
 
-// Edit modes of the surface the modes use.
-inline constexpr int kEditSelection = 11;
-inline constexpr int kEditRotation = 13;
-inline constexpr int kEditZoomWindow = 24;
 // What SelectionAllowed is given back at each reset.
 inline constexpr int kSelectionAllowedAll = 23;
 

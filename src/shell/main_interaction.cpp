@@ -17,6 +17,7 @@
 #include "network/network_clipboard.h"
 #include "drawing/surface_guards.h"
 #include "drawing/surface_helpers.h"
+#include "network/network_tags.h"
 #include "network/topology.h"
 #include "network/view_zoom.h"
 #include "shell/interaction_modes.h"
@@ -264,7 +265,7 @@ void MainInteraction::PressOnMode(int button, int hit, InteractionResult& result
     if (hit == 0) return;
     CursorKeeper keep(surface_);
     surface_.SetCurrentObject(hit);
-    const int group = ValInt(surface_.ObjTag("iGroup"));
+    const int group = ValInt(surface_.ObjTag(kTagIGroup));
     if (group != kGroupNode && group != kGroupPoint && group != kGroupRegulator) return;
     // A node and what stands on it go together.
     std::int32_t left, top, right, bottom;
@@ -302,7 +303,7 @@ std::string MainInteraction::TagsText(int object) {
   std::string text;
   for (int i = 0; i < surface_.ObjTagCount(); ++i) {
     const std::string name = surface_.ObjTagName(i);
-    if (name == "iName" || name == "iGroup") continue;
+    if (name == kTagIName || name == kTagIGroup) continue;
     if (!text.empty()) text += "\n";
     text += name + " : " + surface_.ObjTagValue(i);
   }
@@ -401,12 +402,12 @@ void MainInteraction::RightRelease(InteractionResult& result) {
   CursorKeeper keep(surface_);
   surface_.SetCurrentObject(selected.front());
   if (surface_.ObjTagCount() == 0) return;
-  std::string label = surface_.ObjTag("UsId");
+  std::string label = surface_.ObjTag(kTagUsId);
   if (label.empty()) label = surface_.ObjTag("libell");
   std::string data;
   for (int i = 0; i < surface_.ObjTagCount(); ++i) {
     const std::string name = surface_.ObjTagName(i);
-    if (name == "iName" || name == "iGroup") continue;
+    if (name == kTagIName || name == kTagIGroup) continue;
     data += " ; " + name + " = " + surface_.ObjTagValue(i);
   }
   ui_.ShowStatus("elm sélectionné : " + label + data);
@@ -557,7 +558,7 @@ InteractionResult MainInteraction::Key(int code, int shift) {
       if (surface_.ObjectCount(kSelection) > 0) surface_.Arrange(1);
       break;
     case MainKey::kLocateId:
-      LocateElement(surface_, state_, ui_, "Id");
+      LocateElement(surface_, state_, ui_, kTagId);
       break;
     case MainKey::kLocateLabel:
       LocateElement(surface_, state_, ui_, "libell");

@@ -2,17 +2,17 @@
 
 #include "foundation/text.h"
 #include "drawing/surface_helpers.h"
+#include "network/catalogue.h"
 
 namespace pluvane {
 
 namespace {
 
-constexpr int kNodeIName = 99;
 
 }  // namespace
 
 MenuStates RefreshMenus(Surface& surface) {
-  const bool has_node = CountByName(surface, kNodeIName) > 0;
+  const bool has_node = CountByName(surface, kINameNode) > 0;
   MenuStates states;
   for (const char* name :
        {"mnuPluie", "mnuOption", "mnuScn", "mnuExploitation", "mnuFile_Export", "mnuUtil"}) {

@@ -24,7 +24,7 @@ constexpr std::array<DrawingTool, 27> kDrawingTools = {{
     {"mnuSelectEditMode", 11},
     {"mnuSelectSelectionMode", 11},
     {"mnuSelectViewMode", kEditView},
-    {"mnuSelectRotationMode", kEditTurn},
+    {"mnuSelectRotationMode", kEditRotation},
     {"MnuPlaceLine", kEditLine},
     {"MnuPlaceCotation", kEditDimension},
     {"MnuPlacePolyLine", kEditPolyline},
@@ -125,13 +125,13 @@ std::string DrawingToolStatus(int edit_mode) {
   if (IsVertexMode(edit_mode)) return kVertexStatus;
   if (edit_mode == kEditText) return kTextStatus;
   if (edit_mode == kEditFreeLink) return kFreeLinkStatus;
-  if (edit_mode == kEditTurn) return kTurnStatus;
+  if (edit_mode == kEditRotation) return kTurnStatus;
   return "";
 }
 
 bool IsDrawingEditMode(int edit_mode) {
   return IsDraggedMode(edit_mode) || IsVertexMode(edit_mode) || edit_mode == kEditText ||
-         edit_mode == kEditFreeLink || edit_mode == kEditTurn;
+         edit_mode == kEditFreeLink || edit_mode == kEditRotation;
 }
 
 void ShapeDrawing::Cancel() {
@@ -174,7 +174,7 @@ bool ShapeDrawing::Press(int button, int hit, double x, double y) {
     CursorKeeper keep(surface_);
     UndoStep step(surface_, std::string("Annuler : ") + ShapeName(kEditFreeLink));
     return surface_.AddLink(first, hit) > 0;
-  } else if (mode == kEditTurn) {
+  } else if (mode == kEditRotation) {
     Cancel();
     const std::vector<int> selected = SelectedObjects(surface_);
     if (selected.empty()) return false;
@@ -215,7 +215,7 @@ bool ShapeDrawing::Release(int button, double x, double y) {
     Cancel();
     return PlaceText(at);
   }
-  if (mode_ == kEditTurn) {
+  if (mode_ == kEditRotation) {
     const bool turned = Turn(x, y);
     Cancel();
     return turned;
@@ -329,7 +329,7 @@ std::optional<RubberShape> ShapeDrawing::Rubber() const {
   if (mode_ == kEditFreeLink) {
     rubber.kind = kKindLine;
     rubber.points.push_back(ObjectCentre(surface_, first_end_));
-  } else if (mode_ == kEditTurn) {
+  } else if (mode_ == kEditRotation) {
     rubber.kind = kKindLine;
     rubber.points.emplace_back(centre_x_, centre_y_);
   } else if (mode_ == kEditText) {

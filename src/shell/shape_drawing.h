@@ -20,22 +20,6 @@
 
 namespace pluvane {
 
-// Edit modes of the drawing tools.
-inline constexpr int kEditView = 0;
-inline constexpr int kEditLine = 1;
-inline constexpr int kEditRectangle = 2;
-inline constexpr int kEditEllipse = 4;
-inline constexpr int kEditArc = 5;
-inline constexpr int kEditPie = 6;
-inline constexpr int kEditChord = 7;
-inline constexpr int kEditPolyline = 8;
-inline constexpr int kEditPolygon = 9;
-inline constexpr int kEditText = 10;
-inline constexpr int kEditTurn = 13;
-inline constexpr int kEditBezier = 14;
-inline constexpr int kEditFreeLink = 21;
-inline constexpr int kEditDimension = 22;
-
 // Title and prompt of the text typed for a text placed on the drawing.
 inline constexpr const char* kPlaceTextTitle = "Placer un texte";
 inline constexpr const char* kPlaceTextPrompt = "Texte à placer :";

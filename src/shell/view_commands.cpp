@@ -3,6 +3,8 @@
 #include <cmath>
 #include <vector>
 
+#include "drawing/object_tags.h"
+#include "foundation/settings_keys.h"
 #include "foundation/numbers.h"
 #include "network/catalogue.h"
 #include "drawing/surface_guards.h"
@@ -20,7 +22,7 @@ constexpr double kGridPixels = 124;
 constexpr int kBothScrollBars = 2;
 
 bool IsElementSymbol(Surface& surface) {
-  const int i_name = ValInt(surface.ObjTag("iName"));
+  const int i_name = ValInt(surface.ObjTag(kTagIName));
   return surface.ObjectKind() == kKindPicture && i_name >= 1 && i_name < kINameReach;
 }
 
@@ -61,8 +63,8 @@ int RefreshSymbolSizes(Surface& surface, const AppState& state) {
 int ShowLinkArrows(Surface& surface, const AppState& state, UserInterface& ui, bool on) {
   CursorKeeper keep(surface);
   std::vector<int> links;
-  for (int n = surface.FindByTag("iGroup", kGroupLink, true); n > 0;
-       n = surface.FindByTag("iGroup", kGroupLink, false)) {
+  for (int n = surface.FindByTag(kTagIGroup, kGroupLink, true); n > 0;
+       n = surface.FindByTag(kTagIGroup, kGroupLink, false)) {
     links.push_back(n);
   }
   const double r = state.ScaleWithZoom ? 5 : 2.5 * NodeHalfSize(surface, state.SymbolSize);
@@ -113,7 +115,8 @@ bool ChooseScreenColour(Surface& surface, AppState& state, UserInterface& ui) {
   surface.SetBackColor1(*colour);
   surface.SetBackColor2(*colour);
   state.ScreenBackColor = *colour;
-  WriteProfileValue(kSectionOthers, "CoBack Ecran", std::to_string(*colour), IniFilePath(state));
+  WriteProfileValue(kSectionOthers, kKeyScreenBackColor, std::to_string(*colour),
+                    IniFilePath(state));
   surface.Refresh();
   return true;
 }

@@ -1,5 +1,6 @@
 #include "simulation/data_recap.h"
 
+#include "network/network_tags.h"
 #include "simulation/scenario_records.h"
 
 #include <algorithm>
@@ -63,7 +64,7 @@ class RecapWriter {
     CursorKeeper keeper(s_);
     std::vector<int> elements;
     for (int i_name : i_names) {
-      for (int n : FindObjectList(s_, "iName", i_name)) elements.push_back(n);
+      for (int n : FindObjectList(s_, kTagIName, i_name)) elements.push_back(n);
     }
     // Search order is creation order.
     std::sort(elements.begin(), elements.end());
@@ -77,7 +78,7 @@ class RecapWriter {
         fields();
         continue;
       }
-      Data(id_label, Text("libell") + " (" + s_.ObjTag("Id") + ")");
+      Data(id_label, Text("libell") + " (" + s_.ObjTag(kTagId) + ")");
       fields();
       Line("");
     }
@@ -86,31 +87,31 @@ class RecapWriter {
  private:
   void Rain() {
     CursorKeeper keeper(s_);
-    const int scenario = FindObject2(s_, "iName", 111, "Id", state_.ScenarioName);
+    const int scenario = FindObject2(s_, kTagIName, kINameScenario, kTagId, state_.ScenarioName);
     const int kind = scenario > 10 ? ValRoundLong(s_.ObjTag("iPluie")) : 0;
     const std::string rain_id = scenario > 10 ? Trim(s_.ObjTag("IdPluie")) : "";
     const std::string radar_name = scenario > 10 ? s_.ObjTag("UsIdPluie") : "";
     // The rain is found as the rain file finds it: Id trimmed, in any case.
     const int rain = kind > 0 ? FindRecord(s_, kind, rain_id) : 0;
-    if (rain < 11 && kind != 108) {
+    if (rain < 11 && kind != kINameRadar) {
       Line("Scénario de pluie non renseigné.");
       return;
     }
-    auto name = [&] { return Text("Design") + " (" + s_.ObjTag("Id") + ")"; };
+    auto name = [&] { return Text("Design") + " (" + s_.ObjTag(kTagId) + ")"; };
     auto pair = [&](const char* a, const char* b) { return Num(a) + ", " + Num(b); };
     switch (kind) {
-      case 104:
-      case 105:
-        Line((kind == 104 ? "Pluie Caquot " : "Pluie simple triangle ") + name());
+      case kINameCaquot:
+      case kINameSimpleTriangle:
+        Line((kind == kINameCaquot ? "Pluie Caquot " : "Pluie simple triangle ") + name());
         Line("Période de retour      = " + Num("Pret"));
         Line("Coef a et b de Montana = " + pair("Ca", "Cb"));
-        if (kind == 105) {
+        if (kind == kINameSimpleTriangle) {
           Line("Durée de la précipitation (mn) = " + Num("Duree"));
           Line("Instant du pic pluvieux (mn)   = " + Num("Timax"));
           Place();
         }
         break;
-      case 106:
+      case kINameDoubleTriangle:
         Line("Pluie double triangle " + name());
         Line("Période de retour de l'épisode total         = " + Num("PretTot"));
         Line("Période de retour de l'épisode intense       = " + Num("PretInt"));
@@ -121,7 +122,7 @@ class RecapWriter {
         Line("Instant du pic pluvieux (mn)    = " + Num("Timax"));
         Place();
         break;
-      case 107: {
+      case kINameSynthetic: {
         Line("Hyétogramme PPHYE");
         Line("Temps (mn)\tI (mm/h)");
         const int count = ValRoundLong(s_.ObjTag("NbPt"));
@@ -131,30 +132,30 @@ class RecapWriter {
         Place();
         break;
       }
-      case 103:
+      case kINameRealRain:
         Recorded();
         break;
-      case 108:
+      case kINameRadar:
         Line("Pluie Radar " + radar_name);
         break;
       default:
         // Rains imported from outside show their designation.
-        Line(Text("Design") + " (" + s_.ObjTag("Id") + ")");
+        Line(Text("Design") + " (" + s_.ObjTag(kTagId) + ")");
         break;
     }
   }
 
   void Recorded() {
     const int event = s_.CurrentObject();
-    Line("Désignation de l'événement : " + Text("Design") + " (" + s_.ObjTag("Id") + ")");
+    Line("Désignation de l'événement : " + Text("Design") + " (" + s_.ObjTag(kTagId) + ")");
     Line(ValRoundLong(s_.ObjTag("iModePluie")) == 2 ? "Méthode d'abattement : distance pondérée"
                                               : "Méthode d'abattement : Thiessen");
-    const std::vector<int> gauges = FindObjectList(s_, "iName", 12);
+    const std::vector<int> gauges = FindObjectList(s_, kTagIName, kINamePLU);
     Line("Nombre de pluviographes = " + std::to_string(gauges.size()));
     for (int gauge : gauges) {
       s_.SetCurrentObject(gauge);
       Line("Id. Pluviographe : " + Text("libell"));
-      Line("Coord. X,Y = " + Num("Xus") + ", " + Num("Yus"));
+      Line("Coord. X,Y = " + Num(kTagXus) + ", " + Num(kTagYus));
     }
     s_.SetCurrentObject(event);
     Line("Temps (mn)\tHauteur cumulée (mm)");
@@ -165,8 +166,8 @@ class RecapWriter {
   // Where a design storm falls: the radius of action, when one stands.
   void Place() {
     CursorKeeper keeper(s_);
-    if (FindObject2(s_, "iName", 17, "Id", "Rayon") > 10) {
-      Line("X,Y de l'épicentre = " + Num("Xus") + ", " + Num("Yus"));
+    if (FindObject2(s_, kTagIName, kINameRayon, kTagId, "Rayon") > 10) {
+      Line("X,Y de l'épicentre = " + Num(kTagXus) + ", " + Num(kTagYus));
       Line("Rayon d'action (m) = " + Num("Rayon"));
     } else {
       Line("Rayon d'action non renseigné");
@@ -262,27 +263,32 @@ void QzDivider(RecapWriter& w, Surface& s) {
 void WriteSections(RecapWriter& w, Surface& s, UserInterface& ui) {
   const std::vector<std::function<void()>> sections = {
       // Catchments standing on a node are catchments too.
-      [&] { w.Section({1, 21}, "BASSINS VERSANTS : ", "* Id. bassin versant ..................... = ",
-                      [&] { Catchment(w, s); }); },
       [&] {
-        w.Section({2}, "ROUTAGES HYDROLOGIQUES : ", "* Id. Routage ...................... = ", [&] {
+        w.Section({kINameBV, kINameBVS}, "BASSINS VERSANTS : ",
+                  "* Id. bassin versant ..................... = ", [&] { Catchment(w, s); });
+      },
+      [&] {
+        const char* id_label = "* Id. Routage ...................... = ";
+        w.Section({kINameRout}, "ROUTAGES HYDROLOGIQUES : ", id_label, [&] {
           w.Field("  Section moyenne du collecteur (m2) = ", "S");
           w.Field("  Longueur de routage            (m) = ", "L");
           w.Field("  Pente moyenne du collecteur  (m/m) = ", "m");
         });
       },
       [&] {
-        w.Section({3}, "EXUTOIRES DE BASSIN VERSANT : ", "* Id. Exutoire de BV .......... = ",
+        w.Section({kINameHYBV}, "EXUTOIRES DE BASSIN VERSANT : ",
+                  "* Id. Exutoire de BV .......... = ",
                   [&] { DrySurface(w, "          du réseau amont  (m2)"); });
       },
       [&] {
-        w.Section({4}, "INJECTIONS D'HYDROGRAMME : ", "* Id. Hydrogramme ............. = ", [&] {
+        const char* id_label = "* Id. Hydrogramme ............. = ";
+        w.Section({kINameHY}, "INJECTIONS D'HYDROGRAMME : ", id_label, [&] {
           DrySurface(w, "          du réseau amont  (m2)");
           w.Table({"Temps (mn)", "Débit (m3/s)"}, {"X", "Y"}, "NbPt");
         });
       },
       [&] {
-        w.Section({5}, "COLLECTEURS CIRCULAIRES : ", "* Id. collecteur ...... = ", [&] {
+        w.Section({kINameCAC}, "COLLECTEURS CIRCULAIRES : ", "* Id. collecteur ...... = ", [&] {
           w.Field("  Cote radier amont (m) = ", "ZRam");
           w.Field("  Cote radier aval  (m) = ", "ZRav");
           w.Field("  Diamètre          (m) = ", "Dn");
@@ -292,7 +298,7 @@ void WriteSections(RecapWriter& w, Surface& s, UserInterface& ui) {
         });
       },
       [&] {
-        w.Section({6}, "COLLECTEURS FERMES : ", "* Id. Collecteur .......... = ", [&] {
+        w.Section({kINameCAF}, "COLLECTEURS FERMES : ", "* Id. Collecteur .......... = ", [&] {
           w.Field("  Cote radier amont (m)     = ", "ZRam");
           w.Field("  Cote radier aval  (m)     = ", "ZRav");
           w.TextField("  Identifiant de la section = ", "IdSect");
@@ -302,7 +308,8 @@ void WriteSections(RecapWriter& w, Surface& s, UserInterface& ui) {
         });
       },
       [&] {
-        w.Section({7}, "COLLECTEURS OUVERTS : ", "* Id. Collecteur ................. = ", [&] {
+        const char* id_label = "* Id. Collecteur ................. = ";
+        w.Section({kINameCAO}, "COLLECTEURS OUVERTS : ", id_label, [&] {
           w.Field("  Cote radier amont (m)            = ", "ZRam");
           w.Field("  Cote radier aval  (m)            = ", "ZRav");
           w.TextField("  Identifiant de la section        = ", "IdSect");
@@ -313,7 +320,8 @@ void WriteSections(RecapWriter& w, Surface& s, UserInterface& ui) {
         });
       },
       [&] {
-        w.Section({8}, "DEVERSOIRS DE TYPE QQ : ", "* Id. Déversoir ................... = ", [&] {
+        const char* id_label = "* Id. Déversoir ................... = ";
+        w.Section({kINameDQQ}, "DEVERSOIRS DE TYPE QQ : ", id_label, [&] {
           w.TextField("  Identifiant de l'élément aval     = ", "IdAval");
           w.Field("  Nombre de dérivation              = ", "NbDer");
           w.TextField("  Identifiant de la 1ère dérivation = ", "IdDer_a");
@@ -324,11 +332,11 @@ void WriteSections(RecapWriter& w, Surface& s, UserInterface& ui) {
         });
       },
       [&] {
-        w.Section({9}, "DEVERSOIRS DE TYPE QZ : ", "* Id. Déversoir ............... = ",
+        w.Section({kINameDQZ}, "DEVERSOIRS DE TYPE QZ : ", "* Id. Déversoir ............... = ",
                   [&] { QzDivider(w, s); });
       },
       [&] {
-        w.Section({10}, "BASSINS DE STOCKAGE A DEBIT DE FUITE CONSTANT : ",
+        w.Section({kINameRS}, "BASSINS DE STOCKAGE A DEBIT DE FUITE CONSTANT : ",
                   "* Id. Bassin ..................... = ", [&] {
                     w.TextField("  Id. du récepteur aval         = ", "IdAval");
                     w.TextField("  Id. du récepteur de surverse  = ", "IdSurv");
@@ -338,7 +346,7 @@ void WriteSections(RecapWriter& w, Surface& s, UserInterface& ui) {
                   });
       },
       [&] {
-        w.Section({11}, "BASSINS A DEBIT DE FUITE PARAMETRIQUE : ",
+        w.Section({kINameRSP}, "BASSINS A DEBIT DE FUITE PARAMETRIQUE : ",
                   "* Id. Bassin .................. = ", [&] {
                     w.TextField("  Id. du récepteur aval         = ", "IdAval");
                     w.TextField("  Id. du récepteur de surverse  = ", "IdSurv");
@@ -348,17 +356,17 @@ void WriteSections(RecapWriter& w, Surface& s, UserInterface& ui) {
                   });
       },
       [&] {
-        w.Section({14}, "EXTREMITES AVAL DE RESEAU : ", "",
-                  [&] { w.Line("\t* " + s.ObjTag("Id")); }, true);
+        w.Section({kINameCLAV}, "EXTREMITES AVAL DE RESEAU : ", "",
+                  [&] { w.Line("\t* " + s.ObjTag(kTagId)); }, true);
       },
       [&] {
-        w.Section({16}, "MARQUAGES DE SORTIE : ", "",
-                  [&] { w.Line("\t* " + w.Text("libell") + " (" + s.ObjTag("Id") + ")"); },
+        w.Section({kINameMark}, "MARQUAGES DE SORTIE : ", "",
+                  [&] { w.Line("\t* " + w.Text("libell") + " (" + s.ObjTag(kTagId) + ")"); },
                   true);
       },
       [&] {
-        w.Section({100}, "BIEFS DE COLLECTEUR : ", "", [&] {
-          w.Line("\t* Bief " + s.ObjTag("Id"));
+        w.Section({kINameReach}, "BIEFS DE COLLECTEUR : ", "", [&] {
+          w.Line("\t* Bief " + s.ObjTag(kTagId));
           const int count = ValRoundLong(s.ObjTag("NbColl"));
           for (int i = 1; i <= count; ++i) w.Line("\t  " + s.ObjTag("IdColl" + std::to_string(i)));
           w.Line("");

@@ -3,6 +3,7 @@
 #include <cstdio>
 #include <vector>
 
+#include "foundation/settings_keys.h"
 #include "foundation/errors.h"
 #include "foundation/ini_profile.h"
 #include "foundation/numbers.h"
@@ -79,7 +80,7 @@ std::string EngineCommand(const SimulationState& state, const std::string& name)
   if (program.empty()) program = FindFileNoCase(state.AppPath, name + ".exe");
   if (program.empty()) return {};
   const std::string launcher =
-      Trim(IniRead("Autres", "Lanceur", 255, IniFilePath(state)));
+      Trim(IniRead(kSectionOthers, kKeyLauncher, 255, IniFilePath(state)));
   if (EqualsNoCase(CharRight(program, 4), ".exe") && !launcher.empty()) {
     return launcher + " " + Quoted(program);
   }
@@ -155,7 +156,7 @@ void ShowModelLog(const SimulationState& state, Console& console, const std::str
 void CleanModelFiles(const SimulationState& state, const std::string& msg_path, int step_count) {
   if (!FileExist(msg_path) || step_count < 1) return;
   const std::string place_nette =
-      UCase(Trim(IniRead("Autres", "Place Nette", 255, IniFilePath(state))));
+      UCase(Trim(IniRead(kSectionOthers, kKeyCleanRun, 255, IniFilePath(state))));
   if (place_nette != "OUI" && place_nette != "TRUE" && place_nette != "1" && place_nette != "-1") {
     return;
   }

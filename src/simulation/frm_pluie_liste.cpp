@@ -3,15 +3,20 @@
 #include "foundation/text.h"
 #include "drawing/surface_guards.h"
 #include "drawing/surface_helpers.h"
+#include "network/catalogue.h"
+#include "network/network_tags.h"
 
 namespace pluvane {
 
 namespace {
 
-constexpr int kGauge = 12;
 
-bool HasMode(int kind) { return kind == 103 || kind == 108 || kind == 127; }
-bool IsExternal(int kind) { return kind == 108 || kind == 127 || kind == 128; }
+bool HasMode(int kind) {
+  return kind == kINameRealRain || kind == kINameRadar || kind == kINameExternalGauge;
+}
+bool IsExternal(int kind) {
+  return kind == kINameRadar || kind == kINameExternalGauge || kind == kINameExternalHyeto;
+}
 
 }  // namespace
 
@@ -20,7 +25,7 @@ FrmPluieListe::FrmPluieListe(Surface& surface, SimulationState& state, UserInter
   grid_.SetCaption(Caption());
   grid_.SetColHead(kColId, "Identifiant de la pluie");
   grid_.SetColHead(kColUsId, "Libellé de la pluie");
-  grid_.SetColHead(kColKind, "iName");
+  grid_.SetColHead(kColKind, kTagIName);
   grid_.SetColHead(kColMode, "iMode (project ou real)");
   grid_.SetColHead(kColExternal, "Mode externe");
   grid_.SetColWidth(kColKind, 0);
@@ -57,12 +62,12 @@ void FrmPluieListe::mnuSelect() {
 void FrmPluieListe::Load() {
   CursorKeeper keeper(surface_);
   for (int kind : kRainListKinds) {
-    for (int number : FindObjectList(surface_, "iName", kind)) {
+    for (int number : FindObjectList(surface_, kTagIName, kind)) {
       surface_.SetCurrentObject(number);
       const int row = grid_.MaxRows() + 1;
       grid_.SetMaxRows(row);
-      grid_.SetText(kColId, row, surface_.ObjTag("Id"));
-      grid_.SetText(kColUsId, row, surface_.ObjTag("UsId"));
+      grid_.SetText(kColId, row, surface_.ObjTag(kTagId));
+      grid_.SetText(kColUsId, row, surface_.ObjTag(kTagUsId));
       grid_.SetText(kColKind, row, std::to_string(kind));
       grid_.SetText(kColMode, row, HasMode(kind) ? surface_.ObjTag("iMode") : "");
       grid_.SetText(kColExternal, row, IsExternal(kind) ? "x" : "");
@@ -72,10 +77,10 @@ void FrmPluieListe::Load() {
 
 bool FrmPluieListe::GaugeNamesAreUnique() {
   CursorKeeper keeper(surface_);
-  for (int number : FindObjectList(surface_, "iName", kGauge)) {
+  for (int number : FindObjectList(surface_, kTagIName, kINamePLU)) {
     surface_.SetCurrentObject(number);
     const std::string name = surface_.ObjTag("libell");
-    const int count = CountLabel(surface_, kGauge, name);
+    const int count = CountLabel(surface_, kINamePLU, name);
     if (count < 2) continue;
     ui_.ShowMessage("Attention, doublon de pluviomètre non autorisé\r\n" + std::to_string(count) +
                         " pluviomètres " + name + " ont été trouvés.",

@@ -10,6 +10,7 @@
 #include "foundation/form_controller.h"
 #include "foundation/user_interface.h"
 #include "drawing/surface.h"
+#include "network/catalogue.h"
 #include "simulation/simulation_state.h"
 
 namespace pluvane {
@@ -17,7 +18,9 @@ namespace pluvane {
 // The state the list leaves when a rain was taken.
 inline constexpr const char* kScnPluieSelected = "ScnPluieSelected";
 // The kinds the list shows, in the order it loads them.
-inline constexpr int kRainListKinds[] = {103, 104, 105, 106, 107, 108, 127, 128};
+inline constexpr int kRainListKinds[] = {
+    kINameRealRain,      kINameCaquot,    kINameSimpleTriangle, kINameDoubleTriangle,
+    kINameSynthetic,     kINameRadar,     kINameExternalGauge,  kINameExternalHyeto};
 
 class FrmPluieListe : public FormController {
  public:

@@ -2,26 +2,28 @@
 
 #include "foundation/numbers.h"
 #include "foundation/text.h"
+#include "network/catalogue.h"
 #include "network/hidden_record.h"
 #include "drawing/surface_guards.h"
 #include "drawing/surface_helpers.h"
+#include "network/network_tags.h"
 #include "simulation/scenario_records.h"
 
 namespace pluvane {
 
 namespace {
 
-bool IsRealRain(int kind) { return kind == 103 || kind == 108; }
+bool IsRealRain(int kind) { return kind == kINameRealRain || kind == kINameRadar; }
 
 std::string KindText(int kind) {
   switch (kind) {
-    case 104:
+    case kINameCaquot:
       return " : Pluie Caquot : ";
-    case 105:
+    case kINameSimpleTriangle:
       return " : Pluie simple triangle : ";
-    case 106:
+    case kINameDoubleTriangle:
       return " : Pluie double triangle : ";
-    case 107:
+    case kINameSynthetic:
       return " : Pluie synthétique I(t) : ";
     default:
       return " : ";
@@ -51,7 +53,7 @@ std::vector<std::string> ItemParts(const std::string& item) {
 }  // namespace
 
 std::string RainChoiceItem(Surface& surface, int kind) {
-  const std::string id = surface.ObjTag("Id");
+  const std::string id = surface.ObjTag(kTagId);
   const std::string design = surface.ObjTag("Design");
   if (IsRealRain(kind)) {
     return std::to_string(kind) + " : " + id + " : " + design + " : " + surface.ObjTag("iMode");
@@ -67,8 +69,8 @@ FrmScnPluie::FrmScnPluie(Surface& surface, SimulationState& state, UserInterface
   grid_.SetColHead(kColType, "Type de pluie");
   CursorKeeper keeper(surface_);
   std::string items;
-  for (int kind = 103; kind <= 108; ++kind) {
-    for (int number : FindObjectList(surface_, "iName", kind)) {
+  for (int kind = kINameRealRain; kind <= kINameRadar; ++kind) {
+    for (int number : FindObjectList(surface_, kTagIName, kind)) {
       surface_.SetCurrentObject(number);
       if (!items.empty()) items += "\t";
       items += RainChoiceItem(surface_, kind);
@@ -76,7 +78,7 @@ FrmScnPluie::FrmScnPluie(Surface& surface, SimulationState& state, UserInterface
   }
   grid_.SetColumnType(kColChoice, CellType::List(items));
   grid_.SetColumnLocked(kColType, true);
-  if (FindRecord(surface_, kRainScenario, kScnPluieId) == 0) return;
+  if (FindRecord(surface_, kINameRainScenario, kScnPluieId) == 0) return;
   for (int row = 1; row <= kRows; ++row) {
     for (int col = 1; col <= grid_.MaxCols(); ++col) {
       grid_.SetText(col, row, surface_.ObjTag(CellTag(row, col)));
@@ -91,11 +93,11 @@ std::vector<FormCommand> FrmScnPluie::Commands() {
 
 void FrmScnPluie::cmdOk() {
   CursorKeeper keeper(surface_);
-  if (FindRecord(surface_, kRainScenario, kScnPluieId) == 0) {
+  if (FindRecord(surface_, kINameRainScenario, kScnPluieId) == 0) {
     AddHiddenRecord(surface_, state_);
-    surface_.SetObjTag("iName", kRainScenario);
-    surface_.SetObjTag("iGroup", -1);
-    surface_.SetObjTag("Id", kScnPluieId);
+    surface_.SetObjTag(kTagIName, kINameRainScenario);
+    surface_.SetObjTag(kTagIGroup, -1);
+    surface_.SetObjTag(kTagId, kScnPluieId);
   }
   const std::vector<std::string> parts = ItemParts(grid_.Text(kColChoice, 1));
   const int kind = ValInt(parts[0]);
@@ -104,7 +106,7 @@ void FrmScnPluie::cmdOk() {
   surface_.SetObjTag("iPluie", kind);
   surface_.SetObjTag("IdPluie", parts[1]);
   surface_.SetObjTag("Design", parts[2]);
-  surface_.SetObjTag("UsId", grid_.Text(kColChoice, 1));
+  surface_.SetObjTag(kTagUsId, grid_.Text(kColChoice, 1));
   surface_.SetObjTag("Type", real ? "Real" : "Project");
   if (real) surface_.SetObjTag("iMode", parts[3]);
   surface_.SetObjTag("iRow", kRows);

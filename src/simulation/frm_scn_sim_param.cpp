@@ -2,12 +2,14 @@
 
 #include <utility>
 
+#include "network/catalogue.h"
 #include "network/library_rows.h"
 #include "foundation/grid_checks.h"
 #include "foundation/grid_rows.h"
 #include "foundation/text.h"
 #include "drawing/surface_guards.h"
 #include "drawing/surface_helpers.h"
+#include "network/network_tags.h"
 #include "simulation/frm_scn_sim_param_plus.h"
 #include "simulation/scenario_records.h"
 
@@ -22,12 +24,12 @@ FrmScnSimParam::FrmScnSimParam(Surface& surface, SimulationState& state, UserInt
   grid_.SetColHead(kColEdit, "Paramétrage du scénario");
   grid_.SetColumnType(kColEdit, CellType::Button());
   CursorKeeper keeper(surface_);
-  for (int number : FindObjectList(surface_, "iName", kCalcScenario)) {
+  for (int number : FindObjectList(surface_, kTagIName, kINameScenario)) {
     surface_.SetCurrentObject(number);
     const int row = grid_.MaxRows() + 1;
     grid_.SetMaxRows(row);
-    grid_.SetText(kColId, row, surface_.ObjTag("Id"));
-    grid_.SetText(kColUsId, row, surface_.ObjTag("UsId"));
+    grid_.SetText(kColId, row, surface_.ObjTag(kTagId));
+    grid_.SetText(kColUsId, row, surface_.ObjTag(kTagUsId));
     grid_.SetText(kColEdit, row, "&Editer...");
   }
 }
@@ -61,17 +63,17 @@ void FrmScnSimParam::mnIns() {
 }
 
 void FrmScnSimParam::mnDel() {
-  SSMarkRowDeleted(surface_, kCalcScenario, grid_, grid_.ActiveRow());
+  SSMarkRowDeleted(surface_, kINameScenario, grid_, grid_.ActiveRow());
 }
 
 void FrmScnSimParam::mnSave() {
   if (!SSCheckFilled(grid_, kColId, ui_)) return;
-  deleted_ = DeleteMarkedRecords(surface_, kCalcScenario);
+  deleted_ = DeleteMarkedRecords(surface_, kINameScenario);
   {
     CursorKeeper keeper(surface_);
     for (int row = 1; row <= grid_.MaxRows(); ++row) {
       const std::string id = Trim(grid_.Text(kColId, row));
-      if (FindObject2(surface_, "iName", kCalcScenario, "Id", id) < 11) continue;
+      if (FindObject2(surface_, kTagIName, kINameScenario, kTagId, id) < 11) continue;
       WriteScenarioHead(surface_, id, Trim(grid_.Text(kColUsId, row)));
     }
   }
@@ -81,8 +83,8 @@ void FrmScnSimParam::mnSave() {
 void FrmScnSimParam::RenameRow(int row, const std::string& old_id) {
   if (row < 1 || row > grid_.MaxRows() || Trim(old_id).empty()) return;
   CursorKeeper keeper(surface_);
-  if (FindObject2(surface_, "iName", kCalcScenario, "Id", old_id) > 10) {
-    surface_.SetObjTag("Id", Trim(grid_.Text(kColId, row)));
+  if (FindObject2(surface_, kTagIName, kINameScenario, kTagId, old_id) > 10) {
+    surface_.SetObjTag(kTagId, Trim(grid_.Text(kColId, row)));
   }
 }
 
@@ -93,7 +95,7 @@ void FrmScnSimParam::ButtonCell(Grid& grid, int col, int row) {
 void FrmScnSimParam::EditRow(int row) {
   if (row < 1 || row > grid_.MaxRows()) return;
   const std::string id = Trim(grid_.Text(kColId, row));
-  const int scenario = FindObject2(surface_, "iName", kCalcScenario, "Id", id);
+  const int scenario = FindObject2(surface_, kTagIName, kINameScenario, kTagId, id);
   if (scenario < 11) return;
   FrmScnSimParamPlus form(surface_, state_, ui_, scenario, id, show_modal_);
   if (show_modal_) show_modal_(form);
@@ -115,12 +117,12 @@ int FrmScnSimParam::NameNewRow(int row) {
 
 void FrmScnSimParam::CopySettings(const std::string& from_id, int to) {
   CursorKeeper keeper(surface_);
-  const int from = FindObject2(surface_, "iName", kCalcScenario, "Id", from_id);
+  const int from = FindObject2(surface_, kTagIName, kINameScenario, kTagId, from_id);
   if (from < 11 || from == to) return;
   std::vector<std::pair<std::string, std::string>> tags;
   for (int i = 0; i < surface_.ObjTagCount(); ++i) {
     const std::string name = surface_.ObjTagName(i);
-    if (name == "Id" || name == "UsId") continue;
+    if (name == kTagId || name == kTagUsId) continue;
     tags.emplace_back(name, surface_.ObjTagValue(i));
   }
   surface_.SetCurrentObject(to);

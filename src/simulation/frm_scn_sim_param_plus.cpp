@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "drawing/object_tags.h"
 #include "foundation/numbers.h"
 #include "foundation/text.h"
 #include "drawing/surface_guards.h"
@@ -29,7 +30,7 @@ FrmScnSimParamPlus::FrmScnSimParamPlus(Surface& surface, SimulationState& state,
   spread0_.SetText(0, 1, "Scénario de pluie");
   spread0_.SetColHead(kColId, "Identifiant");
   spread0_.SetColHead(kColUsId, "Commentaire");
-  spread0_.SetColHead(kColKind, "iName");
+  spread0_.SetColHead(kColKind, kTagIName);
   spread0_.SetColHead(kColMode, "iMode");
   for (int col = 1; col <= kColMode; ++col) spread0_.SetColumnLocked(col, true);
 

@@ -1,10 +1,12 @@
 #include "simulation/frm_scn_sim_param_select.h"
 
 #include "foundation/text.h"
+#include "network/catalogue.h"
 #include "network/hidden_record.h"
 #include "network/network_parameters.h"
 #include "drawing/surface_guards.h"
 #include "drawing/surface_helpers.h"
+#include "network/network_tags.h"
 #include "simulation/scenario_records.h"
 
 namespace pluvane {
@@ -14,15 +16,15 @@ FrmScnSimParamSelect::FrmScnSimParamSelect(Surface& surface, SimulationState& st
   grid_.SetCaption(Caption());
   grid_.SetColHead(1, "Liste de scénarii disponibles");
   CursorKeeper keeper(surface_);
-  if (CountByName(surface_, kCalcScenario) == 0) AddScenarioRecord(surface_, state_, "", "");
+  if (CountByName(surface_, kINameScenario) == 0) AddScenarioRecord(surface_, state_, "", "");
   std::string items;
   int preselected = -1;
   int index = 0;
-  for (int number : FindObjectList(surface_, "iName", kCalcScenario)) {
+  for (int number : FindObjectList(surface_, kTagIName, kINameScenario)) {
     surface_.SetCurrentObject(number);
-    const std::string id = surface_.ObjTag("Id");
+    const std::string id = surface_.ObjTag(kTagId);
     if (index > 0) items += "\t";
-    items += id + " : " + surface_.ObjTag("UsId");
+    items += id + " : " + surface_.ObjTag(kTagUsId);
     if (preselected < 0 && EqualsNoCase(Trim(id), Trim(state_.ScenarioName))) preselected = index;
     ++index;
   }
@@ -41,7 +43,7 @@ void FrmScnSimParamSelect::cmdOk() {
   const std::size_t colon = item.find(':');
   const std::string id = Trim(item.substr(0, colon));
   const std::string title = colon == std::string::npos ? "" : Trim(item.substr(colon + 1));
-  int scenario = FindRecord(surface_, kCalcScenario, id);
+  int scenario = FindRecord(surface_, kINameScenario, id);
   if (scenario == 0) {
     scenario = AddScenarioRecord(surface_, state_, id, title);
   }
@@ -56,13 +58,13 @@ void FrmScnSimParamSelect::cmdOk() {
 void FrmScnSimParamSelect::WriteCurrentScenarioRecord(const std::string& id,
                                                       const std::string& title) {
   CursorKeeper keeper(surface_);
-  if (FindObject(surface_, "iName", kCurrentScenario) < 11) {
+  if (FindObject(surface_, kTagIName, kINameCurrentScenario) < 11) {
     AddHiddenRecord(surface_, state_);
-    surface_.SetObjTag("iName", kCurrentScenario);
-    surface_.SetObjTag("iGroup", -1);
+    surface_.SetObjTag(kTagIName, kINameCurrentScenario);
+    surface_.SetObjTag(kTagIGroup, -1);
   }
-  surface_.SetObjTag("Id", id);
-  surface_.SetObjTag("UsId", title);
+  surface_.SetObjTag(kTagId, id);
+  surface_.SetObjTag(kTagUsId, title);
 }
 
 }  // namespace pluvane

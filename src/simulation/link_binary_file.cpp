@@ -11,6 +11,7 @@
 #include "foundation/numbers.h"
 #include "foundation/text.h"
 #include "drawing/surface_guards.h"
+#include "network/catalogue.h"
 #include "simulation/link_files.h"
 #include "simulation/link_ranks.h"
 
@@ -87,58 +88,58 @@ void LevelLaw(Record& r, const Surface& surface, const char* count_tag, int firs
 void FillRecord(Record& r, const Surface& surface, int kind) {
   const auto nb_pt = [&] { return ValRoundInt(surface.ObjTag("NbPt")); };
   switch (kind) {
-    case 1:
-    case 21:
+    case kINameBV:
+    case kINameBVS:
       FillTags(r,
                {"S", "L", "m", "ci", "Fpluie", "Fpluie1", "Fpluie2", "Fpluie3", "Fruissel", "K"});
-      if (kind == 21) r.Tag(11, "Qsec");
+      if (kind == kINameBVS) r.Tag(11, "Qsec");
       break;
-    case 2:
+    case kINameRout:
       FillTags(r, {"S", "L", "m"});
       break;
-    case 3:
+    case kINameHYBV:
       FillTags(r, {"Qsec", "SR"});
       break;
-    case 4:
+    case kINameHY:
       r.Tag(1, "NbPt");
       PointTable<2>(r, nb_pt(), 100, {1, 101}, {"X", "Y"});
       r.Tag(202, "Qsec");
       r.Tag(203, "SR");
       break;
-    case 5:
+    case kINameCAC:
       FillTags(r, {"ZRam", "ZRav", "Dn", "L", "K", "HD", "SR"});
       break;
-    case 6:
-    case 7:
+    case kINameCAF:
+    case kINameCAO:
       r.Tag(1, "ZRam");
       r.Tag(2, "ZRav");
       r.Text(3, "IdSect", kSectionNameSize);
       r.Tag(7, "L");
-      r.Tag(8, kind == 6 ? "K" : "Kmin");
-      r.Tag(9, kind == 6 ? "HD" : "Largeur");
-      r.Tag(10, kind == 6 ? "SR" : "Kmaj");
+      r.Tag(8, kind == kINameCAF ? "K" : "Kmin");
+      r.Tag(9, kind == kINameCAF ? "HD" : "Largeur");
+      r.Tag(10, kind == kINameCAF ? "SR" : "Kmaj");
       break;
-    case 8:
+    case kINameDQQ:
       r.Tag(1, "NbDer");
       PointTable<4>(r, nb_pt(), 10, {1, 11, 21, 31}, {"X", "Y", "Z", "T"});
       break;
-    case 9:
+    case kINameDQZ:
       FillTags(r, {"NbDer", "TypeAval", "TypeDer_a", "TypeDer_b", "TypeDer_c"});
       LevelLaw(r, surface, "NbPtAv", 5, "Xav", "Yav");
       LevelLaw(r, surface, "NbPtDa", 25, "Xda", "Yda");
       LevelLaw(r, surface, "NbPtDb", 45, "Xdb", "Ydb");
       LevelLaw(r, surface, "NbPtDc", 65, "Xdc", "Ydc");
       break;
-    case 10:
+    case kINameRS:
       FillTags(r, {"Qf", "Z0"});
       PointTable<2>(r, nb_pt(), 10, {2, 12}, {"X", "Y"});
       break;
-    case 11:
+    case kINameRSP:
       r.Tag(1, "Z0");
       PointTable<4>(r, nb_pt(), 10, {1, 11, 21, 31}, {"X", "Y", "Z", "T"});
       break;
-    case 14:
-    case 16:
+    case kINameCLAV:
+    case kINameMark:
       r.Tag(1, "Export");
       break;
     default:  // 13 and the others: all zero

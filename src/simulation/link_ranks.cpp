@@ -1,35 +1,32 @@
 #include "simulation/link_ranks.h"
 
+#include "drawing/object_tags.h"
 #include "foundation/numbers.h"
 #include "foundation/text.h"
 #include "drawing/surface_guards.h"
+#include "network/catalogue.h"
 
 namespace pluvane {
 
 namespace {
 
-constexpr int kGaugeKind = 12;
-constexpr int kCalibrationKind = 15;
-constexpr int kMarkKind = 16;
-constexpr int kRadiusKind = 17;
-constexpr int kNodeKind = 99;
 // Object numbers below this one are never elements.
 constexpr int kFirstElementHandle = 10;
 
 }  // namespace
 
 bool IsLinkElement(int i_name) {
-  return i_name > 0 && i_name < kNodeKind && i_name != kGaugeKind && i_name != kCalibrationKind &&
-         i_name != kRadiusKind;
+  return i_name > 0 && i_name < kINameNode && i_name != kINamePLU && i_name != kINameCalage &&
+         i_name != kINameRayon;
 }
 
-int LinkKindCode(int i_name) { return i_name == kMarkKind ? kGaugeKind : i_name; }
+int LinkKindCode(int i_name) { return i_name == kINameMark ? kINamePLU : i_name; }
 
 LinkWalk::LinkWalk(Surface& surface) {
   CursorKeeper keeper(surface);
   drawing_empty_ = surface.ObjectCount(kAllObjects) == 0;
   for (int n = surface.FirstObject(); n > 0; n = surface.NextObject()) {
-    const int kind = ValRoundInt(surface.ObjTag("iName"));
+    const int kind = ValRoundInt(surface.ObjTag(kTagIName));
     if (!IsLinkElement(kind)) continue;
     elements_.push_back({n, kind});
     ranks_.try_emplace(surface.ObjTag("libell"), count());

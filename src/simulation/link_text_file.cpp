@@ -6,6 +6,8 @@
 #include "foundation/numbers.h"
 #include "foundation/text.h"
 #include "drawing/surface_guards.h"
+#include "network/catalogue.h"
+#include "network/network_tags.h"
 #include "simulation/link_files.h"
 #include "simulation/link_ranks.h"
 #include "simulation/model_text_file.h"
@@ -32,46 +34,47 @@ LinkTargets TargetsOf(Surface& surface, const LinkElement& element, const LinkWa
   auto node = [&](const char* tag) { return nodes.NodIndexOf(surface.ObjTag(tag)); };
   auto rank = [&](const char* tag) { return walk.LinkRankOf(handle, surface.ObjTag(tag)); };
   switch (element.kind) {
-    case 1:
-    case 21:
-      t.upstream = ValRoundLong(surface.ObjTag("sNodAm"));
+    case kINameBV:
+    case kINameBVS:
+      t.upstream = ValRoundLong(surface.ObjTag(kTagSNodAm));
       break;
-    case 2: {
-      t.upstream = node("sNodAm");
-      t.downstream = node("sNodAv");
+    case kINameRout: {
+      t.upstream = node(kTagSNodAm);
+      t.downstream = node(kTagSNodAv);
       // A routing from a catchment starts at the catchment's own number.
       const int start = surface.LinkEndObject(0);
       surface.SetCurrentObject(start);
-      if (surface.CurrentObject() == start && start > 0 && surface.ObjTag("iName") == "1") {
-        t.upstream = ValRoundLong(surface.ObjTag("sNodAm"));
+      if (surface.CurrentObject() == start && start > 0 &&
+          surface.ObjTag(kTagIName) == std::to_string(kINameBV)) {
+        t.upstream = ValRoundLong(surface.ObjTag(kTagSNodAm));
       }
       surface.SetCurrentObject(handle);
       break;
     }
-    case 3:
-    case 4:
-    case 14:
-    case 16:
-      t.upstream = node("sNodAm");
+    case kINameHYBV:
+    case kINameHY:
+    case kINameCLAV:
+    case kINameMark:
+      t.upstream = node(kTagSNodAm);
       break;
-    case 5:
-    case 6:
-    case 7:
-    case 13:
-      t.upstream = node("sNodAm");
-      t.downstream = node("sNodAv");
+    case kINameCAC:
+    case kINameCAF:
+    case kINameCAO:
+    case kINameTR:
+      t.upstream = node(kTagSNodAm);
+      t.downstream = node(kTagSNodAv);
       break;
-    case 8:
-    case 9: {
-      t.upstream = node("sNodAm");
+    case kINameDQQ:
+    case kINameDQZ: {
+      t.upstream = node(kTagSNodAm);
       t.ranks[0] = rank("IdAval");
       const int branches = ValRoundInt(surface.ObjTag("NbDer"));
       for (int i = 0; i < 3 && i < branches; ++i) t.ranks[i + 1] = rank(kBranchTags[i]);
       break;
     }
-    case 10:
-    case 11:
-      t.upstream = node("sNodAm");
+    case kINameRS:
+    case kINameRSP:
+      t.upstream = node(kTagSNodAm);
       t.ranks[0] = rank("IdAval");
       t.ranks[1] = rank("IdSurv");
       break;
@@ -96,8 +99,8 @@ int GenFicLi1(ModelContext& context, const std::string& path) {
     std::int32_t rank = 0;
     for (const LinkElement& element : walk.elements()) {
       surface.SetCurrentObject(element.number);
-      const std::string name = Trim(surface.ObjTag(element.kind == 7 ? "Id" : "libell"));
-      const std::int32_t group = ValRoundLong(surface.ObjTag("iGroup"));
+      const std::string name = Trim(surface.ObjTag(element.kind == kINameCAO ? kTagId : "libell"));
+      const std::int32_t group = ValRoundLong(surface.ObjTag(kTagIGroup));
       const LinkTargets t = TargetsOf(surface, element, walk, nodes);
       std::string line = PadLong(++rank, 5) + PadText(name, 20, 2) + PadLong(group, 5) +
                          PadLong(LinkKindCode(element.kind), 5) + PadLong(t.upstream, 10) +

@@ -4,16 +4,17 @@
 
 #include "foundation/fixed_width.h"
 #include "foundation/numbers.h"
+#include "network/catalogue.h"
 #include "network/georeferencing.h"
 #include "drawing/surface_guards.h"
 #include "drawing/surface_helpers.h"
+#include "network/network_tags.h"
 #include "simulation/model_text_file.h"
 
 namespace pluvane {
 
 namespace {
 
-constexpr int kNodeKind = 99;
 
 struct UserPoint {
   double x = 0;
@@ -45,7 +46,7 @@ std::string NodLine(std::int32_t sequence, std::int32_t links, const UserPoint& 
 }  // namespace
 
 int GetTabNodHdle(Surface& surface, std::vector<int>& handles) {
-  handles = FindObjectList(surface, "iName", kNodeKind);
+  handles = FindObjectList(surface, kTagIName, kINameNode);
   return static_cast<int>(handles.size());
 }
 
@@ -57,7 +58,7 @@ int GetTabNodId(Surface& surface, std::vector<std::string>& ids) {
   ids.reserve(handles.size());
   for (int n : handles) {
     surface.SetCurrentObject(n);
-    ids.push_back(surface.ObjTag("Id"));
+    ids.push_back(surface.ObjTag(kTagId));
   }
   return static_cast<int>(ids.size());
 }
@@ -75,15 +76,15 @@ int GenFicNod(ModelContext& context, const std::string& path) {
     Extend(context, node_points.back());
   }
   context.YShift = 0;
-  const std::vector<int> catchments = FindObjectList(surface, "iName", "1");
+  const std::vector<int> catchments = FindObjectList(surface, kTagIName, std::to_string(kINameBV));
 
   ModelTextFile file(path);
   const auto node_count = static_cast<std::int32_t>(nodes.size());
   file.Line(PadLong(node_count, 10) + PadLong(static_cast<std::int32_t>(catchments.size()), 10));
   for (std::int32_t i = 0; i < node_count; ++i) {
     surface.SetCurrentObject(nodes[i]);
-    file.Line(NodLine(i + 1, ValRoundLong(surface.ObjTag("iLink")), node_points[i], context.YShift,
-                      surface.ObjTag("libell")));
+    file.Line(NodLine(i + 1, ValRoundLong(surface.ObjTag(kTagILink)), node_points[i],
+                      context.YShift, surface.ObjTag("libell")));
   }
   // The catchments' numbers are part of the drawing from now on: one undo
   // step for all of them.
@@ -92,7 +93,7 @@ int GenFicNod(ModelContext& context, const std::string& path) {
   for (int n : catchments) {
     ++sequence;
     surface.SetCurrentObject(n);
-    surface.SetObjTag("sNodAm", std::to_string(sequence));
+    surface.SetObjTag(kTagSNodAm, std::to_string(sequence));
     const UserPoint p = UserCentre(surface, calibration, n);
     Extend(context, p);
     file.Line(NodLine(sequence, 0, p, context.YShift, surface.ObjTag("libell")));

@@ -7,9 +7,11 @@
 #include "foundation/fixed_width.h"
 #include "foundation/numbers.h"
 #include "foundation/text.h"
+#include "network/catalogue.h"
 #include "network/georeferencing.h"
 #include "drawing/surface_guards.h"
 #include "drawing/surface_helpers.h"
+#include "network/network_tags.h"
 #include "simulation/rain_block.h"
 #include "simulation/scenario_records.h"
 
@@ -42,7 +44,7 @@ std::string HeadLine(int i_pluie, const std::string& name) {
 // The C line of a design storm.
 std::string CentreLine(const RainContext& c) {
   double x = 0, y = 0, r = 0;
-  LocateRainCentre(c.surface, c.calibration, kRadiusKind, x, y, r);
+  LocateRainCentre(c.surface, c.calibration, kINameRayon, x, y, r);
   return Fixed(x, 0) + Fixed(y - c.y_shift, 0) + Fixed(r, 1);
 }
 
@@ -108,13 +110,13 @@ void WriteGaugeSeries(const std::vector<std::vector<std::string>>& rows, std::in
 
 void WriteGaugeBlock(const RainContext& c, Lines& out) {
   Surface& surface = c.surface;
-  const std::vector<int> gauges = FindObjectList(surface, "iName", kGaugeKind);
+  const std::vector<int> gauges = FindObjectList(surface, kTagIName, kINamePLU);
   if (gauges.empty()) return;
   out.push_back(HeadLine(103, c.name));
   out.push_back(PadLong(static_cast<std::int32_t>(gauges.size()), 5) +
                 PadInt(static_cast<std::int16_t>(ValInt(c.mode) - 1), 5));
   CursorKeeper keeper(surface);
-  const int table = FindObject(surface, "Id", c.name);
+  const int table = FindObject(surface, kTagId, c.name);
   std::int32_t count = 0;
   std::vector<std::vector<std::string>> rows;
   if (table > 10) {
@@ -122,7 +124,7 @@ void WriteGaugeBlock(const RainContext& c, Lines& out) {
   }
   for (std::size_t g = 1; g <= gauges.size(); ++g) {
     surface.SetCurrentObject(gauges[g - 1]);
-    out.push_back(PadText("'" + surface.ObjTag("Id") + "'", 10, 2));
+    out.push_back(PadText("'" + surface.ObjTag(kTagId) + "'", 10, 2));
     double x = 0, y = 0;
     MapCentre(surface, c.calibration, x, y);
     out.push_back(Fixed(x, 0) + Fixed(y - c.y_shift, 0));
@@ -133,24 +135,24 @@ void WriteGaugeBlock(const RainContext& c, Lines& out) {
 // The block of a rain kept in the drawing, the rain record being current.
 void WriteRainBlock(int i_pluie, const RainContext& c, Lines& out) {
   Surface& s = c.surface;
-  if (i_pluie == 103) return WriteGaugeBlock(c, out);
+  if (i_pluie == kINameRealRain) return WriteGaugeBlock(c, out);
   out.push_back(HeadLine(i_pluie, c.name));
   switch (i_pluie) {
-    case 104:
+    case kINameCaquot:
       out.push_back(FixedTag(s, "Ca") + FixedTag(s, "Cb"));
       break;
-    case 105:
+    case kINameSimpleTriangle:
       out.push_back(CentreLine(c));
       out.push_back(FixedTag(s, "Ca") + FixedTag(s, "Cb"));
       out.push_back(FixedTag(s, "Duree") + FixedTag(s, "Timax"));
       break;
-    case 106:
+    case kINameDoubleTriangle:
       out.push_back(CentreLine(c));
       out.push_back(FixedTag(s, "CaTot") + FixedTag(s, "CbTot"));
       out.push_back(FixedTag(s, "CaInt") + FixedTag(s, "CbInt"));
       out.push_back(FixedTag(s, "DureeTot") + FixedTag(s, "DureeInt") + FixedTag(s, "Timax"));
       break;
-    case 107: {
+    case kINameSynthetic: {
       out.push_back(CentreLine(c));
       const std::int32_t points = ValRoundLong(s.ObjTag("NbPt"));
       out.push_back(PadLong(points, 5));
@@ -160,7 +162,7 @@ void WriteRainBlock(int i_pluie, const RainContext& c, Lines& out) {
       }
       break;
     }
-    case 108:
+    case kINameRadar:
       out.push_back(Trim(s.ObjTag("CrbFile")));
       out.push_back(Trim(s.ObjTag("PrfFile")));
       break;
@@ -177,21 +179,21 @@ void WriteOrThrow(const std::string& path, const Lines& lines) {
 
 std::string RainKeyword(int i_pluie) {
   switch (i_pluie) {
-    case 103:
+    case kINameRealRain:
       return "PR     ";
-    case 104:
+    case kINameCaquot:
       return "CAQ       ";
-    case 105:
+    case kINameSimpleTriangle:
       return "PPST     ";
-    case 106:
+    case kINameDoubleTriangle:
       return "PPDT     ";
-    case 107:
+    case kINameSynthetic:
       return "PPHY     ";
-    case 108:
+    case kINameRadar:
       return "PRAD    ";
-    case 127:
+    case kINameExternalGauge:
       return "PR";
-    case 128:
+    case kINameExternalHyeto:
       return "PPHY";
     default:
       return "";
@@ -201,10 +203,10 @@ std::string RainKeyword(int i_pluie) {
 void LocateRainCentre(Surface& surface, const Calibration& calibration, int radius_kind, double& x,
                       double& y, double& r) {
   CursorKeeper keeper(surface);
-  if (FindObject(surface, "iName", radius_kind) > 10) {
+  if (FindObject(surface, kTagIName, radius_kind) > 10) {
     r = Val(surface.ObjTag("Rayon"));
-    const double x_log = ValRoundLong(surface.ObjTag("Xlog"));
-    const double y_log = ValRoundLong(surface.ObjTag("Ylog"));
+    const double x_log = ValRoundLong(surface.ObjTag(kTagXlog));
+    const double y_log = ValRoundLong(surface.ObjTag(kTagYlog));
     x = LogicToUserX(calibration, x_log, y_log);
     y = LogicToUserY(calibration, x_log, y_log);
     return;
@@ -224,13 +226,13 @@ int GenFicPlu(Surface& surface, UserInterface& ui, const Calibration& calibratio
               const std::string& scenario_name, const std::string& scn_path,
               const std::string& plu_path, double y_shift) {
   CursorKeeper keeper(surface);
-  if (FindRecord(surface, kCalcScenario, scenario_name) == 0) {
+  if (FindRecord(surface, kINameScenario, scenario_name) == 0) {
     ui.ShowMessage("scenario de pluie non trouvé !", "", MessageIcon::kNone);
     return 0;
   }
   const int i_pluie = ValRoundInt(surface.ObjTag("iPluie"));
   std::string name = surface.ObjTag("IdPluie");
-  const std::string id = surface.ObjTag("Id");
+  const std::string id = surface.ObjTag(kTagId);
   const std::string design = surface.ObjTag("Design");
   const std::string mode =
       FindRecord(surface, i_pluie, name) > 10 ? surface.ObjTag("iModePluie") : std::string();

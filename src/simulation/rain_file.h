@@ -8,13 +8,11 @@
 
 #include "foundation/user_interface.h"
 #include "drawing/surface.h"
+#include "network/catalogue.h"
 #include "simulation/simulation_state.h"
 
 namespace pluvane {
 
-// The kinds of the radius of action and of the gauges on the drawing.
-inline constexpr int kRadiusKind = 17;
-inline constexpr int kGaugeKind = 12;
 // R of a design storm that no radius of action places: it covers everything.
 inline constexpr double kWholeNetworkRadius = 9999999.0;
 

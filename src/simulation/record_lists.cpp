@@ -3,18 +3,18 @@
 #include <functional>
 #include <vector>
 
+#include "drawing/object_tags.h"
 #include "foundation/fixed_width.h"
 #include "foundation/numbers.h"
 #include "drawing/surface_guards.h"
 #include "drawing/surface_helpers.h"
+#include "network/catalogue.h"
 #include "simulation/model_text_file.h"
 
 namespace pluvane {
 
 namespace {
 
-constexpr int kReachKind = 100;
-constexpr int kSectionKind = 101;
 
 // Visits each record of the list current, writing into a new file at `path`,
 // after a head line with the count when `counted`; returns the count.
@@ -48,9 +48,9 @@ std::string SectionRow(const Surface& surface, const char* tag, int count) {
 
 int GenFicBrn(ModelContext& context, const std::string& path) {
   Surface& surface = context.surface;
-  return WriteRecords(surface, path, FindObjectList(surface, "iName", kReachKind), true,
+  return WriteRecords(surface, path, FindObjectList(surface, kTagIName, kINameReach), true,
                       [&](ModelTextFile& file) {
-                        std::string line = PadText(surface.ObjTag("Id"), 10, 2);
+                        std::string line = PadText(surface.ObjTag(kTagId), 10, 2);
                         const int count = ValRoundInt(surface.ObjTag("NbColl"));
                         for (int i = 1; i <= count; ++i) {
                           line += PadText(surface.ObjTag(Numbered("IdColl", i)), 10, 2);
@@ -61,10 +61,10 @@ int GenFicBrn(ModelContext& context, const std::string& path) {
 
 int GenFicSec(ModelContext& context, const std::string& path) {
   Surface& surface = context.surface;
-  return WriteRecords(surface, path, FindObjectList(surface, "iName", kSectionKind), false,
+  return WriteRecords(surface, path, FindObjectList(surface, kTagIName, kINameSection), false,
                       [&](ModelTextFile& file) {
                         const int count = ValRoundInt(surface.ObjTag("NbPt"));
-                        file.Line("'" + surface.ObjTag("Id") + "'");
+                        file.Line("'" + surface.ObjTag(kTagId) + "'");
                         file.Line(SectionRow(surface, "X", count));
                         file.Line(SectionRow(surface, "Y", count));
                       });
@@ -74,7 +74,8 @@ int GenFicApp(ModelContext& context, const std::string& path) {
   Surface& surface = context.surface;
   const double y_shift = context.YShift;
   return WriteRecords(
-      surface, path, FindObjectList(surface, "iName", "4"), false, [&](ModelTextFile& file) {
+      surface, path, FindObjectList(surface, kTagIName, std::to_string(kINameHY)), false,
+      [&](ModelTextFile& file) {
         const int count = ValRoundInt(surface.ObjTag("NbPt"));
         file.Line("'" + surface.ObjTag("libell") + "'");
         for (int i = 1; i <= count; ++i) {

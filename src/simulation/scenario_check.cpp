@@ -1,6 +1,8 @@
 #include "simulation/scenario_check.h"
 
+#include "drawing/object_tags.h"
 #include "foundation/text.h"
+#include "network/catalogue.h"
 #include "network/network_parameters.h"
 #include "drawing/surface_guards.h"
 #include "drawing/surface_helpers.h"
@@ -10,7 +12,6 @@ namespace pluvane {
 
 namespace {
 
-constexpr int kScenarioKind = 111;
 constexpr std::size_t kMaxScenarioLength = 16;
 constexpr std::size_t kMaxModelNameLength = 24;
 constexpr const char kTitle[] = "Contrôle de cohérence";
@@ -29,9 +30,9 @@ std::string ScenarioRain(Surface& surface, std::string_view scenario_name) {
 int FindScenarioObject(Surface& surface, std::string_view scenario_name) {
   const std::string wanted = UCase(Trim(scenario_name));
   CursorKeeper keeper(surface);
-  for (int n : FindObjectList(surface, "iName", kScenarioKind)) {
+  for (int n : FindObjectList(surface, kTagIName, kINameScenario)) {
     surface.SetCurrentObject(n);
-    if (UCase(Trim(surface.ObjTag("Id"))) == wanted) return n;
+    if (UCase(Trim(surface.ObjTag(kTagId))) == wanted) return n;
   }
   return 0;
 }

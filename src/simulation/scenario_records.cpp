@@ -2,9 +2,11 @@
 
 #include "foundation/numbers.h"
 #include "foundation/text.h"
+#include "network/catalogue.h"
 #include "network/hidden_record.h"
 #include "drawing/surface_guards.h"
 #include "drawing/surface_helpers.h"
+#include "network/network_tags.h"
 #include "network/scenario_mode.h"
 
 namespace pluvane {
@@ -18,9 +20,9 @@ std::int16_t CalcModeValue(const std::string& calc_mode) {
 int FindRecord(Surface& surface, int i_name, const std::string& id) {
   const std::string wanted = UCase(Trim(id));
   CursorKeeper keeper(surface);
-  for (int number : FindObjectList(surface, "iName", i_name)) {
+  for (int number : FindObjectList(surface, kTagIName, i_name)) {
     surface.SetCurrentObject(number);
-    if (UCase(Trim(surface.ObjTag("Id"))) == wanted) {
+    if (UCase(Trim(surface.ObjTag(kTagId))) == wanted) {
       keeper.Release();
       return number;
     }
@@ -29,10 +31,10 @@ int FindRecord(Surface& surface, int i_name, const std::string& id) {
 }
 
 void WriteScenarioHead(Surface& surface, const std::string& id, const std::string& title) {
-  surface.SetObjTag("iGroup", -1);
-  surface.SetObjTag("iName", kCalcScenario);
-  surface.SetObjTag("Id", id);
-  surface.SetObjTag("UsId", title);
+  surface.SetObjTag(kTagIGroup, -1);
+  surface.SetObjTag(kTagIName, kINameScenario);
+  surface.SetObjTag(kTagId, id);
+  surface.SetObjTag(kTagUsId, title);
 }
 
 int AddScenarioRecord(Surface& surface, const SimulationState& state, const std::string& id,

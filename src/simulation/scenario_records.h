@@ -9,13 +9,10 @@
 
 #include "foundation/user_interface.h"
 #include "drawing/surface.h"
+#include "network/catalogue.h"
 #include "simulation/simulation_state.h"
 
 namespace pluvane {
-
-inline constexpr int kRainScenario = 109;
-inline constexpr int kCalcScenario = 111;
-inline constexpr int kCurrentScenario = 112;
 
 // What a scenario's IdPluie holds while no rain was chosen.
 inline constexpr const char* kBrowseRain = "Parcourir...";

@@ -43,7 +43,7 @@ CapacityMapWindow::CapacityMapWindow(UserInterface& ui, const CapacityMapInput& 
   add(show, "mnuAff_ZoomCentre", "Zoom &centré", [this] {
     view_->ZoomAbout(QPointF(view_->ClientWidth() / 2.0, view_->ClientHeight() / 2.0), 0.5);
   });
-  add(show, "mnuAff_ZoomFen", "Zoom &fenêtre", [this] { map_.map().SetEditMode(kEditModeZoom); });
+  add(show, "mnuAff_ZoomFen", "Zoom &fenêtre", [this] { map_.map().SetEditMode(kEditZoomWindow); });
   add(show, "mnuAff_ZoomTout", "Zoom &tout", [this] { ZoomToAll(map_.map(), settings_); });
   QMenu* options = bar->addMenu("&Options");
   QMenu* text = options->addMenu("&Attributs des textes");
@@ -54,13 +54,13 @@ CapacityMapWindow::CapacityMapWindow(UserInterface& ui, const CapacityMapInput& 
   add(options, "mnuOpt_Ungroup", "&Dégrouper", [this] { map_.Ungroup(); });
   add(options, "mnuOpt_inFo", "&Info-bulle", [this] { tip_->setVisible(!tip_->isVisible()); });
   add(options, "mnuOpt_PlaceTxt", "&Placer les textes",
-      [this] { map_.legend().SetEditMode(kEditModeSelect); });
+      [this] { map_.legend().SetEditMode(kEditSelection); });
 
   view_ = new SurfaceView(map_.map(), this);
   legend_view_ = new SurfaceView(map_.legend(), this);
   legend_view_->setFixedWidth(220);
-  map_.map().SetEditMode(kEditModeSelect);
-  map_.legend().SetEditMode(kEditModeSelect);
+  map_.map().SetEditMode(kEditSelection);
+  map_.legend().SetEditMode(kEditSelection);
   auto* layout = new QVBoxLayout(this);
   layout->setMenuBar(bar);
   auto* row = new QHBoxLayout;
@@ -76,7 +76,7 @@ CapacityMapWindow::CapacityMapWindow(UserInterface& ui, const CapacityMapInput& 
           [this](int, int, double x, double y) { ShowTipAt(x, y); });
   connect(view_, &SurfaceView::ZoomRectangle, this, [this](double l, double t, double r, double b) {
     ZoomToRect(map_.map(), settings_, l, t, r, b);
-    map_.map().SetEditMode(kEditModeSelect);
+    map_.map().SetEditMode(kEditSelection);
   });
   resize(1000, 700);
   ZoomToAll(map_.map(), settings_);

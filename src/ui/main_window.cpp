@@ -11,6 +11,7 @@
 #include <QTimer>
 #include <vector>
 
+#include "drawing/object_tags.h"
 #include "editors/section_export.h"
 #include "editors/section_import.h"
 #include "exchange/frm_export_obj_alpha.h"
@@ -302,7 +303,7 @@ void MainWindow::BindCommands() {
       {"mnuScn_ModeleGen", after([this] { RunScenarioCommand(false); })},
       {"mnuScn_ModeleRun", after([this] { RunScenarioCommand(true); })},
       {"mnuUtil_LocObjById", after([this] {
-         LocateElement(surface_, application_->state(), ui_, "Id");
+         LocateElement(surface_, application_->state(), ui_, kTagId);
        })},
       {"mnuUtil_LocObjByUsId", after([this] {
          LocateElement(surface_, application_->state(), ui_, "libell");

@@ -80,16 +80,10 @@ int RenderCommand(const std::vector<std::string>& args, const std::string& app_p
   }
   // The symbols are looked for in the folder that the configuration names.
   CliNetwork program(ui);
-  if (!program.Start(app_path)) return 1;
-  Surface& surface = program.surface;
-  if (!surface.LoadFile(network, 0)) {
-    ui.ShowMessage("Le fichier " + network + " ne peut pas être lu comme un réseau Pluvane.",
-                   kTitle, MessageIcon::kExclamation);
-    return 1;
-  }
+  if (!program.OpenDrawing(app_path, network, kTitle)) return 1;
   EnsureGuiApplication();
   const PictureFolders folders{DirOf(network), program.state().SymbolDir};
-  if (!SaveDrawingPicture(surface, output, width, folders)) {
+  if (!SaveDrawingPicture(program.surface, output, width, folders)) {
     ui.ShowMessage("Erreur de sauvegarde : écriture impossible de " + output, kTitle,
                    MessageIcon::kCritical);
     return 1;

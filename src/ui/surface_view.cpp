@@ -345,11 +345,11 @@ void SurfaceView::PaintRubberShape(QPainter& painter) {
 void SurfaceView::StartGesture(QMouseEvent* event) {
   gesture_ = Gesture::kNone;
   if (event->button() != Qt::LeftButton) return;
-  if (surface_.EditMode() == kEditModeZoom) {
+  if (surface_.EditMode() == kEditZoomWindow) {
     gesture_ = Gesture::kZoom;
     return;
   }
-  if (surface_.EditMode() != kEditModeSelect || !surface_.SelectionEnabled()) return;
+  if (surface_.EditMode() != kEditSelection || !surface_.SelectionEnabled()) return;
   bool selected_now = false;
   {
     CursorKeeper keep(surface_);

@@ -22,10 +22,6 @@
 
 namespace pluvane {
 
-// Edit mode of the zoom rectangle (F3).
-inline constexpr int kEditModeZoom = 24;
-// Edit mode of selection, where clicks select and drags move or band-select.
-inline constexpr int kEditModeSelect = 11;
 // Bit of SelectionAllowed that lets the mouse drag the selection.
 inline constexpr int kAllowDrag = 16;
 // How near, in pixels, a click must fall on an object to hit it.

@@ -71,7 +71,7 @@ void VistrelWindow::BindCommands() {
       {"mnuAff_Zfen",
        [this] {
          mode_ = kZoomFrameMode;
-         surface_.SetEditMode(kEditModeZoom);
+         surface_.SetEditMode(kEditZoomWindow);
          statusBar()->showMessage("Tracez le cadre à agrandir.");
        }},
       {"mnuAff_Ztout", [this] { ViewerZoomAll(surface_); }},
@@ -166,8 +166,8 @@ void VistrelWindow::OnPress(int button, double x, double y) {
   pressed_ = true;
   press_x_ = x;
   press_y_ = y;
-  if (surface_.EditMode() == kKindLine) view_->SetRubberLine(x, y);
-  if (surface_.EditMode() == kKindRectangle) view_->SetRubberBox(x, y);
+  if (surface_.EditMode() == kEditLine) view_->SetRubberLine(x, y);
+  if (surface_.EditMode() == kEditRectangle) view_->SetRubberBox(x, y);
 }
 
 void VistrelWindow::OnRelease(int button, double x, double y) {
@@ -175,7 +175,7 @@ void VistrelWindow::OnRelease(int button, double x, double y) {
   if (mode_ == kZoomFrameMode) {
     // The zoom frame ends on the mouse up, drawn or not.
     mode_.clear();
-    surface_.SetEditMode(kViewerSelectMode);
+    surface_.SetEditMode(kEditSelection);
     statusBar()->clearMessage();
   }
   if (!pressed_) return;

@@ -125,6 +125,19 @@ TEST_F(ExportCli, EveryCollectorTypeByDefault) {
   ExpectNetworkFolder({"Reseau_CI.txt", "Reseau_PF.txt", "Reseau_PO.txt"});
 }
 
+TEST_F(ExportCli, TheFolderGivenIsNoQuestion) {
+  // The folder comes from the command line: no folder question is shown.
+  for (const std::string& arguments :
+       {std::string("export nodes reseaux/Reseau.mtf"),
+        std::string("export app reseaux/Reseau.mtf --dir sortie"),
+        std::string("export links reseaux/Reseau.mtf --dir sortie")}) {
+    const SplitRun run = Cli(arguments);
+    EXPECT_EQ(run.status, 0) << run.err;
+    EXPECT_EQ(run.err.find("Sélection du répertoire de destination"), std::string::npos)
+        << arguments << "\n" << run.err;
+  }
+}
+
 TEST_F(ExportCli, ANetworkWithNothingToOfferIsRefused) {
   WriteBytes(programs_.Work("vide.mtf"),
              "{\"format\":\"pluvane-network\",\"version\":1,"

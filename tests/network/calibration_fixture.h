@@ -5,6 +5,7 @@
 #include <string>
 
 #include "network/calibration_points.h"
+#include "network/catalogue.h"
 #include "network/hidden_record.h"
 #include "drawing/surface.h"
 #include "shell/app_state.h"
@@ -43,7 +44,7 @@ inline void WritePointTags(Surface& surface, int i_name, int index, const MapPoi
 // The hidden record of point `index` (iName 150); it is left current.
 inline int AddHiddenPoint(Surface& surface, const AppState& state, int index, const MapPoint& p) {
   const int n = AddHiddenRecord(surface, state);
-  WritePointTags(surface, kHiddenCalibrationPoint, index, p);
+  WritePointTags(surface, kINameHiddenCalage, index, p);
   return n;
 }
 
@@ -51,7 +52,7 @@ inline int AddHiddenPoint(Surface& surface, const AppState& state, int index, co
 inline int AddVisiblePoint(Surface& surface, int index, const MapPoint& p) {
   const int n =
       surface.AddObject(kKindPicture, p.x_log - 60, p.y_log - 60, p.x_log + 60, p.y_log + 60);
-  WritePointTags(surface, kCalibrationPoint, index, p);
+  WritePointTags(surface, kINameCalage, index, p);
   return n;
 }
 

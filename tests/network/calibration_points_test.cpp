@@ -5,6 +5,7 @@
 #include "drawing/surface_helpers.h"
 #include "foundation/numbers.h"
 #include "network/calibration_fixture.h"
+#include "network/catalogue.h"
 #include "shell/app_state.h"
 
 namespace pluvane {
@@ -32,7 +33,7 @@ TEST(CalibrationPoints, AHiddenRecordBecomesAVisibleSymbolCentredOnItsPoint) {
   const int other = surface.AddObject(kKindEllipse, 0, 0, 10, 10);
   EXPECT_EQ(ShowCalibrationPoints(surface, state), 1);
   EXPECT_EQ(surface.CurrentObject(), other);
-  EXPECT_EQ(CountByName(surface, kHiddenCalibrationPoint), 0);
+  EXPECT_EQ(CountByName(surface, kINameHiddenCalage), 0);
   const int shown = FindCalibrationPoint(surface, "Pt2");
   ASSERT_GT(shown, 10);
   EXPECT_EQ(surface.CurrentObject(), other);
@@ -56,8 +57,8 @@ TEST(CalibrationPoints, AVisibleSymbolBecomesAHiddenRecordKeepingItsTags) {
   const int shown = AddVisiblePoint(surface, 1, kMapPoints[1]);
   const auto before = Tags(surface, shown);
   EXPECT_EQ(HideCalibrationPoints(surface, state), 1);
-  EXPECT_EQ(CountByName(surface, kCalibrationPoint), 0);
-  const int hidden = FindObject2(surface, "Id", "Pt1", "iName", kHiddenCalibrationPoint);
+  EXPECT_EQ(CountByName(surface, kINameCalage), 0);
+  const int hidden = FindObject2(surface, "Id", "Pt1", "iName", kINameHiddenCalage);
   ASSERT_GT(hidden, 10);
   EXPECT_EQ(surface.ObjectKind(), kKindRectangle);
   EXPECT_FALSE(surface.ObjectVisible());
@@ -111,9 +112,9 @@ TEST(CalibrationPoints, PointsAreMadeAfreshFromTheTables) {
     state.calibration.user_y[i] = kMapPoints[i].y_cal;
   }
   AddCalibrationPoints(surface, state);
-  EXPECT_EQ(CountByName(surface, kCalibrationPoint), 3);
+  EXPECT_EQ(CountByName(surface, kINameCalage), 3);
   Calibration read;
-  EXPECT_TRUE(ReadCalibrationPoints(surface, kCalibrationPoint, read));
+  EXPECT_TRUE(ReadCalibrationPoints(surface, kINameCalage, read));
   EXPECT_EQ(read.logic_x, state.calibration.logic_x);
   EXPECT_EQ(read.logic_y, state.calibration.logic_y);
   EXPECT_EQ(read.user_x, state.calibration.user_x);
@@ -127,13 +128,13 @@ TEST(CalibrationPoints, TablesAreReadOnlyWhenAllThreePointsStand) {
   AddHiddenPoint(surface, state, 3, kMapPoints[3]);
   Calibration c;
   c.user_x[1] = 7;
-  EXPECT_FALSE(ReadCalibrationPoints(surface, kHiddenCalibrationPoint, c));
+  EXPECT_FALSE(ReadCalibrationPoints(surface, kINameHiddenCalage, c));
   EXPECT_EQ(c.user_x[1], 7);
   AddHiddenPoint(surface, state, 2, kMapPoints[2]);
-  EXPECT_TRUE(ReadCalibrationPoints(surface, kHiddenCalibrationPoint, c));
+  EXPECT_TRUE(ReadCalibrationPoints(surface, kINameHiddenCalage, c));
   EXPECT_EQ(c.user_x[1], 610000);
   EXPECT_EQ(c.logic_y[2], 50000);
-  EXPECT_FALSE(ReadCalibrationPoints(surface, kCalibrationPoint, c));
+  EXPECT_FALSE(ReadCalibrationPoints(surface, kINameCalage, c));
 }
 
 }  // namespace

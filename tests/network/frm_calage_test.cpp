@@ -1,3 +1,4 @@
+#include "network/catalogue.h"
 #include "network/frm_calage.h"
 
 #include <gtest/gtest.h>
@@ -25,7 +26,7 @@ class FrmCalageTest : public ::testing::Test {
   // A calibrated network, as LoadCalibration leaves it.
   void Calibrate() {
     AddHiddenPoints(surface_, state_);
-    ASSERT_TRUE(ReadCalibrationPoints(surface_, kHiddenCalibrationPoint, state_.calibration));
+    ASSERT_TRUE(ReadCalibrationPoints(surface_, kINameHiddenCalage, state_.calibration));
     ASSERT_TRUE(SolveCalibration(state_.calibration));
   }
   int CountOf(int i_name) { return CountByName(surface_, i_name); }
@@ -43,8 +44,8 @@ TEST_F(FrmCalageTest, OpeningShowsTheHiddenPointsAndFillsTheGrid) {
   FrmCalage form(surface_, state_, ui_, host_);
   EXPECT_EQ(form.Caption(), "Définition des points de calage");
   EXPECT_EQ(enabled_, std::vector<bool>{false});
-  EXPECT_EQ(CountOf(kCalibrationPoint), 3);
-  EXPECT_EQ(CountOf(kHiddenCalibrationPoint), 0);
+  EXPECT_EQ(CountOf(kINameCalage), 3);
+  EXPECT_EQ(CountOf(kINameHiddenCalage), 0);
   Grid& g = form.grid();
   EXPECT_EQ(g.MaxRows(), 3);
   EXPECT_EQ(g.MaxCols(), 2);
@@ -91,7 +92,7 @@ TEST_F(FrmCalageTest, TheFirstEmptyRowIsOffered) {
   EXPECT_TRUE(form.NewEnabled());
   EXPECT_TRUE(form.DelEnabled());
   // Visible points were there: the hidden ones are not shown a second time.
-  EXPECT_EQ(CountOf(kCalibrationPoint), 2);
+  EXPECT_EQ(CountOf(kINameCalage), 2);
 }
 
 TEST_F(FrmCalageTest, NewArmsThePlacementOfThePointOfTheRow) {
@@ -154,7 +155,7 @@ TEST_F(FrmCalageTest, DeleteRemovesThePointOfTheRowAndClearsTheRow) {
   form.grid().SetActiveCell(1, 2);
   form.Run("cmdDel");
   EXPECT_EQ(FindCalibrationPoint(surface_, "Pt2"), 0);
-  EXPECT_EQ(CountOf(kCalibrationPoint), 2);
+  EXPECT_EQ(CountOf(kINameCalage), 2);
   EXPECT_TRUE(form.grid().IsBlank(1, 2));
   EXPECT_TRUE(form.grid().IsBlank(2, 2));
   EXPECT_FALSE(form.grid().IsBlank(1, 1));
@@ -174,7 +175,7 @@ TEST_F(FrmCalageTest, OkWithAnEmptyCellIsRefused) {
   EXPECT_EQ(form.grid().ActiveCol(), 2);
   EXPECT_EQ(form.grid().ActiveRow(), 2);
   EXPECT_EQ(state_.calibration.XORI, before.XORI);
-  EXPECT_EQ(CountOf(kCalibrationPoint), 3);
+  EXPECT_EQ(CountOf(kINameCalage), 3);
 }
 
 TEST_F(FrmCalageTest, OkWithAMissingPointIsRefusedOnItsRow) {
@@ -209,7 +210,7 @@ TEST_F(FrmCalageTest, OkWithAlignedPointsIsRefusedAndThePreviousMapStands) {
   EXPECT_FALSE(form.Closed());
   EXPECT_EQ(state_.calibration.XORI, before.XORI);
   EXPECT_EQ(state_.calibration.XLAMU, before.XLAMU);
-  EXPECT_EQ(CountOf(kCalibrationPoint), 3);
+  EXPECT_EQ(CountOf(kINameCalage), 3);
 }
 
 TEST_F(FrmCalageTest, OkSolvesRecomputesAndHidesThePoints) {
@@ -231,9 +232,9 @@ TEST_F(FrmCalageTest, OkSolvesRecomputesAndHidesThePoints) {
   EXPECT_EQ(surface_.ObjTag("Xlog"), "2000");
   EXPECT_NEAR(Val(surface_.ObjTag("Xus")), 603000, 1e-6);
   EXPECT_NEAR(Val(surface_.ObjTag("Yus")), 197000, 1e-6);
-  EXPECT_EQ(CountOf(kCalibrationPoint), 0);
-  EXPECT_EQ(CountOf(kHiddenCalibrationPoint), 3);
-  const int pt3 = FindObject2(surface_, "Id", "Pt3", "iName", kHiddenCalibrationPoint);
+  EXPECT_EQ(CountOf(kINameCalage), 0);
+  EXPECT_EQ(CountOf(kINameHiddenCalage), 3);
+  const int pt3 = FindObject2(surface_, "Id", "Pt3", "iName", kINameHiddenCalage);
   EXPECT_EQ(Val(surface_.ObjTag("Xcal")), 661000);
   EXPECT_FALSE(surface_.ObjectVisible());
   EXPECT_GT(pt3, 10);
@@ -248,22 +249,22 @@ TEST_F(FrmCalageTest, AfterTheFormClosesNoVisiblePointStays) {
     form.grid().SetActiveCell(1, 1);
     form.Run("cmdCancel");
     EXPECT_TRUE(form.Closed());
-    EXPECT_EQ(CountOf(kCalibrationPoint), 0);
-    EXPECT_EQ(CountOf(kHiddenCalibrationPoint), 3);
+    EXPECT_EQ(CountOf(kINameCalage), 0);
+    EXPECT_EQ(CountOf(kINameHiddenCalage), 3);
     EXPECT_EQ(surface_.ObjectCount(kSelection), 0);
   }
   EXPECT_EQ(enabled_, (std::vector<bool>{false, true}));
   {
     FrmCalage form(surface_, state_, ui_, host_);
-    EXPECT_EQ(CountOf(kCalibrationPoint), 3);
+    EXPECT_EQ(CountOf(kINameCalage), 3);
     form.grid().SetActiveCell(1, 3);
     form.Run("cmdDel");
     form.Run("cmdNew");
     EXPECT_EQ(state_.CurrentMode, "CREATE OBJ");
   }
   // Gone without a command: still hidden, and the pending placement disarmed.
-  EXPECT_EQ(CountOf(kCalibrationPoint), 0);
-  EXPECT_EQ(CountOf(kHiddenCalibrationPoint), 2);
+  EXPECT_EQ(CountOf(kINameCalage), 0);
+  EXPECT_EQ(CountOf(kINameHiddenCalage), 2);
   EXPECT_EQ(state_.CurrentMode, "");
   ASSERT_EQ(armed_.size(), 2u);
   EXPECT_EQ(armed_.back(), "/");
@@ -287,7 +288,7 @@ TEST_F(FrmCalageTest, AFormWithoutHostStillWorks) {
   form.Run("cmdNew");
   form.Run("cmdCancel");
   EXPECT_TRUE(form.Closed());
-  EXPECT_EQ(CountOf(kHiddenCalibrationPoint), 2);
+  EXPECT_EQ(CountOf(kINameHiddenCalage), 2);
 }
 
 }  // namespace

@@ -1,3 +1,4 @@
+#include "network/catalogue.h"
 #include "network/load_calibration.h"
 
 #include <gtest/gtest.h>
@@ -115,8 +116,8 @@ TEST_F(LoadCalibrationTest, VisibleCalibrationSymbolsArePutOutOfSight) {
   AddVisiblePoint(surface_, 2, kMapPoints[2]);
   AddVisiblePoint(surface_, 3, kMapPoints[3]);
   LoadCalibration(surface_, state_, ui_);
-  EXPECT_EQ(CountByName(surface_, kCalibrationPoint), 0);
-  EXPECT_EQ(CountByName(surface_, kHiddenCalibrationPoint), 3);
+  EXPECT_EQ(CountByName(surface_, kINameCalage), 0);
+  EXPECT_EQ(CountByName(surface_, kINameHiddenCalage), 3);
   // Those were not the records of the network when it was loaded.
   EXPECT_EQ(state_.calibration.user_x[1], 0);
 }

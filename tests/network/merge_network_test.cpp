@@ -1,3 +1,4 @@
+#include "network/catalogue.h"
 #include "network/merge_network.h"
 
 #include <gtest/gtest.h>
@@ -65,7 +66,7 @@ class MergeTest : public SessionTest {
   void OpenHost(bool calibrated = true) {
     if (calibrated) {
       AddHiddenPoints(surface_, state_);
-      ASSERT_TRUE(ReadCalibrationPoints(surface_, kHiddenCalibrationPoint, state_.calibration));
+      ASSERT_TRUE(ReadCalibrationPoints(surface_, kINameHiddenCalage, state_.calibration));
       ASSERT_TRUE(SolveCalibration(state_.calibration));
     }
     Builder host(surface_, state_);
@@ -167,7 +168,7 @@ TEST_F(MergeTest, NothingChangesWhenTheDialogIsCancelled) {
   EXPECT_EQ(ui_.Last().title, "Importer un réseau Pluvane");
   EXPECT_EQ(surface_.CopySelection(1), before);
   EXPECT_EQ(surface_.CanUndo(), could_undo);
-  EXPECT_EQ(CountByName(surface_, kHiddenCalibrationPoint), 3);
+  EXPECT_EQ(CountByName(surface_, kINameHiddenCalage), 3);
 }
 
 TEST_F(MergeTest, LabelsTakeTheFirstSevenCharactersOfTheFileName) {
@@ -295,9 +296,9 @@ TEST_F(MergeTest, CalibrationPointsOfTheHostAreMadeAgainHidden) {
   OpenHost();
   const Calibration before = state_.calibration;
   Merge(SaveGuest("invite.mtf"));
-  EXPECT_EQ(CountByName(surface_, kHiddenCalibrationPoint), 3);
-  EXPECT_EQ(CountByName(surface_, kCalibrationPoint), 0);
-  const int pt3 = FindObject2(surface_, "Id", "Pt3", "iName", kHiddenCalibrationPoint);
+  EXPECT_EQ(CountByName(surface_, kINameHiddenCalage), 3);
+  EXPECT_EQ(CountByName(surface_, kINameCalage), 0);
+  const int pt3 = FindObject2(surface_, "Id", "Pt3", "iName", kINameHiddenCalage);
   EXPECT_EQ(Tag(pt3, "Xcal"), "660000");
   EXPECT_EQ(Tag(pt3, "Xlog"), "60000");
   EXPECT_EQ(state_.calibration.XORI, before.XORI);

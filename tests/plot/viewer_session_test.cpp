@@ -156,7 +156,7 @@ TEST(ViewerPlacing, ALineBetweenPressAndReleaseInTheDefaultsColour) {
   EXPECT_EQ(line->kind, kKindPolyline);
   EXPECT_EQ(line->points, (std::vector<Point>{{100, 900}, {500, 200}}));
   EXPECT_EQ(line->line_color, 255);
-  EXPECT_EQ(surface.EditMode(), kViewerSelectMode);
+  EXPECT_EQ(surface.EditMode(), kEditSelection);
   // Back in selection, a drag places nothing more.
   EXPECT_EQ(PlaceViewerObject(ui, surface, 0, 0, 10, 10), 0);
   EXPECT_EQ(surface.ObjectCount(kAllObjects), 1);
@@ -178,7 +178,7 @@ TEST(ViewerPlacing, ARectangleOverTheDragWithoutFill) {
   // A click makes no rectangle, and ends the mode all the same.
   mnuOpt_PlacerRect(surface);
   EXPECT_EQ(PlaceViewerObject(ui, surface, 5, 5, 5, 5), 0);
-  EXPECT_EQ(surface.EditMode(), kViewerSelectMode);
+  EXPECT_EQ(surface.EditMode(), kEditSelection);
 }
 
 TEST(ViewerPlacing, ATextAskedAtThePress) {

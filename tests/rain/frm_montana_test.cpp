@@ -1,3 +1,4 @@
+#include "network/catalogue.h"
 #include "rain/frm_montana.h"
 
 #include <gtest/gtest.h>
@@ -47,7 +48,7 @@ TEST_F(FrmMontanaTest, AddNamesTheRowByItsNumberAndSaveCreatesTheEntry) {
   g.SetText(5, 4, "-0.6");
   form.Run("mnSave");
   EXPECT_TRUE(ui_.Empty());
-  const int n = FindRainRecord(surface_, kMontanaEntry, "Mont4");
+  const int n = FindRainRecord(surface_, kINameMontana, "Mont4");
   ASSERT_GT(n, 10);
   EXPECT_EQ(Tag(n, "iName"), "102");
   EXPECT_EQ(Tag(n, "Design"), "Marseille");
@@ -67,9 +68,9 @@ TEST_F(FrmMontanaTest, IdentifiersDifferingOnlyInCaseAreRefused) {
                     MessageIcon::kExclamation);
   EXPECT_EQ(g.ActiveRow(), 2);
   // Nothing saved: the first entry keeps its a, the second its name.
-  EXPECT_EQ(Tag(FindRainRecord(surface_, kMontanaEntry, "Mont1"), "Ca"), "5.9");
-  EXPECT_EQ(Count(kMontanaEntry), 2);
-  EXPECT_EQ(Tag(FindRainRecord(surface_, kMontanaEntry, "Mont2"), "Design"), "Lyon");
+  EXPECT_EQ(Tag(FindRainRecord(surface_, kINameMontana, "Mont1"), "Ca"), "5.9");
+  EXPECT_EQ(Count(kINameMontana), 2);
+  EXPECT_EQ(Tag(FindRainRecord(surface_, kINameMontana, "Mont2"), "Design"), "Lyon");
 }
 
 TEST_F(FrmMontanaTest, IdentifiersCountTrimmed) {
@@ -85,8 +86,8 @@ TEST_F(FrmMontanaTest, IdentifiersCountTrimmed) {
   g.SetText(4, 2, "7");
   form.Run("mnSave");
   EXPECT_TRUE(ui_.Empty());
-  EXPECT_EQ(Count(kMontanaEntry), 2);
-  EXPECT_EQ(Tag(FindRainRecord(surface_, kMontanaEntry, "Mont2"), "Ca"), "7");
+  EXPECT_EQ(Count(kINameMontana), 2);
+  EXPECT_EQ(Tag(FindRainRecord(surface_, kINameMontana, "Mont2"), "Ca"), "7");
 }
 
 TEST_F(FrmMontanaTest, RenameReachesEveryStormButSaveOnlyTheFirstOfEachKind) {
@@ -103,7 +104,7 @@ TEST_F(FrmMontanaTest, RenameReachesEveryStormButSaveOnlyTheFirstOfEachKind) {
   Grid& g = form.grid();
   g.SetText(1, 1, "Paris10");
   form.LeaveCell(g, 1, 1);
-  EXPECT_GT(FindRainRecord(surface_, kMontanaEntry, "Paris10"), 10);
+  EXPECT_GT(FindRainRecord(surface_, kINameMontana, "Paris10"), 10);
   for (int n : {caq1, caq2, pst1, pst2}) EXPECT_EQ(Tag(n, "IdMonta"), "Paris10");
   EXPECT_EQ(Tag(pdt1, "IdTot"), "Paris10");
   EXPECT_EQ(Tag(pdt1, "IdInt"), "Paris10");
@@ -134,7 +135,7 @@ TEST_F(FrmMontanaTest, LeavingAnUnchangedOrNewIdentifierRenamesNothing) {
   g.SetText(1, 3, "Neuf");
   form.LeaveCell(g, 1, 3);
   EXPECT_EQ(Tag(caq, "IdMonta"), "Mont1");
-  EXPECT_EQ(Count(kMontanaEntry), 2);
+  EXPECT_EQ(Count(kINameMontana), 2);
 }
 
 TEST_F(FrmMontanaTest, FirstRowCannotBeDeletedAndItsEmptiedCellIsRefused) {
@@ -152,8 +153,8 @@ TEST_F(FrmMontanaTest, FirstRowCannotBeDeletedAndItsEmptiedCellIsRefused) {
   ExpectLastMessage(ui_, "Renseignez tous les identificateurs.",
                     "Coefficients régionaux de Montana", MessageIcon::kNone);
   EXPECT_EQ(g.ActiveRow(), 1);
-  EXPECT_EQ(Count(kMontanaEntry), 2);
-  EXPECT_EQ(Tag(FindRainRecord(surface_, kMontanaEntry, "Mont2"), "Ca"), "6.7");
+  EXPECT_EQ(Count(kINameMontana), 2);
+  EXPECT_EQ(Tag(FindRainRecord(surface_, kINameMontana, "Mont2"), "Ca"), "6.7");
 }
 
 TEST_F(FrmMontanaTest, DeletingAnEntryAsksThenLeavesTheStormsCopy) {
@@ -165,7 +166,7 @@ TEST_F(FrmMontanaTest, DeletingAnEntryAsksThenLeavesTheStormsCopy) {
   ui_.QueueNo();
   form.Run("mnDel");
   EXPECT_EQ(g.MaxRows(), 2);
-  EXPECT_EQ(Count(kMontanaEntry), 2);
+  EXPECT_EQ(Count(kINameMontana), 2);
   ExpectLastMessage(ui_,
                     "attention:\rla suppression des coeff. de Montana Mont2 pourrait perturber\r"
                     "le fonctionnement des pluies de projet utilisant ces coeff.\r"
@@ -175,7 +176,7 @@ TEST_F(FrmMontanaTest, DeletingAnEntryAsksThenLeavesTheStormsCopy) {
   ui_.QueueYes();
   form.Run("mnDel");
   EXPECT_EQ(g.MaxRows(), 1);
-  EXPECT_EQ(Count(kMontanaEntry), 1);
+  EXPECT_EQ(Count(kINameMontana), 1);
   form.Run("mnSave");
   EXPECT_EQ(Tag(caq, "IdMonta"), "Mont2");
   EXPECT_EQ(Tag(caq, "Ca"), "6.7");
@@ -187,9 +188,9 @@ TEST_F(FrmMontanaTest, SaveDeletesTheEntriesNoLongerListed) {
   FrmMontana form(surface_, state_, ui_);
   form.grid().SetText(1, 2, "Autre");
   form.Run("mnSave");
-  EXPECT_EQ(FindRainRecord(surface_, kMontanaEntry, "Mont2"), 0);
-  EXPECT_GT(FindRainRecord(surface_, kMontanaEntry, "Autre"), 10);
-  EXPECT_EQ(Count(kMontanaEntry), 2);
+  EXPECT_EQ(FindRainRecord(surface_, kINameMontana, "Mont2"), 0);
+  EXPECT_GT(FindRainRecord(surface_, kINameMontana, "Autre"), 10);
+  EXPECT_EQ(Count(kINameMontana), 2);
 }
 
 }  // namespace

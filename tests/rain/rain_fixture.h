@@ -8,6 +8,7 @@
 
 #include "editors/editor_context.h"
 #include "foundation/expect_message.h"
+#include "network/catalogue.h"
 #include "plot/plot_viewer.h"
 #include "rain/rain_records.h"
 #include "simulation/scenario_fixture.h"
@@ -36,7 +37,7 @@ class RainTest : public ScenarioTest {
 
   int AddMontana(const std::string& id, const std::string& ca, const std::string& cb,
                  const std::string& design = "Paris", const std::string& pret = "10") {
-    const int n = AddRainRecord(surface_, state_, kMontanaEntry, id);
+    const int n = AddRainRecord(surface_, state_, kINameMontana, id);
     surface_.SetObjTag("Design", design);
     surface_.SetObjTag("Pret", pret);
     surface_.SetObjTag("Ca", ca);

@@ -1,3 +1,4 @@
+#include "network/catalogue.h"
 #include "simulation/rain_file.h"
 
 #include <gtest/gtest.h>
@@ -231,7 +232,7 @@ TEST(RainKeywordTest, KeywordsKeepTheirBlanks) {
 TEST_F(RainFileTest, CentreOfTheRadiusObject) {
   Radius();
   double x = 0, y = 0, r = 0;
-  LocateRainCentre(surface_, state_.calibration, kRadiusKind, x, y, r);
+  LocateRainCentre(surface_, state_.calibration, kINameRayon, x, y, r);
   EXPECT_DOUBLE_EQ(x, 25000);
   EXPECT_DOUBLE_EQ(y, 35000);
   EXPECT_DOUBLE_EQ(r, 5000);
@@ -241,7 +242,7 @@ TEST_F(RainFileTest, CentreWithoutRadiusIsTheMiddleOfThePage) {
   const int radius = AddRadius(20000, 60000, 30000, 70000);
   surface_.DeleteObject(radius);
   double x = 0, y = 0, r = 0;
-  LocateRainCentre(surface_, state_.calibration, kRadiusKind, x, y, r);
+  LocateRainCentre(surface_, state_.calibration, kINameRayon, x, y, r);
   EXPECT_DOUBLE_EQ(x, 50000);
   EXPECT_DOUBLE_EQ(y, 50000);
   EXPECT_DOUBLE_EQ(r, 9999999.0);

@@ -259,7 +259,7 @@ TEST_F(DemoNetworkTest, IsCalibratedInLambert93) {
   ASSERT_TRUE(loaded_);
   AppState state;
   ScriptedUi ui;
-  ASSERT_TRUE(ReadCalibrationPoints(surface_, kHiddenCalibrationPoint, state.calibration));
+  ASSERT_TRUE(ReadCalibrationPoints(surface_, kINameHiddenCalage, state.calibration));
   ASSERT_TRUE(SolveCalibration(state.calibration));
   const ObjectView* parameters = view_.ById("ParamReseau");
   ASSERT_NE(parameters, nullptr);

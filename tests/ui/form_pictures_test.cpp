@@ -13,6 +13,7 @@
 #include "foundation/scripted_ui.h"
 #include "network/calibration_points.h"
 #include "editors/editor_forms.h"
+#include "network/catalogue.h"
 #include "network/frm_bief_lst.h"
 #include "network/frm_bief_user_create.h"
 #include "network/frm_calage.h"
@@ -82,7 +83,7 @@ TEST_F(FormPictures, Calibration) {
 }
 
 TEST_F(FormPictures, CalibrationPoint) {
-  const int point = FindObject(surface(), "iName", std::to_string(kHiddenCalibrationPoint));
+  const int point = FindObject(surface(), "iName", std::to_string(kINameHiddenCalage));
   ASSERT_GT(point, 10);
   FrmInfoCalage form(surface(), ui_, point);
   Picture(form, "frmInfoCalage");

@@ -9,6 +9,7 @@
 
 #include "drawing/surface_helpers.h"
 #include "foundation/scripted_ui.h"
+#include "network/catalogue.h"
 #include "plot/plot_viewer.h"
 #include "rain/frm_montana.h"
 #include "rain/frm_pit_plus.h"
@@ -85,16 +86,16 @@ TEST_F(RainFormPictures, MontanaAndDesignStorms) {
   Picture(pdt, "frmPdtBib");
   FrmPitBib pit(context);
   Picture(pit, "frmPitBib");
-  const int caquot = First(kCaquotRain);
+  const int caquot = First(kINameCaquot);
   FrmCaqPlus caq_plus(context, TagOfObject(surface(), caquot, "Id"), caquot);
   Picture(caq_plus, "frmCaq_Plus");
-  const int simple = First(kSimpleTriangleRain);
+  const int simple = First(kINameSimpleTriangle);
   FrmPstPlus pst_plus(context, TagOfObject(surface(), simple, "Id"), simple);
   Picture(pst_plus, "frmPst_Plus");
-  const int twice = First(kDoubleTriangleRain);
+  const int twice = First(kINameDoubleTriangle);
   FrmPdtPlus pdt_plus(context, TagOfObject(surface(), twice, "Id"), twice);
   Picture(pdt_plus, "frmPdt_Plus");
-  const int synthetic = First(kSyntheticRain);
+  const int synthetic = First(kINameSynthetic);
   FrmPitPlus pit_plus(context, TagOfObject(surface(), synthetic, "Id"), synthetic);
   Picture(pit_plus, "frmPit_Plus");
 }
@@ -103,11 +104,11 @@ TEST_F(RainFormPictures, GaugesRecordedRadarAndExternalRain) {
   EditorContext context = Context();
   FrmPrealBib events(context);
   Picture(events, "frmPrealBib");
-  const int event = First(kGaugeRain);
+  const int event = First(kINameRealRain);
   FrmPluHtCrb table(context, TagOfObject(surface(), event, "Id"), event,
                     state().WorkDir + "/absent.tmp");
   Picture(table, "frmPluHtCrb");
-  surface().SetCurrentObject(First(kRainGauge));
+  surface().SetCurrentObject(First(kINamePLU));
   FrmPluXy gauge(context);
   Picture(gauge, "frmPluXy");
   FrmPluRayon radius(context);

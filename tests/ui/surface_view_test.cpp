@@ -221,7 +221,7 @@ TEST_F(SurfaceViewTest, TheZoomRectangleIsGivenInLogicalUnits) {
                    [&](double l, double t, double r, double b) {
                      rect = {l, t, r, b};
                    });
-  surface_.SetEditMode(kEditModeZoom);
+  surface_.SetEditMode(kEditZoomWindow);
   Drag(QPointF(200, 150), QPointF(100, 50));
   EXPECT_EQ(rect, (std::vector<double>{1000, 500, 2000, 1500}));
   EXPECT_EQ(surface_.ObjectCount(kSelection), 0);

@@ -103,17 +103,17 @@ TEST_F(VistrelTest, AZoomFrameThenTheWholePage) {
   Surface& surface = window->surface();
   const double whole = surface.ViewWidth();
   window->RunMenu("mnuAff_Zfen");
-  EXPECT_EQ(surface.EditMode(), kEditModeZoom);
+  EXPECT_EQ(surface.EditMode(), kEditZoomWindow);
   Drag(window->view(), QPoint(200, 150), QPoint(400, 300));
   EXPECT_LT(surface.ViewWidth(), whole / 2);
-  EXPECT_EQ(surface.EditMode(), kViewerSelectMode);
+  EXPECT_EQ(surface.EditMode(), kEditSelection);
   window->grab().save(QString::fromStdString(SnapshotPath("vistrel_zoom.png")));
   window->RunMenu("mnuAff_Ztout");
   EXPECT_DOUBLE_EQ(surface.ViewWidth(), whole);
   // A click in zoom mode draws no frame, and ends the mode.
   window->RunMenu("mnuAff_Zfen");
   QTest::mouseClick(window->view()->viewport(), Qt::LeftButton, Qt::NoModifier, QPoint(50, 50));
-  EXPECT_EQ(surface.EditMode(), kViewerSelectMode);
+  EXPECT_EQ(surface.EditMode(), kEditSelection);
   EXPECT_DOUBLE_EQ(surface.ViewWidth(), whole);
   EXPECT_TRUE(ui.Empty());
 }
@@ -170,7 +170,7 @@ TEST_F(VistrelTest, PlacesALineAndARectangleWithTheMouse) {
   window->RunMenu("mnuOpt_PlacerRect");
   Drag(window->view(), QPoint(400, 100), QPoint(500, 200));
   EXPECT_EQ(surface.ObjectCount(kAllObjects), before + 2);
-  EXPECT_EQ(surface.EditMode(), kViewerSelectMode);
+  EXPECT_EQ(surface.EditMode(), kEditSelection);
   window->RunMenu("mnuOpt_PlacerTxt");
   ui.Queue("Pointe de crue");
   QTest::mouseClick(window->view()->viewport(), Qt::LeftButton, Qt::NoModifier, QPoint(600, 120));
