@@ -431,7 +431,7 @@ class DirectReader {
       if (f.count >= 2) return false;
       std::vector<Tag>& tags = f.object->tags;
       if (f.count++ == 0) {
-        tags.push_back(Tag{names_.Intern(v), {}});
+        tags.push_back(Tag{NameOf(v, tags.size()), {}});
       } else {
         tags.back().value = std::move(v);
       }
@@ -541,6 +541,7 @@ class DirectReader {
           case Key::kTags:
             f.has_tags = true;
             f.object->tags.clear();
+            f.object->tags.reserve(last_tag_count_);
             next.at = At::kTags;
             break;
           case Key::kGroup:
@@ -588,8 +589,10 @@ class DirectReader {
         return f.count == 2;
       case At::kTagPair:
         return f.count == 2;
-      case At::kPoints:
       case At::kTags:
+        last_tag_count_ = std::min<std::size_t>(f.object->tags.size(), 64);
+        return true;
+      case At::kPoints:
         return true;
       default:
         return false;
@@ -700,6 +703,21 @@ class DirectReader {
     if (k == "markers") return Key::kMarkers;
     if (k == "text") return Key::kText;
     return Key::kOther;
+  }
+
+  // The number of a tag name. Records of one kind follow each other with
+  // the same names in the same order, so the name at the same place in the
+  // record before is tried first.
+  std::uint32_t NameOf(const std::string& name, std::size_t position) {
+    if (position < name_hints_.size()) {
+      const std::uint32_t hint = name_hints_[position];
+      if (names_.Name(hint) == name) return hint;
+    } else if (position < 64) {
+      name_hints_.resize(position + 1);
+    } else {
+      return names_.Intern(name);
+    }
+    return name_hints_[position] = names_.Intern(name);
   }
 
   // Members of a record gathered whole before they are read.
@@ -877,7 +895,16 @@ class DirectReader {
   bool format_ok_ = false;
   bool has_objects_ = false;
   bool list_done_ = false;
+  std::size_t last_tag_count_ = 0;
+  std::vector<std::uint32_t> name_hints_;
 };
+
+// Room for the objects of a text, as this program writes them: one a line.
+// Bounded by the shortest record, so that a text of blank lines asks for little.
+std::size_t ExpectedObjects(std::string_view text) {
+  const auto lines = static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n'));
+  return std::min(lines, text.size() / 64);
+}
 
 bool Parse(std::string_view text, DirectReader& reader) {
   return Json::sax_parse(text.begin(), text.end(), &reader, nlohmann::detail::input_format_t::json,
@@ -889,6 +916,7 @@ bool Parse(std::string_view text, DirectReader& reader) {
 
 bool ReadNetworkDocument(std::string_view text, TagNames& names, NetworkDocument& document) {
   try {
+    document.objects.reserve(ExpectedObjects(text));
     DirectReader reader(names, &document, nullptr);
     return Parse(text, reader);
   } catch (const std::exception&) {
@@ -898,6 +926,7 @@ bool ReadNetworkDocument(std::string_view text, TagNames& names, NetworkDocument
 
 bool ReadObjectList(std::string_view text, TagNames& names, std::vector<SurfaceObject>& objects) {
   try {
+    objects.reserve(objects.size() + ExpectedObjects(text));
     DirectReader reader(names, nullptr, &objects);
     return Parse(text, reader);
   } catch (const std::exception&) {

@@ -160,6 +160,7 @@ std::vector<int> Surface::InsertBatch(std::vector<SurfaceObject> objects, bool e
   const int first = base_ + static_cast<int>(slots_.size());
   const int count = static_cast<int>(objects.size());
   slots_.resize(slots_.size() + objects.size());
+  id_index_.reserve(id_index_.size() + objects.size());
   // Stacked above everything, keeping the order of their own layers.
   std::vector<int> order(objects.size());
   for (int i = 0; i < count; ++i) order[i] = i;
