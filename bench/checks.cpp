@@ -8,27 +8,14 @@
 #include <string>
 
 #include "bench/bench_clock.h"
-#include "foundation/numbers.h"
-#include "foundation/scripted_ui.h"
+#include "bench/large_bench.h"
 #include "network/consistency_checks.h"
-#include "shell/app_state.h"
-#include "tools/network_builder.h"
 
 int main(int argc, char** argv) {
-  const int nodes = argc > 1 ? pluvane::ValLong(argv[1]) : 20000;
-  const std::string symbols = std::string(PLUVANE_SOURCE_DATA) + "/Symboles";
-  pluvane::ScriptedUi ui;
-  pluvane::Surface surface;
-  pluvane::AppState state;
-  pluvane::NetworkBuilder builder(surface, state, ui, symbols,
-                                  pluvane::LargeNetworkLogicSize(nodes));
-  const pluvane::LargeNetworkCounts counts = pluvane::BuildLargeNetwork(builder, nodes);
-  if (counts.nodes == 0) {
-    std::printf("build failed\n");
-    return 1;
-  }
-  std::printf("network: %d nodes, %d collectors, %d others\n", counts.nodes, counts.collectors,
-              counts.others);
+  LargeBench bench;
+  if (!BuildLargeBench(bench, argc, argv)) return 1;
+  pluvane::ScriptedUi& ui = bench.ui;
+  pluvane::Surface& surface = bench.surface;
   double best = 1e9;
   std::size_t lines = 0;
   for (int run = 0; run < 3; ++run) {

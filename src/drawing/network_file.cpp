@@ -4,6 +4,7 @@
 #include <charconv>
 #include <cmath>
 #include <limits>
+#include <optional>
 
 #include "foundation/numbers.h"
 #include "foundation/text.h"
@@ -296,11 +297,6 @@ bool ReadMembers(const Json& value, Reader read) {
   return true;
 }
 
-bool ReadPoint(const Json& value, Point& point) {
-  return value.is_array() && value.size() == 2 && GetInt32(value[0], point.x) &&
-         GetInt32(value[1], point.y);
-}
-
 bool ReadMarkers(const Json& value, std::array<Marker, 3>& markers) {
   if (!value.is_array()) return false;
   for (const Json& entry : value) {
@@ -344,93 +340,6 @@ bool ReadText(const Json& value, TextFormat& t) {
   });
 }
 
-// The tags of a record: the index of the list read beside the tree.
-struct TagSource {
-  std::vector<std::vector<Tag>>& lists;
-};
-
-bool ReadTags(const Json& value, TagSource& source, std::vector<Tag>& tags) {
-  if (!value.is_number_unsigned()) return false;
-  const auto index = value.get<std::uint64_t>();
-  if (index >= source.lists.size()) return false;
-  tags = std::move(source.lists[index]);
-  return true;
-}
-
-bool ReadObjectArray(const Json& value, TagSource& tags, int depth,
-                     std::vector<SurfaceObject>& objects);
-
-bool ReadObject(const Json& value, TagSource& tags, int depth, std::size_t position,
-                SurfaceObject& object) {
-  if (!value.is_object()) return false;
-  // Kind first: which members are known depends on it.
-  auto kind = value.find("kind");
-  if (kind == value.end() || !GetInt(*kind, object.shape.kind) || !IsKnownKind(object.shape.kind))
-    return false;
-  const bool link = object.shape.kind == kKindLink;
-  const bool group = object.shape.kind == kKindGroup;
-  bool has_box = false;
-  bool has_tags = false;
-  bool has_ends = false;
-  object.shape.layer = static_cast<std::int64_t>(position);
-  Shape& s = object.shape;
-  for (const auto& [key, member] : value.items()) {
-    bool ok = true;
-    if (key == "kind") {
-      continue;
-    } else if (key == "box") {
-      ok = member.is_array() && member.size() == 4 && GetInt32(member[0], s.box.left) &&
-           GetInt32(member[1], s.box.top) && GetInt32(member[2], s.box.right) &&
-           GetInt32(member[3], s.box.bottom);
-      has_box = true;
-    } else if (key == "tags") {
-      ok = ReadTags(member, tags, object.tags);
-      has_tags = true;
-    } else if (key == "ends" && link) {
-      ok = member.is_array() && member.size() == 2 && GetInt32(member[0], object.ends[0]) &&
-           GetInt32(member[1], object.ends[1]);
-      has_ends = true;
-    } else if (key == "group") {
-      // Only a group has one; elsewhere its tags could not be kept as they came.
-      ok = group && depth < kMaxGroupDepth && ReadObjectArray(member, tags, depth + 1, s.children);
-    } else if (key == "layer") {
-      ok = GetInt64(member, s.layer);
-    } else if (key == "hidden") {
-      ok = GetBool(member, s.hidden);
-    } else if (key == "picture") {
-      ok = GetString(member, s.picture);
-    } else if (key == "line") {
-      ok = ReadMembers(member, [&](const std::string& k, const Json& v) {
-        if (k == "color") return GetInt32(v, s.line_color);
-        if (k == "width") return GetDouble(v, s.line_width);
-        if (k == "style") return GetInt(v, s.line_style);
-        return true;
-      });
-    } else if (key == "fill") {
-      ok = ReadMembers(member, [&](const std::string& k, const Json& v) {
-        if (k == "color") return GetInt32(v, s.fill_color);
-        if (k == "style") return GetInt(v, s.fill_style);
-        return true;
-      });
-    } else if (key == "points") {
-      ok = member.is_array();
-      for (std::size_t i = 0; ok && i < member.size(); ++i) {
-        Point p;
-        ok = ReadPoint(member[i], p);
-        s.points.push_back(p);
-      }
-    } else if (key == "markers") {
-      ok = ReadMarkers(member, s.markers);
-    } else if (key == "text") {
-      ok = ReadText(member, s.text);
-    } else {
-      object.extra[key] = member;
-    }
-    if (!ok) return false;
-  }
-  return has_box && has_tags && (!link || has_ends);
-}
-
 // Every link must be bound to two other objects of the list, neither a link.
 bool LinksBound(const std::vector<SurfaceObject>& objects) {
   const auto count = static_cast<std::int64_t>(objects.size());
@@ -442,17 +351,6 @@ bool LinksBound(const std::vector<SurfaceObject>& objects) {
     }
   }
   return true;
-}
-
-bool ReadObjectArray(const Json& value, TagSource& tags, int depth,
-                     std::vector<SurfaceObject>& objects) {
-  if (!value.is_array()) return false;
-  objects.reserve(value.size());
-  for (const Json& entry : value) {
-    objects.emplace_back();
-    if (!ReadObject(entry, tags, depth, objects.size() - 1, objects.back())) return false;
-  }
-  return LinksBound(objects);
 }
 
 bool ReadPage(const Json& value, PageState& page, Json& extra) {
@@ -497,144 +395,530 @@ bool ReadPage(const Json& value, PageState& page, Json& extra) {
   return true;
 }
 
-// Builds the JSON tree of a file, except the tag lists of objects, which are
-// read straight into tags (they are most of a network file, and a tree of
-// them would cost more than the rest). A tag list stands in the tree as its
-// index in `tag_lists`.
-class TreeReader {
+// Reads a file in one pass of the parser's events, straight into the objects:
+// kind, box, link ends, vertices, tags and groups, which make most of a
+// network file, are taken as their numbers and texts arrive. The small
+// records (line, fill, markers, text, the page) and the members this program
+// does not know are gathered into a small JSON value each and read from it.
+// A member that repeats counts by its last value; a known member that is not
+// well formed makes the whole file unreadable.
+class DirectReader {
  public:
-  TreeReader(Json& root, TagNames& names, std::vector<std::vector<Tag>>& tag_lists)
-      : tree_(root, false), names_(names), tag_lists_(tag_lists) {}
+  // `document` is null for a clipboard list, whose objects go to `list`.
+  DirectReader(TagNames& names, NetworkDocument* document, std::vector<SurfaceObject>* list)
+      : names_(names), document_(document), list_(list) {}
 
-  bool null() { return !in_tags_ && tree_.null(); }
-  bool boolean(bool v) { return !in_tags_ && tree_.boolean(v); }
-  bool number_integer(Json::number_integer_t v) { return !in_tags_ && tree_.number_integer(v); }
-  bool number_unsigned(Json::number_unsigned_t v) { return !in_tags_ && tree_.number_unsigned(v); }
+  // Whether the text held what was asked for, once the parse succeeded.
+  bool Complete() const {
+    if (!document_) return list_done_;
+    return root_seen_ && format_ok_ && has_objects_;
+  }
+
+  bool null() { return Scalar(Value::Null()); }
+  bool boolean(bool v) { return Scalar(Value::Bool(v)); }
+  bool number_integer(Json::number_integer_t v) { return Scalar(Value::Int(v)); }
+  bool number_unsigned(Json::number_unsigned_t v) { return Scalar(Value::Unsigned(v)); }
   bool number_float(Json::number_float_t v, const std::string& s) {
-    return !in_tags_ && tree_.number_float(v, s);
+    if (capture_) return Captured(capture_->number_float(v, s));
+    return Scalar(Value::Float(v));
   }
-  bool binary(Json::binary_t& v) { return !in_tags_ && tree_.binary(v); }
+  bool binary(Json::binary_t&) { return false; }
   bool string(std::string& v) {
-    if (!in_tags_) return tree_.string(v);
-    if (tag_depth_ != 2 || pair_fill_ >= 2) return false;
-    if (pair_fill_++ == 0) {
-      tag_lists_.back().push_back(Tag{names_.Intern(v), {}});
-    } else {
-      tag_lists_.back().back().value = std::move(v);
-    }
-    return true;
-  }
-  bool start_object(std::size_t n) {
-    if (in_tags_) return false;
-    frames_.push_back(Frame{false, std::move(pending_key_)});
-    pending_key_.clear();
-    return tree_.start_object(n);
-  }
-  bool key(std::string& k) {
-    if (in_tags_) return false;
-    if (k == "tags" && InObjectRecord()) {
-      in_tags_ = true;
-      tag_depth_ = 0;
-      tag_lists_.emplace_back();
-    }
-    pending_key_ = k;
-    return tree_.key(k);
-  }
-  bool end_object() {
-    if (in_tags_) return false;
-    frames_.pop_back();
-    return tree_.end_object();
-  }
-  bool start_array(std::size_t n) {
-    if (in_tags_) {
-      if (tag_depth_ >= 2) return false;
-      ++tag_depth_;
-      pair_fill_ = 0;
+    if (capture_) return Captured(capture_->string(v));
+    if (frames_.empty()) return false;
+    Frame& f = frames_.back();
+    if (f.at == At::kTagPair) {
+      if (f.count >= 2) return false;
+      std::vector<Tag>& tags = f.object->tags;
+      if (f.count++ == 0) {
+        tags.push_back(Tag{NameOf(v, tags.size()), {}});
+      } else {
+        tags.back().value = std::move(v);
+      }
       return true;
     }
-    frames_.push_back(Frame{true, std::move(pending_key_)});
-    pending_key_.clear();
-    return tree_.start_array(n);
-  }
-  bool end_array() {
-    if (in_tags_) {
-      if (tag_depth_ == 2) {
-        if (pair_fill_ != 2) return false;
-        tag_depth_ = 1;
+    if (f.at == At::kObject) {
+      if (key_ == Key::kPicture) {
+        f.object->shape.picture = std::move(v);
         return true;
       }
-      if (tag_depth_ != 1) return false;
-      in_tags_ = false;
-      return tree_.number_unsigned(tag_lists_.size() - 1);
+      if (IsCapturedKey()) return StartCapture(), Captured(capture_->string(v));
+      return false;
     }
-    frames_.pop_back();
-    return tree_.end_array();
+    if (f.at == At::kDocument) return StartCapture(), Captured(capture_->string(v));
+    return false;
   }
+
+  bool start_object(std::size_t) {
+    if (capture_) return Deeper(capture_->start_object(static_cast<std::size_t>(-1)));
+    if (frames_.empty()) {
+      if (!document_) return false;
+      root_seen_ = true;
+      frames_.push_back(Frame{At::kDocument});
+      return true;
+    }
+    Frame& f = frames_.back();
+    if (f.at == At::kObjects) {
+      f.list->emplace_back();
+      SurfaceObject& object = f.list->back();
+      object.shape.layer = static_cast<std::int64_t>(f.list->size() - 1);
+      Frame next{At::kObject};
+      next.object = &object;
+      next.depth = f.depth;
+      frames_.push_back(next);
+      return true;
+    }
+    if ((f.at == At::kObject && IsCapturedKey()) || f.at == At::kDocument)
+      return StartCapture(), Deeper(capture_->start_object(static_cast<std::size_t>(-1)));
+    return false;
+  }
+
+  bool key(std::string& k) {
+    if (capture_) return capture_->key(k);
+    if (frames_.empty()) return false;
+    Frame& f = frames_.back();
+    key_text_ = k;
+    if (f.at == At::kDocument) {
+      key_ = k == "objects" ? Key::kObjects : Key::kOther;
+      return true;
+    }
+    if (f.at != At::kObject) return false;
+    key_ = ObjectKey(k);
+    // Which members a record knows depends on its kind, which comes first in
+    // the files this program writes; otherwise the ends wait among the unknown.
+    if (key_ == Key::kEnds && f.object->shape.kind != kKindLink) key_ = Key::kOther;
+    if (key_ == Key::kKind) f.has_kind = true;
+    return true;
+  }
+
+  bool end_object() {
+    if (capture_) return Shallower(capture_->end_object());
+    if (frames_.empty()) return false;
+    Frame& f = frames_.back();
+    if (f.at == At::kDocument) {
+      frames_.pop_back();
+      return true;
+    }
+    if (f.at != At::kObject) return false;
+    if (!FinishObject(f)) return false;
+    frames_.pop_back();
+    return true;
+  }
+
+  bool start_array(std::size_t) {
+    if (capture_) return Deeper(capture_->start_array(static_cast<std::size_t>(-1)));
+    if (frames_.empty()) {
+      if (document_) return false;
+      frames_.push_back(Frame{At::kObjects});
+      frames_.back().list = list_;
+      return true;
+    }
+    Frame& f = frames_.back();
+    Frame next{At::kNone};
+    next.object = f.object;
+    switch (f.at) {
+      case At::kDocument:
+        if (key_ != Key::kObjects) return StartCapture(), Deeper(capture_->start_array(0));
+        document_->objects.clear();
+        has_objects_ = true;
+        next.at = At::kObjects;
+        next.list = &document_->objects;
+        break;
+      case At::kObject:
+        switch (key_) {
+          case Key::kBox:
+            f.has_box = true;
+            next.at = At::kBox;
+            break;
+          case Key::kEnds:
+            f.has_ends = true;
+            next.at = At::kEnds;
+            break;
+          case Key::kPoints:
+            f.object->shape.points.clear();
+            next.at = At::kPoints;
+            break;
+          case Key::kTags:
+            f.has_tags = true;
+            f.object->tags.clear();
+            f.object->tags.reserve(last_tag_count_);
+            next.at = At::kTags;
+            break;
+          case Key::kGroup:
+            // Deeper nesting is taken for a damaged file.
+            if (f.depth >= kMaxGroupDepth) return false;
+            f.has_group = true;
+            f.object->shape.children.clear();
+            next.at = At::kObjects;
+            next.list = &f.object->shape.children;
+            next.depth = f.depth + 1;
+            break;
+          default:
+            if (!IsCapturedKey()) return false;
+            return StartCapture(), Deeper(capture_->start_array(0));
+        }
+        break;
+      case At::kPoints:
+        f.object->shape.points.emplace_back();
+        next.at = At::kPoint;
+        break;
+      case At::kTags:
+        next.at = At::kTagPair;
+        break;
+      default:
+        return false;
+    }
+    frames_.push_back(next);
+    return true;
+  }
+
+  bool end_array() {
+    if (capture_) return Shallower(capture_->end_array());
+    if (frames_.empty()) return false;
+    const Frame f = frames_.back();
+    frames_.pop_back();
+    switch (f.at) {
+      case At::kObjects:
+        if (!LinksBound(*f.list)) return false;
+        if (frames_.empty()) list_done_ = true;
+        return true;
+      case At::kBox:
+        return f.count == 4;
+      case At::kEnds:
+      case At::kPoint:
+        return f.count == 2;
+      case At::kTagPair:
+        return f.count == 2;
+      case At::kTags:
+        last_tag_count_ = std::min<std::size_t>(f.object->tags.size(), 64);
+        return true;
+      case At::kPoints:
+        return true;
+      default:
+        return false;
+    }
+  }
+
   bool parse_error(std::size_t, const std::string&, const nlohmann::detail::exception&) {
     return false;
   }
 
  private:
-  struct Frame {
-    bool array;
-    std::string key;
+  enum class At { kNone, kDocument, kObjects, kObject, kBox, kEnds, kPoints, kPoint, kTags, kTagPair };
+  enum class Key {
+    kOther, kObjects, kKind, kBox, kEnds, kPoints, kTags, kGroup, kLayer, kHidden, kPicture,
+    kLine, kFill, kMarkers, kText
   };
-  bool InObjectRecord() const { return IsRecord(frames_.size() - 1); }
-  // Whether frame i is an object record: an entry of the clipboard's list,
-  // of the file's object list, or of the group of a record.
-  bool IsRecord(std::size_t i) const {
-    if (i == 0 || i >= frames_.size() || frames_[i].array || !frames_[i - 1].array) return false;
-    const std::string& list = frames_[i - 1].key;
-    if (i == 1) return frames_[0].array;
-    if (i == 2) return !frames_[0].array && list == "objects";
-    return list == "group" && IsRecord(i - 2);
+  struct Frame {
+    At at = At::kNone;
+    SurfaceObject* object = nullptr;
+    std::vector<SurfaceObject>* list = nullptr;
+    int depth = 0;    // of groups, for an object list and its records
+    int count = 0;    // numbers or texts read in a fixed-size list
+    bool has_kind = false;
+    bool has_box = false;
+    bool has_tags = false;
+    bool has_ends = false;
+    bool has_group = false;
+  };
+  // A scalar value as the parser gives it.
+  struct Value {
+    enum class Type { kNull, kBool, kInt, kUnsigned, kFloat } type = Type::kNull;
+    bool flag = false;
+    std::int64_t integer = 0;
+    std::uint64_t natural = 0;
+    double real = 0;
+    static Value Null() { return Value{}; }
+    static Value Bool(bool v) {
+      Value x;
+      x.type = Type::kBool;
+      x.flag = v;
+      return x;
+    }
+    static Value Int(std::int64_t v) {
+      Value x;
+      x.type = Type::kInt;
+      x.integer = v;
+      return x;
+    }
+    static Value Unsigned(std::uint64_t v) {
+      Value x;
+      x.type = Type::kUnsigned;
+      x.natural = v;
+      return x;
+    }
+    static Value Float(double v) {
+      Value x;
+      x.type = Type::kFloat;
+      x.real = v;
+      return x;
+    }
+    Json ToJson() const {
+      switch (type) {
+        case Type::kBool:
+          return Json(flag);
+        case Type::kInt:
+          return Json(integer);
+        case Type::kUnsigned:
+          return Json(natural);
+        case Type::kFloat:
+          return Json(real);
+        default:
+          return Json(nullptr);
+      }
+    }
+    bool Int64(std::int64_t& out) const {
+      if (type == Type::kUnsigned) {
+        if (natural > static_cast<std::uint64_t>(std::numeric_limits<std::int64_t>::max()))
+          return false;
+        out = static_cast<std::int64_t>(natural);
+        return true;
+      }
+      if (type != Type::kInt) return false;
+      out = integer;
+      return true;
+    }
+    bool Int32(std::int32_t& out) const {
+      std::int64_t v = 0;
+      if (!Int64(v) || v < std::numeric_limits<std::int32_t>::min() ||
+          v > std::numeric_limits<std::int32_t>::max())
+        return false;
+      out = static_cast<std::int32_t>(v);
+      return true;
+    }
+  };
+
+  static Key ObjectKey(std::string_view k) {
+    if (k == "kind") return Key::kKind;
+    if (k == "box") return Key::kBox;
+    if (k == "tags") return Key::kTags;
+    if (k == "ends") return Key::kEnds;
+    if (k == "points") return Key::kPoints;
+    if (k == "group") return Key::kGroup;
+    if (k == "layer") return Key::kLayer;
+    if (k == "hidden") return Key::kHidden;
+    if (k == "picture") return Key::kPicture;
+    if (k == "line") return Key::kLine;
+    if (k == "fill") return Key::kFill;
+    if (k == "markers") return Key::kMarkers;
+    if (k == "text") return Key::kText;
+    return Key::kOther;
   }
 
-  nlohmann::detail::json_sax_dom_parser<Json> tree_;
+  // The number of a tag name. Records of one kind follow each other with
+  // the same names in the same order, so the name at the same place in the
+  // record before is tried first.
+  std::uint32_t NameOf(const std::string& name, std::size_t position) {
+    if (position < name_hints_.size()) {
+      const std::uint32_t hint = name_hints_[position];
+      if (names_.Name(hint) == name) return hint;
+    } else if (position < 64) {
+      name_hints_.resize(position + 1);
+    } else {
+      return names_.Intern(name);
+    }
+    return name_hints_[position] = names_.Intern(name);
+  }
+
+  // Members of a record gathered whole before they are read.
+  bool IsCapturedKey() const {
+    return key_ == Key::kOther || key_ == Key::kLine || key_ == Key::kFill ||
+           key_ == Key::kMarkers || key_ == Key::kText;
+  }
+
+  bool Scalar(const Value& v) {
+    if (capture_) {
+      Json value = v.ToJson();
+      return Captured(CaptureScalar(value));
+    }
+    if (frames_.empty()) return false;
+    Frame& f = frames_.back();
+    switch (f.at) {
+      case At::kBox: {
+        Box& box = f.object->shape.box;
+        std::int32_t* slots[] = {&box.left, &box.top, &box.right, &box.bottom};
+        return f.count < 4 && v.Int32(*slots[f.count++]);
+      }
+      case At::kEnds:
+        return f.count < 2 && v.Int32(f.object->ends[static_cast<std::size_t>(f.count++)]);
+      case At::kPoint: {
+        Point& p = f.object->shape.points.back();
+        return f.count < 2 && v.Int32(f.count++ == 0 ? p.x : p.y);
+      }
+      case At::kObject:
+        switch (key_) {
+          case Key::kKind: {
+            std::int32_t kind = 0;
+            if (!v.Int32(kind)) return false;
+            f.object->shape.kind = kind;
+            return true;
+          }
+          case Key::kLayer:
+            return v.Int64(f.object->shape.layer);
+          case Key::kHidden:
+            if (v.type != Value::Type::kBool) return false;
+            f.object->shape.hidden = v.flag;
+            return true;
+          default:
+            if (!IsCapturedKey()) return false;
+            StartCapture();
+            return Captured(CaptureScalar(v.ToJson()));
+        }
+      case At::kDocument:
+        StartCapture();
+        return Captured(CaptureScalar(v.ToJson()));
+      default:
+        return false;
+    }
+  }
+
+  bool CaptureScalar(Json value) {
+    switch (value.type()) {
+      case Json::value_t::boolean:
+        return capture_->boolean(value.get<bool>());
+      case Json::value_t::number_integer:
+        return capture_->number_integer(value.get<std::int64_t>());
+      case Json::value_t::number_unsigned:
+        return capture_->number_unsigned(value.get<std::uint64_t>());
+      case Json::value_t::number_float:
+        return capture_->number_float(value.get<double>(), {});
+      default:
+        return capture_->null();
+    }
+  }
+
+  void StartCapture() {
+    captured_ = Json();
+    capture_.emplace(captured_, false);
+    capture_depth_ = 0;
+  }
+  bool Deeper(bool ok) {
+    ++capture_depth_;
+    return ok;
+  }
+  bool Shallower(bool ok) {
+    --capture_depth_;
+    return Captured(ok);
+  }
+  // After each event of a gathered value: once it is whole, it is read.
+  bool Captured(bool ok) {
+    if (!ok) return false;
+    if (capture_depth_ > 0) return true;
+    capture_.reset();
+    return Deliver();
+  }
+
+  bool Deliver() {
+    Frame& f = frames_.back();
+    if (f.at == At::kDocument) {
+      if (key_text_ == "format") {
+        format_ok_ = captured_.is_string() && captured_ == kFormatName;
+      } else if (key_text_ == "version") {
+        int version = 0;
+        if (!GetInt(captured_, version) || version < 1 || version > kVersion) return false;
+      } else if (key_ == Key::kObjects) {
+        return false;  // not a list
+      } else if (key_text_ == "page") {
+        document_->page = PageState{};
+        document_->page_extra = Json();
+        return ReadPage(captured_, document_->page, document_->page_extra);
+      } else {
+        document_->document_extra[key_text_] = std::move(captured_);
+      }
+      return true;
+    }
+    Shape& s = f.object->shape;
+    const Shape blank;
+    switch (key_) {
+      case Key::kLine:
+        s.line_color = blank.line_color;
+        s.line_width = blank.line_width;
+        s.line_style = blank.line_style;
+        return ReadMembers(captured_, [&](const std::string& k, const Json& v) {
+          if (k == "color") return GetInt32(v, s.line_color);
+          if (k == "width") return GetDouble(v, s.line_width);
+          if (k == "style") return GetInt(v, s.line_style);
+          return true;
+        });
+      case Key::kFill:
+        s.fill_color = blank.fill_color;
+        s.fill_style = blank.fill_style;
+        return ReadMembers(captured_, [&](const std::string& k, const Json& v) {
+          if (k == "color") return GetInt32(v, s.fill_color);
+          if (k == "style") return GetInt(v, s.fill_style);
+          return true;
+        });
+      case Key::kMarkers:
+        s.markers = blank.markers;
+        return ReadMarkers(captured_, s.markers);
+      case Key::kText:
+        s.text = TextFormat{};
+        return ReadText(captured_, s.text);
+      default:
+        f.object->extra[key_text_] = std::move(captured_);
+        return true;
+    }
+  }
+
+  // The checks of a whole record: its kind known, box and tags present, a
+  // link's ends, a group's objects on a group only.
+  bool FinishObject(Frame& f) {
+    SurfaceObject& object = *f.object;
+    if (!f.has_kind || !IsKnownKind(object.shape.kind)) return false;
+    const bool link = object.shape.kind == kKindLink;
+    if (f.has_group && object.shape.kind != kKindGroup) return false;
+    if (link && !f.has_ends && object.extra.is_object()) {
+      // The ends came before the kind: they wait among the unknown members.
+      auto ends = object.extra.find("ends");
+      if (ends != object.extra.end()) {
+        if (!(ends->is_array() && ends->size() == 2 && GetInt32((*ends)[0], object.ends[0]) &&
+              GetInt32((*ends)[1], object.ends[1])))
+          return false;
+        object.extra.erase(ends);
+        f.has_ends = true;
+      }
+    }
+    if (object.extra.is_object() && object.extra.empty()) object.extra = Json();
+    return f.has_box && f.has_tags && (!link || f.has_ends);
+  }
+
   TagNames& names_;
-  std::vector<std::vector<Tag>>& tag_lists_;
+  NetworkDocument* document_;
+  std::vector<SurfaceObject>* list_;
   std::vector<Frame> frames_;
-  std::string pending_key_;
-  bool in_tags_ = false;
-  int tag_depth_ = 0;
-  int pair_fill_ = 0;
+  Key key_ = Key::kOther;
+  std::string key_text_;
+  std::optional<nlohmann::detail::json_sax_dom_parser<Json>> capture_;
+  Json captured_;
+  int capture_depth_ = 0;
+  bool root_seen_ = false;
+  bool format_ok_ = false;
+  bool has_objects_ = false;
+  bool list_done_ = false;
+  std::size_t last_tag_count_ = 0;
+  std::vector<std::uint32_t> name_hints_;
 };
 
-// False when the text is not JSON; a tag list that is not a list of pairs of
-// texts makes it fail too.
-bool Parse(std::string_view text, TagNames& names, Json& root,
-           std::vector<std::vector<Tag>>& tag_lists) {
-  TreeReader reader(root, names, tag_lists);
+// Room for the objects of a text, as this program writes them: one a line.
+// Bounded by the shortest record, so that a text of blank lines asks for little.
+std::size_t ExpectedObjects(std::string_view text) {
+  const auto lines = static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n'));
+  return std::min(lines, text.size() / 64);
+}
+
+bool Parse(std::string_view text, DirectReader& reader) {
   return Json::sax_parse(text.begin(), text.end(), &reader, nlohmann::detail::input_format_t::json,
-                         true);
+                         true) &&
+         reader.Complete();
 }
 
 }  // namespace
 
 bool ReadNetworkDocument(std::string_view text, TagNames& names, NetworkDocument& document) {
   try {
-    Json root;
-    std::vector<std::vector<Tag>> tag_lists;
-    if (!Parse(text, names, root, tag_lists) || !root.is_object()) return false;
-    TagSource tags{tag_lists};
-    auto format = root.find("format");
-    if (format == root.end() || !format->is_string() || *format != kFormatName) return false;
-    bool has_objects = false;
-    for (const auto& [key, value] : root.items()) {
-      if (key == "format") continue;
-      if (key == "version") {
-        int version = 0;
-        if (!GetInt(value, version) || version < 1 || version > kVersion) return false;
-      } else if (key == "page") {
-        if (!ReadPage(value, document.page, document.page_extra)) return false;
-      } else if (key == "objects") {
-        if (!ReadObjectArray(value, tags, 0, document.objects)) return false;
-        has_objects = true;
-      } else {
-        document.document_extra[key] = value;
-      }
-    }
-    return has_objects;
+    document.objects.reserve(ExpectedObjects(text));
+    DirectReader reader(names, &document, nullptr);
+    return Parse(text, reader);
   } catch (const std::exception&) {
     return false;
   }
@@ -642,15 +926,14 @@ bool ReadNetworkDocument(std::string_view text, TagNames& names, NetworkDocument
 
 bool ReadObjectList(std::string_view text, TagNames& names, std::vector<SurfaceObject>& objects) {
   try {
-    Json root;
-    std::vector<std::vector<Tag>> tag_lists;
-    if (!Parse(text, names, root, tag_lists)) return false;
-    TagSource tags{tag_lists};
-    return ReadObjectArray(root, tags, 0, objects);
+    objects.reserve(objects.size() + ExpectedObjects(text));
+    DirectReader reader(names, nullptr, &objects);
+    return Parse(text, reader);
   } catch (const std::exception&) {
     return false;
   }
 }
+
 
 std::string WriteNetworkDocument(const PageState& page, const Json& page_extra,
                                  const Json& document_extra,

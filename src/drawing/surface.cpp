@@ -118,6 +118,7 @@ void Surface::ReindexAround(int number, const std::optional<std::string>& old_id
 
 void Surface::Attach(int number, std::unique_ptr<SurfaceObject> object) {
   ++shape_revision_;
+  ++tag_revision_;
   SurfaceObject& placed = *object;
   slots_[SlotOf(number)] = std::move(object);
   ++live_count_;
@@ -136,6 +137,7 @@ void Surface::Attach(int number, std::unique_ptr<SurfaceObject> object) {
 
 std::unique_ptr<SurfaceObject> Surface::Detach(int number) {
   ++shape_revision_;
+  ++tag_revision_;
   std::unique_ptr<SurfaceObject> object = std::move(slots_[SlotOf(number)]);
   --live_count_;
   if (object->selected) --selected_count_;
@@ -161,6 +163,7 @@ std::vector<int> Surface::InsertBatch(std::vector<SurfaceObject> objects, bool e
   const int first = base_ + static_cast<int>(slots_.size());
   const int count = static_cast<int>(objects.size());
   slots_.resize(slots_.size() + objects.size());
+  id_index_.reserve(id_index_.size() + objects.size());
   // Stacked above everything, keeping the order of their own layers.
   std::vector<int> order(objects.size());
   for (int i = 0; i < count; ++i) order[i] = i;
@@ -248,6 +251,7 @@ void Surface::Apply(JournalRecord& record) {
     if (object) std::swap(object->shape, *shape->shape);
     ++shape_revision_;
   } else if (auto* value = std::get_if<TagValueRecord>(&record)) {
+    ++tag_revision_;
     SurfaceObject* object = Object(value->number);
     if (!object || value->position >= object->tags.size()) return;
     Tag& tag = object->tags[value->position];
@@ -259,12 +263,14 @@ void Surface::Apply(JournalRecord& record) {
     std::swap(tag.value, value->value);
     ReindexAround(value->number, old_id);
   } else if (auto* name = std::get_if<TagNameRecord>(&record)) {
+    ++tag_revision_;
     SurfaceObject* object = Object(name->number);
     if (!object || name->position >= object->tags.size()) return;
     const auto old_id = IdOf(*object);
     std::swap(object->tags[name->position].name, name->name);
     ReindexAround(name->number, old_id);
   } else if (auto* tail = std::get_if<TagTailRecord>(&record)) {
+    ++tag_revision_;
     SurfaceObject* object = Object(tail->number);
     if (!object || tail->position > object->tags.size()) return;
     const auto old_id = IdOf(*object);
@@ -327,9 +333,63 @@ void Surface::SetObjTag(std::string_view name, std::string_view value) {
 
 void Surface::SetObjTag(std::string_view name, double value) { SetObjTag(name, NumToText(value)); }
 
+const Surface::TagIndex* Surface::IndexOfTag(std::uint32_t name) {
+  constexpr std::size_t kMaxValues = 64;
+  constexpr std::size_t kMaxNames = 8;
+  auto index = std::find_if(tag_indexes_.begin(), tag_indexes_.end(),
+                            [name](const TagIndex& entry) { return entry.name == name; });
+  if (index == tag_indexes_.end()) {
+    if (tag_indexes_.size() >= kMaxNames) tag_indexes_.clear();
+    tag_indexes_.push_back(TagIndex{name, tag_revision_, 0, false, {}});
+    return nullptr;
+  }
+  if (index->built == tag_revision_) return index->usable ? &*index : nullptr;
+  // A search between two changes of tags reads the drawing as it goes.
+  if (index->asked != tag_revision_) {
+    index->asked = tag_revision_;
+    return nullptr;
+  }
+  index->built = tag_revision_;
+  index->usable = false;
+  index->values.clear();
+  for (std::size_t slot = 0; slot < slots_.size(); ++slot) {
+    const SurfaceObject* object = slots_[slot].get();
+    if (!object) continue;
+    for (const Tag& tag : object->tags) {
+      if (tag.name != name) continue;
+      auto value = std::find_if(index->values.begin(), index->values.end(),
+                                [&tag](const auto& entry) { return entry.first == tag.value; });
+      if (value == index->values.end()) {
+        if (index->values.size() == kMaxValues) {
+          index->values.clear();
+          return nullptr;
+        }
+        index->values.emplace_back(tag.value, std::vector<int>());
+        value = index->values.end() - 1;
+      }
+      value->second.push_back(NumberOfSlot(slot));
+      break;
+    }
+  }
+  index->usable = true;
+  return &*index;
+}
+
 int Surface::FindByTag(std::string_view tag_name, const TagMatch& value, bool first) {
   const auto id = names_.Find(tag_name);
   if (id) {
+    if (const TagIndex* index = IndexOfTag(*id)) {
+      // The first holder of a matching value after the start.
+      const int after = (first || current_ < base_) ? base_ - 1 : current_;
+      int found = 0;
+      for (const auto& [text, numbers] : index->values) {
+        if (!value.Matches(text)) continue;
+        auto at = std::upper_bound(numbers.begin(), numbers.end(), after);
+        if (at != numbers.end() && (found == 0 || *at < found)) found = *at;
+      }
+      current_ = found ? found : kPage;
+      return found;
+    }
     std::size_t slot = (first || current_ < base_) ? 0 : SlotOf(current_) + 1;
     for (; slot < slots_.size(); ++slot) {
       const SurfaceObject* object = slots_[slot].get();
@@ -602,6 +662,8 @@ void Surface::Reset() {
   live_count_ = 0;
   selected_count_ = 0;
   id_index_.clear();
+  ++tag_revision_;
+  tag_indexes_.clear();
   journal_.Reset();
   top_layer_ = 0;
   bottom_layer_ = 0;

@@ -361,6 +361,22 @@ class Surface {
   int live_count_ = 0;
   int selected_count_ = 0;
   std::unordered_map<std::string, std::vector<int>> id_index_;
+  // Values of one tag name and the objects whose first tag of that name holds
+  // each (ascending), for the searches of FindByTag. Built when a search of
+  // that name comes again with no tag changed in between, and only for names
+  // of few values (kinds, groups), which the writers of model files search
+  // over and over.
+  struct TagIndex {
+    std::uint32_t name = 0;
+    std::uint64_t asked = 0;  // the tag revision of the last search
+    std::uint64_t built = 0;  // the tag revision it was built at, 0 never
+    bool usable = false;
+    std::vector<std::pair<std::string, std::vector<int>>> values;
+  };
+  const TagIndex* IndexOfTag(std::uint32_t name);
+  // Grows at every change of tags or of the objects that exist.
+  std::uint64_t tag_revision_ = 1;
+  std::vector<TagIndex> tag_indexes_;
   SurfaceObject defaults_;
   PageState page_;
   std::int64_t top_layer_ = 0;

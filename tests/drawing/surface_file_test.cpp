@@ -283,6 +283,46 @@ TEST_F(SurfaceFile, TagListsInsideUnknownMembersAreKeptAsTheyCame) {
   EXPECT_NE(saved.find(R"("tags":[["Id","A"]])"), std::string::npos);
 }
 
+TEST_F(SurfaceFile, MembersAreReadInAnyOrder) {
+  // A link whose ends come before its kind; a rectangle with "ends", which a
+  // rectangle does not know and keeps as it came.
+  WriteAll(Path("x.mtf"),
+           R"({"objects":[{"box":[0,0,1,1],"tags":[["Id","A"]],"kind":2},)"
+           R"({"tags":[["Id","B"]],"ends":[7,8],"box":[5,5,6,6],"kind":2},)"
+           R"({"ends":[0,1],"points":[[0,0],[5,5]],"box":[0,0,5,5],"tags":[],"kind":21}],)"
+           R"("page":{"logicWidth":5000,"ruler":1},"version":1,"format":"pluvane-network"})");
+  ASSERT_TRUE(surface_.LoadFile(Path("x.mtf"), 0));
+  EXPECT_EQ(surface_.LogicWidth(), 5000);
+  const int b = surface_.FindById("B");
+  const int link = surface_.NextObjectNumber(b);
+  surface_.SetCurrentObject(link);
+  EXPECT_EQ(surface_.ObjectKind(), kKindLink);
+  EXPECT_EQ(surface_.LinkEndObject(0), surface_.FindById("A"));
+  EXPECT_EQ(surface_.LinkEndObject(1), b);
+  ASSERT_TRUE(surface_.SaveFile(Path("y.mtf"), kNativeFormat, 0));
+  const std::string saved = ReadAll(Path("y.mtf"));
+  EXPECT_NE(saved.find(R"("tags":[["Id","B"]],"ends":[7,8]})"), std::string::npos);
+  EXPECT_NE(saved.find(R"({"kind":21,"ends":[0,1],)"), std::string::npos);
+  EXPECT_NE(saved.find(R"("ruler":1})"), std::string::npos);
+}
+
+TEST_F(SurfaceFile, KnownMembersOfTheWrongFormAreRefused) {
+  const std::string head = R"({"format":"pluvane-network","objects":[)";
+  for (const std::string object :
+       {R"({"kind":2,"box":[0,0,1],"tags":[]})", R"({"kind":2,"box":[0,0,1,1],"tags":[["a"]]})",
+        R"({"kind":2,"box":[0,0,1,1],"tags":[],"group":[]})",
+        R"({"kind":2,"box":[0,0,1,1],"tags":[],"points":[[1,2,3]]})",
+        R"({"kind":2,"box":[0,0,1,1],"tags":[],"hidden":1})",
+        R"({"kind":2,"box":[0,0,1,1],"tags":[],"line":{"width":"x"}})",
+        R"({"box":[0,0,1,1],"tags":[]})"}) {
+    WriteAll(Path("x.mtf"), head + object + "]}");
+    EXPECT_FALSE(surface_.LoadFile(Path("x.mtf"), 0)) << object;
+  }
+  // The last of two object lists counts, and it is none.
+  WriteAll(Path("x.mtf"), head + R"(],"objects":1})");
+  EXPECT_FALSE(surface_.LoadFile(Path("x.mtf"), 0));
+}
+
 TEST_F(SurfaceFile, DeeplyNestedTextIsRefusedWithoutCrash) {
   WriteAll(Path("deep.mtf"), std::string(100000, '[') + std::string(100000, ']'));
   EXPECT_FALSE(surface_.LoadFile(Path("deep.mtf"), 0));

@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <vector>
+
 #include "drawing/add_element.h"
 #include "foundation/numbers.h"
 #include "drawing/surface.h"
@@ -155,6 +157,51 @@ TEST_F(SurfaceTags, FindByTagWalksInCreationOrderAndComparesNumbersNumerically) 
   EXPECT_EQ(surface_.FindByTag("iName", "99", true), a);
   EXPECT_EQ(surface_.FindByTag("iName", "99", false), 0);
   EXPECT_EQ(surface_.FindByTag("Id", "nod_1", true), 0);
+}
+
+// Searches repeated with no change in between are answered from an index of
+// the values; every change of tags or objects must show in the next answer.
+TEST_F(SurfaceTags, RepeatedSearchesFollowEveryChange) {
+  const int a = AddElement(99, "Nod_1");
+  const int b = AddElement(5, "Cac_1");
+  const int c = AddElement(99, "Nod_2");
+  auto all = [&](const TagMatch& value) {
+    std::vector<int> found;
+    for (int n = surface_.FindByTag("iName", value, true); n > 0;
+         n = surface_.FindByTag("iName", value, false))
+      found.push_back(n);
+    return found;
+  };
+  for (int run = 0; run < 3; ++run) {
+    EXPECT_EQ(all(99), (std::vector<int>{a, c}));
+    EXPECT_EQ(all("5"), (std::vector<int>{b}));
+  }
+  surface_.SetCurrentObject(b);
+  surface_.SetObjTag("iName", " 99 ");
+  for (int run = 0; run < 3; ++run) {
+    EXPECT_EQ(all(99), (std::vector<int>{a, b, c}));
+    EXPECT_EQ(all("99"), (std::vector<int>{a, c}));
+    EXPECT_TRUE(all(5).empty());
+  }
+  surface_.DeleteObject(a);
+  for (int run = 0; run < 3; ++run) EXPECT_EQ(all(99), (std::vector<int>{b, c}));
+  surface_.Undo();
+  for (int run = 0; run < 3; ++run) EXPECT_EQ(all(99), (std::vector<int>{a, b, c}));
+  // Only the first tag of the name counts, as in a walk.
+  surface_.SetCurrentObject(c);
+  surface_.SetObjTagCount(surface_.ObjTagCount() + 1);
+  surface_.SetObjTagName(surface_.ObjTagCount() - 1, "iName");
+  surface_.SetObjTagValue(surface_.ObjTagCount() - 1, "7");
+  for (int run = 0; run < 3; ++run) {
+    EXPECT_EQ(all(99), (std::vector<int>{a, b, c}));
+    EXPECT_TRUE(all(7).empty());
+  }
+  const int d = AddElement(7, "X");
+  for (int run = 0; run < 3; ++run) EXPECT_EQ(all(7), (std::vector<int>{d}));
+  surface_.ClearDrawing();
+  EXPECT_TRUE(all(99).empty());
+  const int e = AddElement(99, "Nod_3");
+  for (int run = 0; run < 3; ++run) EXPECT_EQ(all(99), (std::vector<int>{e}));
 }
 
 TEST_F(SurfaceTags, FindByTagMissLeavesThePageCurrent) {
