@@ -181,7 +181,7 @@ void GridTableModel::OnChange(const GridChange& change) {
     case GridChange::kActiveCell:
       emit activeCellChanged(change.col1, change.row1);
       break;
-    case GridChange::kSelection:
+    case GridChange::kSelectionChanged:
     case GridChange::kLayout:
       emit headerDataChanged(Qt::Horizontal, 0, std::max(0, grid_.MaxCols() - 1));
       break;
