@@ -3,11 +3,15 @@
 #   make test   install what is missing, build (normal and sanitizer builds), run every test
 #   make install  the programs and their data under PREFIX (DESTDIR is honoured)
 #   make package  a .deb of the same tree, in build/
+#   make lint   clang-tidy on every source of src/
+# WERROR=ON (make test WERROR=ON) makes every compiler warning an error, as in the CI.
 JOBS ?= $(shell nproc)
 EXAMPLE = Exemples/Demo.mtf
 PREFIX ?= /usr/local
+# ON: the compiler's warnings fail the build (the CI build sets it).
+WERROR ?= OFF
 
-.PHONY: run test deps build build-asan install package bench fuzz clean
+.PHONY: run test deps build build-asan install package bench fuzz lint clean
 
 run: build
 	cd build/bin && ./pluvane $(EXAMPLE)
@@ -20,14 +24,15 @@ deps:
 	@bash tools/install-deps.sh
 
 build: deps
-	@[ -f build/build.ninja ] || cmake -S . -B build -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo
+	@[ -f build/build.ninja ] || cmake -S . -B build -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo \
+	  -DPLUVANE_WERROR=$(WERROR)
 	cmake --build build -j $(JOBS)
 
 # The sanitizer build covers the core and the command line; the Qt programs are
 # exercised by the normal build.
 build-asan: deps
 	@[ -f build-asan/build.ninja ] || cmake -S . -B build-asan -G Ninja -DCMAKE_BUILD_TYPE=Debug \
-	  -DPLUVANE_SANITIZE=ON -DPLUVANE_BUILD_UI=OFF -DPLUVANE_BENCH=OFF
+	  -DPLUVANE_SANITIZE=ON -DPLUVANE_BUILD_UI=OFF -DPLUVANE_BENCH=OFF -DPLUVANE_WERROR=$(WERROR)
 	cmake --build build-asan -j $(JOBS)
 
 install: build
@@ -41,8 +46,15 @@ bench: build
 
 fuzz: deps
 	@[ -f build-fuzz/build.ninja ] || CXX=clang++ cmake -S . -B build-fuzz -G Ninja \
-	  -DCMAKE_BUILD_TYPE=RelWithDebInfo -DPLUVANE_FUZZ=ON -DPLUVANE_BUILD_UI=OFF -DPLUVANE_BENCH=OFF
+	  -DCMAKE_BUILD_TYPE=RelWithDebInfo -DPLUVANE_FUZZ=ON -DPLUVANE_BUILD_UI=OFF -DPLUVANE_BENCH=OFF \
+	  -DPLUVANE_WERROR=$(WERROR)
 	cmake --build build-fuzz -j $(JOBS)
+
+# clang-tidy reads the compile commands of build/ (configured, not built).
+lint: deps
+	@[ -f build/build.ninja ] || cmake -S . -B build -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo \
+	  -DPLUVANE_WERROR=$(WERROR)
+	JOBS=$(JOBS) tools/lint.sh build
 
 clean:
 	rm -rf build build-asan build-fuzz

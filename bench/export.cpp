@@ -42,7 +42,7 @@ int main(int argc, char** argv) {
   }
   const auto size = std::filesystem::file_size(folder / "Large_CI.txt");
   std::printf("collectors: %d written (%.1f MB) in %.0f ms (best of 5)%s\n", counts.collectors,
-              size / 1e6, best, best < 500 ? "" : "  ** over 0.5 s **");
+              static_cast<double>(size) / 1e6, best, best < 500 ? "" : "  ** over 0.5 s **");
 
   const auto start = std::chrono::steady_clock::now();
   const int written = pluvane::ExportObjData2TxtFile(ui, (folder / "Large_Nod.txt").string(),

@@ -44,8 +44,8 @@ int main(int argc, char** argv) {
 
   start = std::chrono::steady_clock::now();
   if (!builder.Save(file)) return 1;
-  std::printf("save %.1f MB: %.0f ms\n", std::filesystem::file_size(file) / 1e6,
-              Milliseconds(start));
+  std::printf("save %.1f MB: %.0f ms\n",
+              static_cast<double>(std::filesystem::file_size(file)) / 1e6, Milliseconds(start));
 
   pluvane::Surface reopened;
   pluvane::AppState opened;

@@ -117,7 +117,7 @@ int main() {
     auto start = std::chrono::steady_clock::now();
     ok &= SaveNetwork(s, path);
     std::printf("SaveNetwork, %d objects (%.1f MB): %.0f ms\n", b.surface.ObjectCount(kPage),
-                std::filesystem::file_size(path) / 1e6, Milliseconds(start));
+                static_cast<double>(std::filesystem::file_size(path)) / 1e6, Milliseconds(start));
     {
       Surface scratch;
       start = std::chrono::steady_clock::now();

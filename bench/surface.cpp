@@ -49,7 +49,7 @@ int main() {
   start = std::chrono::steady_clock::now();
   const bool saved = surface.SaveFile(path, pluvane::kNativeFormat, 0);
   std::printf("SaveFile (%s, %.1f MB): %.0f ms\n", saved ? "ok" : "FAILED",
-              std::filesystem::file_size(path) / 1e6, Milliseconds(start));
+              static_cast<double>(std::filesystem::file_size(path)) / 1e6, Milliseconds(start));
 
   Surface loaded;
   start = std::chrono::steady_clock::now();

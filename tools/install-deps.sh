@@ -1,10 +1,11 @@
 #!/usr/bin/env bash
 # Installs the Debian packages that the build and the tests need, if any is
-# missing (Xvfb and x11-utils let the tests start the desktop program in a
-# real X display; poppler-utils reads back the printed PDFs; GDAL writes and
-# reads the GIS layers, and its ogrinfo checks them in the tests).
+# missing (clang-tidy runs make lint; Xvfb and x11-utils let the tests start
+# the desktop program in a real X display; poppler-utils reads back the
+# printed PDFs; GDAL writes and reads the GIS layers, and its ogrinfo checks
+# them in the tests).
 set -euo pipefail
-packages=(cmake ninja-build g++ clang make pkg-config
+packages=(cmake ninja-build g++ clang clang-tidy make pkg-config
           qt6-base-dev libqt6svg6-dev libgl-dev
           nlohmann-json3-dev libgtest-dev libgmock-dev libgdal-dev gdal-bin
           fonts-dejavu-core poppler-utils

@@ -290,8 +290,8 @@ bool Surface::Ungroup() {
     if (object->shape.kind == kKindGroup) groups.push_back(current_);
   } else {
     for (std::size_t slot = 0; slot < slots_.size(); ++slot) {
-      const SurfaceObject* object = slots_[slot].get();
-      if (object && object->selected && object->shape.kind == kKindGroup)
+      const SurfaceObject* candidate = slots_[slot].get();
+      if (candidate && candidate->selected && candidate->shape.kind == kKindGroup)
         groups.push_back(NumberOfSlot(slot));
     }
   }

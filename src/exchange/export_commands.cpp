@@ -84,7 +84,7 @@ int ExportTypes(Surface& surface, const NetworkState& state, UserInterface& ui, 
 void ShowInProgress(UserInterface& ui) { ui.ShowMessage("en cours...", "", MessageIcon::kNone); }
 
 std::string MifTarget(const NetworkState& state, UserInterface& ui, const char* suffix) {
-  const std::string target =
+  std::string target =
       JoinPath(NetworkFolder(state), NetworkBaseName(state) + suffix);
   ShowInProgress(ui);
   return target;

@@ -259,13 +259,13 @@ void Grid::AddSelection(GridBlock block) {
   if (block.col1 > block.col2) std::swap(block.col1, block.col2);
   if (block.row1 > block.row2) std::swap(block.row1, block.row2);
   selection_.push_back(block);
-  Notify({GridChange::kSelection});
+  Notify({GridChange::kSelectionChanged});
 }
 
 void Grid::ClearSelection() {
   if (selection_.empty()) return;
   selection_.clear();
-  Notify({GridChange::kSelection});
+  Notify({GridChange::kSelectionChanged});
 }
 
 // --- Sizes and look -------------------------------------------------------------

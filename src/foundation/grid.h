@@ -84,7 +84,7 @@ struct GridChange {
     kColsRemoving,
     kColsRemoved,
     kActiveCell,  // the cursor moved to (col1, row1)
-    kSelection,   // the selected blocks changed
+    kSelectionChanged,  // the selected blocks changed
     kLayout,      // sizes, look, caption, visibility or edit mode changed
   };
   Kind kind;

@@ -61,10 +61,9 @@ const std::vector<std::string>& TypeEntries() {
 }
 
 FrmTagsViewer::FrmTagsViewer(
-    Surface& surface, NetworkState& state, UserInterface& ui, std::string mode,
+    Surface& surface, NetworkState& /*state*/, UserInterface& ui, std::string mode,
     std::function<void(const std::string&, const std::vector<std::string>&)> show_report)
     : surface_(surface),
-      state_(state),
       ui_(ui),
       mode_(std::move(mode)),
       show_report_(std::move(show_report)),

@@ -42,7 +42,6 @@ class FrmTagsViewer : public FormController {
   void ChangeSymbol(const std::string& tag, int value, const std::vector<int>& objects);
 
   Surface& surface_;
-  NetworkState& state_;
   UserInterface& ui_;
   std::string mode_;
   std::function<void(const std::string&, const std::vector<std::string>&)> show_report_;

@@ -98,7 +98,7 @@ bool ReadOutline(const Lines& page, PageOutline& outline) {
   for (std::size_t i = 0; i < page.size(); ++i) {
     const ScriptKeyword keyword = LineKeyword(page[i]);
     if (EndsPage(keyword)) break;
-    if (keyword == ScriptKeyword::kPage) outline.code = PageCode(StatementRest(page[i]));
+    if (keyword == ScriptKeyword::kBeginPage) outline.code = PageCode(StatementRest(page[i]));
     if (keyword != ScriptKeyword::kFrame) continue;
     if (static_cast<int>(outline.curves.size()) == kMaxFrames) return false;
     outline.curves.push_back(0);

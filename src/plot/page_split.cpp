@@ -57,7 +57,7 @@ bool SplitPages(UserInterface& ui, const std::string& script, const std::string&
     const std::string line = Trim(raw);
     const ScriptKeyword keyword = LineKeyword(line);
     if (keyword == ScriptKeyword::kEnd) break;
-    if (keyword == ScriptKeyword::kPage) {
+    if (keyword == ScriptKeyword::kBeginPage) {
       ++pages;
       files.push_back({PageFilePath(work_dir, pages), {}});
       open = static_cast<int>(files.size()) - 1;

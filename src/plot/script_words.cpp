@@ -13,7 +13,7 @@ std::string PageFirstWord(std::string_view line) {
 }
 
 ScriptKeyword KeywordOf(std::string_view w) {
-  if (w == "PAGE" || w == "PAG") return ScriptKeyword::kPage;
+  if (w == "PAGE" || w == "PAG") return ScriptKeyword::kBeginPage;
   if (w == "ENDPAGE" || w == "ENDPAG" || w == "ENDP") return ScriptKeyword::kEndPage;
   if (w == "END") return ScriptKeyword::kEnd;
   if (w == "CADRE" || w == "CAD") return ScriptKeyword::kFrame;

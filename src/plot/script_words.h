@@ -12,7 +12,7 @@ namespace pluvane {
 
 enum class ScriptKeyword {
   kOther,
-  kPage,      // PAGE, PAG
+  kBeginPage, // PAGE, PAG
   kEndPage,   // ENDPAGE, ENDPAG, ENDP
   kEnd,       // END
   kFrame,     // CADRE, CAD

@@ -8,6 +8,8 @@
 #include "shell/cli_network.h"
 #include "shell/cli_options.h"
 
+#include <utility>
+
 namespace pluvane {
 
 namespace {
@@ -76,8 +78,9 @@ CliCommand CapacityCliCommand(CapacityPictureWriter writer) {
           "                builds the capacity map of the scenario (its .Sor, or\n"
           "                FILE) with the classes of pluvane.ini, and writes the\n"
           "                map's network, or draws it with its legend\n",
-          [writer](const std::vector<std::string>& args, const std::string& app_path,
-                   std::ostream& out, ScriptedUi& ui) {
+          [writer = std::move(writer)](const std::vector<std::string>& args,
+                                       const std::string& app_path, std::ostream& out,
+                                       ScriptedUi& ui) {
             return CapacityCommand(args, app_path, out, ui, writer);
           }};
 }

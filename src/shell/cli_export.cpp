@@ -66,7 +66,7 @@ bool ErrorShown(const ScriptedUi& ui) {
 int Export(const std::vector<std::string>& args, const std::string& app_path, std::ostream& out,
            ScriptedUi& ui) {
   if (args.empty()) return 2;
-  const std::string what = args[0];
+  const std::string& what = args[0];
   const bool nodes = what == "nodes";
   if (!nodes && what != "app" && what != "links") return 2;
   const std::vector<ExportType>& types = what == "app" ? ApplicationTypes() : CollectorTypes();

@@ -282,7 +282,7 @@ bool ShapeDrawing::PlaceText(Point at) {
   for (unsigned char c : *text) {
     if ((c & 0xC0) != 0x80) ++characters;
   }
-  const auto width = static_cast<std::int32_t>(std::lround(height * 0.6 * characters));
+  const auto width = static_cast<std::int32_t>(std::lround(height * 0.6 * static_cast<double>(characters)));
   const auto h = static_cast<std::int32_t>(height);
   CursorKeeper keep(surface_);
   UndoStep step(surface_, std::string("Annuler : ") + ShapeName(kEditText));

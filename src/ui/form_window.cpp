@@ -21,7 +21,7 @@ constexpr int kHeadMargin = 16;
 // The width a head needs on two lines: its best cut at a blank.
 int TwoLineWidth(const QFontMetrics& metrics, const QString& head) {
   int best = metrics.horizontalAdvance(head);
-  for (int i = head.indexOf(' '); i >= 0; i = head.indexOf(' ', i + 1)) {
+  for (qsizetype i = head.indexOf(' '); i >= 0; i = head.indexOf(' ', i + 1)) {
     best = std::min(best, std::max(metrics.horizontalAdvance(head.left(i)),
                                    metrics.horizontalAdvance(head.mid(i + 1))));
   }

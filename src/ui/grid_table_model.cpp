@@ -43,7 +43,7 @@ class NumberValidator : public QDoubleValidator {
 
 // A number of a float cell is shown with the cell's decimals; any other text as it is.
 QString Shown(const Cell& cell) {
-  const QString text = Q(cell.text);
+  QString text = Q(cell.text);
   if (cell.type.kind != CellType::kFloat || cell.type.decimals <= 0) return text;
   bool number = false;
   const double value = text.trimmed().toDouble(&number);
@@ -181,7 +181,7 @@ void GridTableModel::OnChange(const GridChange& change) {
     case GridChange::kActiveCell:
       emit activeCellChanged(change.col1, change.row1);
       break;
-    case GridChange::kSelection:
+    case GridChange::kSelectionChanged:
     case GridChange::kLayout:
       emit headerDataChanged(Qt::Horizontal, 0, std::max(0, grid_.MaxCols() - 1));
       break;

@@ -46,7 +46,7 @@ QString QtFilterOf(const std::string& filter) {
     QString patterns = parts[i + 1];
     patterns.replace(';', ' ');
     QString label = parts[i];
-    int paren = label.indexOf('(');
+    qsizetype paren = label.indexOf('(');
     if (paren >= 0) label = label.left(paren).trimmed();
     filters << QStringLiteral("%1 (%2)").arg(label, patterns);
   }

@@ -45,7 +45,7 @@ void SpatialIndex::Build(const Surface& surface) {
   const double width = std::max(1.0, static_cast<double>(bounds_.right) - bounds_.left);
   const double height = std::max(1.0, static_cast<double>(bounds_.bottom) - bounds_.top);
   // About two items a cell, in cells as square as the bounds allow.
-  const double cells = std::max(1.0, items_.size() / 2.0);
+  const double cells = std::max(1.0, static_cast<double>(items_.size()) / 2.0);
   const double side = std::sqrt(width * height / cells);
   cols_ = std::clamp(static_cast<int>(std::ceil(width / side)), 1, kMostCellsASide);
   rows_ = std::clamp(static_cast<int>(std::ceil(height / side)), 1, kMostCellsASide);

@@ -530,8 +530,8 @@ TEST_F(Hydrograph, TheEditedHydrographReachesItsRecordAndTheInflowFile) {
                                           {202, 0.05},
                                           {203, 2}},
                                          {{5, 101}, {105, 201}}));
-  ModelContext context = Context();
-  GenFicApp(context, ModelFile(".APP"));
+  ModelContext model = Context();
+  GenFicApp(model, ModelFile(".APP"));
   EXPECT_EQ(ReadBytes(ModelFile(".APP")),
             "'Rejet'\r\n"
             "        0.        0.      0.05\r\n"

@@ -13,16 +13,16 @@ class DividerTest : public NetworkEditorTest {
   void Build(const char* key) {
     up = Node(1000, 1000);
     node = Node(3000, 1000);
-    const int n2 = Node(5000, 1000), n3 = Node(3000, 3000), n4 = Node(5000, 3000),
-              n5 = Node(1000, 3000);
+    const int down2 = Node(5000, 1000), down3 = Node(3000, 3000), down4 = Node(5000, 3000),
+              down5 = Node(1000, 3000);
     Link("X_CAC", up, node);  // Cac_1, arriving
-    cac2 = Link("X_CAC", node, n2);
+    cac2 = Link("X_CAC", node, down2);
     Set(cac2, {{"ZRam", "12.5"}, {"K", "70"}});
-    cac3 = Link("X_CAC", node, n3);
+    cac3 = Link("X_CAC", node, down3);
     Set(cac3, {{"ZRam", "12.25"}, {"K", "65"}});
-    cao = Link("X_CAO", node, n4);
+    cao = Link("X_CAO", node, down4);
     Set(cao, {{"ZRam", "11"}, {"Kmin", "45"}, {"libell", "Fossé"}});
-    cac4 = Link("X_CAC", node, n5);
+    cac4 = Link("X_CAC", node, down5);
     Set(cac4, {{"ZRam", "12"}});
     divider = Symbol(key, 0, 0, node);
     surface.DeselectAll();

@@ -180,8 +180,8 @@ TEST_F(FrmEditTest, AFunctionFourRowWithoutParametersStoresThemEmpty) {
 
 TEST_F(FrmEditTest, ParameterHeadsFollowTheRowUnderTheCursor) {
   BuildNetwork();
-  const int bv2 = Symbol("X_BV", 8000, 8000);
-  Set(bv2, {{"Fpluie", "2"}});
+  const int bv3 = Symbol("X_BV", 8000, 8000);
+  Set(bv3, {{"Fpluie", "2"}});
   FrmEdit form(context);
   form.ClickTab(kBv);
   Grid& sheet = form.Sheet(kBv);
@@ -214,8 +214,8 @@ TEST_F(FrmEditTest, TheTwoCatchmentSheetsDifferInTheirLastTransferAndTheDryFlow)
 
 TEST_F(FrmEditTest, DividerSheetsListTheLinksOfEachNode) {
   BuildNetwork();
-  const int n4 = Node(3000, 3000);
-  Link("X_CAC", n2, n4);
+  const int n5 = Node(3000, 3000);
+  Link("X_CAC", n2, n5);
   Set(Symbol("X_DQQ", 0, 0, n2), {{"IdAval", "Cac_2"}, {"IdDer_a", "Cac_3"}});
   const int lonely = Symbol("X_DQZ", 0, 0, n3);
   Set(lonely, {{"libell", "Fin"}});
@@ -297,8 +297,8 @@ TEST_F(FrmEditTest, TheLawOfADividerOpensWithFourColumns) {
 
 TEST_F(FrmEditTest, ABasinTakesItsOutletsFromTheLinksOfItsNode) {
   BuildNetwork();
-  const int n4 = Node(3000, 3000);
-  Link("X_CAC", n2, n4);
+  const int n5 = Node(3000, 3000);
+  Link("X_CAC", n2, n5);
   const int rs = Symbol("X_RS", 0, 0, n2);
   FrmEdit form(context);
   EXPECT_EQ(form.CurrentTab(), kRs);

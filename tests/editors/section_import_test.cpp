@@ -31,19 +31,19 @@ class RecordingConsole : public Console {
 // The user, who also shows what the file dialogs were given.
 class DialogUi : public ScriptedUi {
  public:
-  std::string AskOpenFile(const std::string& title, const std::string& filter,
-                          const std::string& default_ext,
+  std::string AskOpenFile(const std::string& title, const std::string& asked_filter,
+                          const std::string& asked_ext,
                           const std::string& initial_name) override {
-    this->filter = filter;
-    this->default_ext = default_ext;
-    return ScriptedUi::AskOpenFile(title, filter, default_ext, initial_name);
+    filter = asked_filter;
+    default_ext = asked_ext;
+    return ScriptedUi::AskOpenFile(title, asked_filter, asked_ext, initial_name);
   }
-  std::string AskSaveFile(const std::string& title, const std::string& filter,
-                          const std::string& default_ext,
+  std::string AskSaveFile(const std::string& title, const std::string& asked_filter,
+                          const std::string& asked_ext,
                           const std::string& initial_name) override {
-    this->filter = filter;
-    this->default_ext = default_ext;
-    return ScriptedUi::AskSaveFile(title, filter, default_ext, initial_name);
+    filter = asked_filter;
+    default_ext = asked_ext;
+    return ScriptedUi::AskSaveFile(title, asked_filter, asked_ext, initial_name);
   }
   std::string filter;
   std::string default_ext;

@@ -19,11 +19,11 @@ using FrmExportObjAlphaTest = ObjAlphaTest;
 // Records the filter of the save dialog as well.
 class DialogUi : public ScriptedUi {
  public:
-  std::string AskSaveFile(const std::string& title, const std::string& filter,
+  std::string AskSaveFile(const std::string& title, const std::string& asked_filter,
                           const std::string& default_ext,
                           const std::string& initial_name) override {
-    this->filter = filter;
-    return ScriptedUi::AskSaveFile(title, filter, default_ext, initial_name);
+    filter = asked_filter;
+    return ScriptedUi::AskSaveFile(title, asked_filter, default_ext, initial_name);
   }
   std::string filter;
 };

@@ -151,14 +151,15 @@ TEST(FormatFixed, RandomValuesAroundHalves) {
   std::uniform_int_distribution<int> decimals(0, 4);
   for (int n = 0; n < 20000; ++n) {
     const long long k = counts(random);
+    const double dk = static_cast<double>(k);  // exact: k < 2^53
     const int d = decimals(random);
     const double scale = std::pow(10.0, d);
     const int w = 10;
     SCOPED_TRACE("k=" + std::to_string(k) + " d=" + std::to_string(d));
-    ASSERT_EQ(FormatFixed((k + 0.5) / scale, w, d), Expected(k + 1, w, d));
-    ASSERT_EQ(FormatFixed((k + 0.4) / scale, w, d), Expected(k, w, d));
-    ASSERT_EQ(FormatFixed((k + 0.6) / scale, w, d), Expected(k + 1, w, d));
-    ASSERT_EQ(FormatFixed(-(k + 0.5) / scale, w, d), Expected(-(k + 1), w, d));
+    ASSERT_EQ(FormatFixed((dk + 0.5) / scale, w, d), Expected(k + 1, w, d));
+    ASSERT_EQ(FormatFixed((dk + 0.4) / scale, w, d), Expected(k, w, d));
+    ASSERT_EQ(FormatFixed((dk + 0.6) / scale, w, d), Expected(k + 1, w, d));
+    ASSERT_EQ(FormatFixed(-(dk + 0.5) / scale, w, d), Expected(-(k + 1), w, d));
     ASSERT_EQ(FormatFixed(static_cast<double>(k) / scale, w, d), Expected(k, w, d));
   }
 }

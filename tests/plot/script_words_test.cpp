@@ -38,7 +38,7 @@ TEST(KeywordOf, AcceptsTheListedSpellingsOnly) {
   EXPECT_EQ(LineKeyword("Cad 1 2"), ScriptKeyword::kFrame);
   EXPECT_EQ(LineKeyword("ca 1 2"), ScriptKeyword::kOther);
   EXPECT_EQ(LineKeyword("CADR 1"), ScriptKeyword::kOther);
-  EXPECT_EQ(KeywordOf("PAG"), ScriptKeyword::kPage);
+  EXPECT_EQ(KeywordOf("PAG"), ScriptKeyword::kBeginPage);
   EXPECT_EQ(KeywordOf("PA"), ScriptKeyword::kOther);
   EXPECT_EQ(KeywordOf("ENDP"), ScriptKeyword::kEndPage);
   EXPECT_EQ(KeywordOf("ENDPAG"), ScriptKeyword::kEndPage);

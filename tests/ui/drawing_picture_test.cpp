@@ -139,8 +139,8 @@ TEST(ShippedSymbols, AreDrawnInTheirBoxes) {
   const double per_pixel = DrawingExtent(surface).width() / image.width();
   const double origin = DrawingExtent(surface).left();
   for (std::size_t i = 0; i < names.size(); ++i) {
-    const int x0 = static_cast<int>((1200.0 * i - origin) / per_pixel);
-    const int x1 = static_cast<int>((1200.0 * i + 1000 - origin) / per_pixel);
+    const int x0 = static_cast<int>((1200.0 * static_cast<double>(i) - origin) / per_pixel);
+    const int x1 = static_cast<int>((1200.0 * static_cast<double>(i) + 1000 - origin) / per_pixel);
     const int y0 = static_cast<int>((0 - DrawingExtent(surface).top()) / per_pixel);
     const int y1 = static_cast<int>((1000 - DrawingExtent(surface).top()) / per_pixel);
     int inked = 0;

@@ -203,10 +203,10 @@ TEST_F(PainterTest, ASelectedObjectIsOutlined) {
   surface_.SetLineColor(kWhite);
   QImage image = Paint();
   EXPECT_EQ(image.pixelColor(28, 50), QColor(Qt::white));
-  auto outline = [](const QImage& image) {
+  auto outline = [](const QImage& picture) {
     int count = 0;
     for (int x = 0; x < 100; ++x)
-      if (image.pixelColor(x, 28) == QColor(0, 120, 215)) ++count;
+      if (picture.pixelColor(x, 28) == QColor(0, 120, 215)) ++count;
     return count;
   };
   EXPECT_EQ(outline(image), 0);
