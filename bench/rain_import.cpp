@@ -14,6 +14,7 @@
 #include "foundation/fixed_width.h"
 #include "foundation/scripted_ui.h"
 #include "foundation/text.h"
+#include "network/catalogue.h"
 #include "network/default_tags.h"
 #include "network/georeferencing.h"
 #include "rain/rain_records.h"
@@ -59,7 +60,7 @@ int main() {
   std::printf("PR import, %d gauges x %d records (%zu lines): %.0f ms, %d rain(s)\n", kGauges,
               kRecords, lines.size(), import_ms, result.imported);
   std::fflush(stdout);
-  const int scenario = AddRainRecord(surface, state, kScenarioRecord, "Scn-1");
+  const int scenario = AddRainRecord(surface, state, kINameScenario, "Scn-1");
   surface.SetObjTag("IdPluie", "Orage");
   surface.SetObjTag("iPluie", "103");
   (void)scenario;
