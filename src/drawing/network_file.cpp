@@ -586,7 +586,6 @@ class DirectReader {
         return f.count == 4;
       case At::kEnds:
       case At::kPoint:
-        return f.count == 2;
       case At::kTagPair:
         return f.count == 2;
       case At::kTags:

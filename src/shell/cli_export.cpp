@@ -6,35 +6,17 @@
 
 #include "exchange/export_commands.h"
 #include "exchange/export_text.h"
-#include "foundation/console.h"
 #include "foundation/errors.h"
 #include "foundation/paths.h"
 #include "foundation/scripted_ui.h"
 #include "foundation/text.h"
+#include "shell/cli_console.h"
 #include "shell/cli_network.h"
 #include "shell/cli_options.h"
 
 namespace pluvane {
 
 namespace {
-
-// The console of the report: its lines go to standard output, nothing else.
-class ReportStream : public Console {
- public:
-  explicit ReportStream(std::ostream& out) : out_(out) {}
-  void Debut(const std::string&) override {}
-  void AfficheMessage(const std::string& text) override { out_ << text << "\n"; }
-  void AfficheJauge(int, const std::string&) override {}
-  void EffaceJauge() override {}
-  void Fin(bool) override {}
-  std::string GetStatus() const override { return status_; }
-  void SetStatus(const std::string& status) override { status_ = status; }
-  void Clear() override {}
-
- private:
-  std::ostream& out_;
-  std::string status_;
-};
 
 // The types named by --types, upper-cased; false when one is not of `types`.
 bool ParseTypes(const std::string& text, const std::vector<ExportType>& types,
@@ -117,7 +99,7 @@ int Export(const std::vector<std::string>& args, const std::string& app_path, st
     }
     chosen = WriteTextLines(list_file, lines);
   };
-  ReportStream report(out);
+  CliConsole report(out);
   const int count = what == "app"
                         ? MnuFi_Export_Txt_App(network.surface, state, ui, report, choose, folder)
                         : MnuFi_Export_Txt_Can(network.surface, state, ui, report, choose, folder);

@@ -1,6 +1,5 @@
 #include "shell/cli_gis.h"
 
-#include "foundation/console.h"
 #include "foundation/numbers.h"
 #include "foundation/paths.h"
 #include "foundation/scripted_ui.h"
@@ -9,30 +8,13 @@
 #include "gis/frm_gis_import.h"
 #include "gis/gis_import.h"
 #include "network/persistence.h"
+#include "shell/cli_console.h"
 #include "shell/cli_network.h"
 #include "shell/cli_options.h"
 
 namespace pluvane {
 
 namespace {
-
-// The message console of the import: its lines go to standard output.
-class ConsoleLines : public Console {
- public:
-  explicit ConsoleLines(std::ostream& out) : out_(out) {}
-  void Debut(const std::string&) override {}
-  void AfficheMessage(const std::string& text) override { out_ << text << "\n"; }
-  void AfficheJauge(int, const std::string&) override {}
-  void EffaceJauge() override {}
-  void Fin(bool) override {}
-  std::string GetStatus() const override { return status_; }
-  void SetStatus(const std::string& status) override { status_ = status; }
-  void Clear() override {}
-
- private:
-  std::ostream& out_;
-  std::string status_;
-};
 
 int GisExport(const std::vector<std::string>& args, const std::string& app_path,
               std::ostream& out, ScriptedUi& ui) {
@@ -80,7 +62,7 @@ int GisImport(const std::vector<std::string>& args, const std::string& app_path,
   }
   CliNetwork network(ui);
   if (!network.Open(app_path, words.Positional()[0])) return 1;
-  ConsoleLines console(out);
+  CliConsole console(out);
   const int count =
       ImportGisLayer({network.surface, network.state(), ui}, console, request);
   if (count < 0) return 1;
