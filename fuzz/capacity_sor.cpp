@@ -2,7 +2,6 @@
 // read onto a small network in both calculation modes. Nothing may crash, the
 // network on screen must stay as it was, and the temporary table file must be
 // gone afterwards.
-#include <unistd.h>
 
 #include <cstddef>
 #include <cstdint>
@@ -14,14 +13,13 @@
 #include "drawing/surface_object.h"
 #include "foundation/scripted_ui.h"
 #include "results/capacity_map.h"
+#include "fuzz_support.h"
 
 namespace {
 
 std::string Folder() {
   static const std::string folder = [] {
-    const auto path = std::filesystem::temp_directory_path() /
-                      ("pluvane_fuzz_sor_" + std::to_string(::getpid()));
-    std::filesystem::create_directories(path);
+    const auto path = pluvane_fuzz::Folder("sor");
     pluvane::WriteCapacityScale({{65280, 0}, {65535, 50}, {255, 100}}, (path / "p.ini").string());
     return path.string();
   }();

@@ -2,8 +2,6 @@
 // name found in it (or the input's first line) is read, extracted and scaled.
 #include "plot/curve_file.h"
 
-#include <unistd.h>
-
 #include <cstddef>
 #include <cstdint>
 #include <filesystem>
@@ -14,14 +12,10 @@
 #include "foundation/scripted_ui.h"
 #include "foundation/text.h"
 #include "plot/auto_scale.h"
+#include "fuzz_support.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  static const std::filesystem::path folder = [] {
-    auto path = std::filesystem::temp_directory_path() /
-                ("pluvane_fuzz_curve_" + std::to_string(::getpid()));
-    std::filesystem::create_directories(path);
-    return path;
-  }();
+  static const std::filesystem::path folder = pluvane_fuzz::Folder("curve");
   const std::string file = (folder / "in.crb").string();
   const std::string out = (folder / "out.crb").string();
   std::filesystem::remove(out);

@@ -3,8 +3,6 @@
 // columns written back read the same.
 #include "exchange/fld_file.h"
 
-#include <unistd.h>
-
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
@@ -14,27 +12,18 @@
 #include <vector>
 
 #include "foundation/scripted_ui.h"
+#include "fuzz_support.h"
 
 namespace {
 
-void Check(bool condition) {
-  if (!condition) __builtin_trap();
-}
+using pluvane_fuzz::Check;
 
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  static const std::string folder = [] {
-    auto path =
-        std::filesystem::temp_directory_path() / ("pluvane_fuzz_fld_" + std::to_string(::getpid()));
-    std::filesystem::create_directories(path);
-    return path.string();
-  }();
+  static const std::string folder = pluvane_fuzz::Folder("fld").string();
   const std::string file = folder + "/in.Fld", again = folder + "/again.Fld";
-  {
-    std::ofstream stream(file, std::ios::binary | std::ios::trunc);
-    stream.write(reinterpret_cast<const char*>(data), static_cast<std::streamsize>(size));
-  }
+  pluvane_fuzz::WriteBytes(file, data, size);
   pluvane::ScriptedUi ui;
   std::vector<int> columns;
   const int highest = pluvane::ReadFldFile(ui, file, columns);

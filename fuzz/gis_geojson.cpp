@@ -2,7 +2,6 @@
 // as nodes then as circular collectors into a calibrated network in
 // Lambert-93. A refused import must leave the network as it was; every
 // collector made must carry the Ids of its end nodes.
-#include <unistd.h>
 
 #include <cstddef>
 #include <cstdint>
@@ -18,14 +17,11 @@
 #include "gis/gis_import.h"
 #include "network/georeferencing.h"
 #include "network/network_state.h"
+#include "fuzz_support.h"
 
 namespace {
 
-namespace fs = std::filesystem;
-
-void Check(bool condition) {
-  if (!condition) __builtin_trap();
-}
+using pluvane_fuzz::Check;
 
 class SilentConsole : public pluvane::Console {
  public:
@@ -39,37 +35,20 @@ class SilentConsole : public pluvane::Console {
   void Clear() override {}
 };
 
-void CheckLinks(pluvane::Surface& surface) {
-  for (int n : pluvane::FindObjectList(surface, "iName", "5")) {
-    surface.SetCurrentObject(n);
-    const std::string up = surface.ObjTag("sNodAm"), down = surface.ObjTag("sNodAv");
-    const int end0 = surface.LinkEndObject(0), end1 = surface.LinkEndObject(1);
-    Check(end0 != end1);
-    surface.SetCurrentObject(end0);
-    Check(surface.ObjTag("Id") == up);
-    surface.SetCurrentObject(end1);
-    Check(surface.ObjTag("Id") == down);
-  }
-}
-
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   static const std::string file = [] {
-    auto path = fs::temp_directory_path() / ("pluvane_fuzz_gis_" + std::to_string(::getpid()));
-    fs::create_directories(path);
+    const auto path = pluvane_fuzz::Folder("gis");
     return (path / "couche.geojson").string();
   }();
-  {
-    std::ofstream stream(file, std::ios::binary | std::ios::trunc);
-    stream.write(reinterpret_cast<const char*>(data), static_cast<std::streamsize>(size));
-  }
+  pluvane_fuzz::WriteBytes(file, data, size);
   pluvane::ScriptedUi ui;
   pluvane::NetworkState state;
   state.LogicWidth = 100000;
   state.LogicHeight = 100000;
   state.SymbolSize = 20;
-  state.SymbolDir = (fs::path(__FILE__).parent_path().parent_path() / "data" / "Symboles").string();
+  state.SymbolDir = pluvane_fuzz::SymbolFolder();
   state.CoordinateSystem = "EPSG:2154";
   pluvane::Calibration& c = state.calibration;
   c.logic_x = {0, 0, 0, 100000};
@@ -89,6 +68,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     Check(made >= -1);
     if (made < 0) Check(surface.ObjectCount(pluvane::kAllObjects) == before);
   }
-  CheckLinks(surface);
+  pluvane_fuzz::CheckLinkEnds(surface, "5");
   return 0;
 }

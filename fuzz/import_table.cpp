@@ -4,7 +4,6 @@
 // made, and its text twin is written as the MapInfo node import does. Every
 // node made must carry its Id and label, and every collector the Ids of its
 // end nodes.
-#include <unistd.h>
 
 #include <cstddef>
 #include <cstdint>
@@ -20,14 +19,11 @@
 #include "foundation/scripted_ui.h"
 #include "network/georeferencing.h"
 #include "network/network_state.h"
+#include "fuzz_support.h"
 
 namespace {
 
-namespace fs = std::filesystem;
-
-void Check(bool condition) {
-  if (!condition) __builtin_trap();
-}
+using pluvane_fuzz::Check;
 
 void CheckNetwork(pluvane::Surface& surface, int nodes) {
   const std::vector<int> made = pluvane::FindObjectList(surface, "iName", "99");
@@ -37,28 +33,13 @@ void CheckNetwork(pluvane::Surface& surface, int nodes) {
     Check(surface.ObjTag("Id").rfind("Nod_", 0) == 0);
     Check(!surface.ObjTag("libell").empty());
   }
-  for (const char* i_name : {"5", "6", "7"}) {
-    for (int n : pluvane::FindObjectList(surface, "iName", i_name)) {
-      surface.SetCurrentObject(n);
-      const std::string up = surface.ObjTag("sNodAm"), down = surface.ObjTag("sNodAv");
-      const int end0 = surface.LinkEndObject(0), end1 = surface.LinkEndObject(1);
-      Check(end0 != end1);
-      surface.SetCurrentObject(end0);
-      Check(surface.ObjTag("Id") == up);
-      surface.SetCurrentObject(end1);
-      Check(surface.ObjTag("Id") == down);
-    }
-  }
+  for (const char* i_name : {"5", "6", "7"}) pluvane_fuzz::CheckLinkEnds(surface, i_name);
 }
 
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  static const std::string folder = [] {
-    auto path = fs::temp_directory_path() / ("pluvane_fuzz_import_" + std::to_string(::getpid()));
-    fs::create_directories(path);
-    return path.string();
-  }();
+  static const std::string folder = pluvane_fuzz::Folder("import").string();
   constexpr std::size_t kColumns = 11;
   std::vector<int> columns;
   for (std::size_t i = 0; i < kColumns; ++i) columns.push_back(i < size ? data[i] % 14 : 0);
@@ -76,7 +57,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   state.LogicWidth = 100000;
   state.LogicHeight = 100000;
   state.SymbolSize = 20;
-  state.SymbolDir = (fs::path(__FILE__).parent_path().parent_path() / "data" / "Symboles").string();
+  state.SymbolDir = pluvane_fuzz::SymbolFolder();
   pluvane::DefaultCalibrationFromCorners(state.calibration, 100000, 100000);
   pluvane::Surface surface;
   pluvane::ImportTarget target{surface, state, ui};

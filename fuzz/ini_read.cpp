@@ -1,6 +1,5 @@
 // Fuzzes the settings reader and writer: the input becomes an .ini file in a
 // temporary folder, a few keys are read, one is written and read back.
-#include <unistd.h>
 
 #include <cstddef>
 #include <cstdint>
@@ -9,14 +8,13 @@
 #include <string>
 
 #include "foundation/ini_profile.h"
+#include "fuzz_support.h"
 
 namespace {
 
 const std::string& IniPath() {
   static const std::string path = [] {
-    auto dir =
-        std::filesystem::temp_directory_path() / ("pluvane_fuzz_ini_" + std::to_string(::getpid()));
-    std::filesystem::create_directories(dir);
+    const auto dir = pluvane_fuzz::Folder("ini");
     return (dir / "pluvane.ini").string();
   }();
   return path;

@@ -1,7 +1,6 @@
 // Fuzzes the plot script compiler: the input is a script, cut into pages and
 // compiled in a temporary folder, and the control file is then read back line
 // by line as the renderer does.
-#include <unistd.h>
 
 #include <cstddef>
 #include <cstdint>
@@ -16,16 +15,12 @@
 #include "plot/ctl_create.h"
 #include "plot/ctl_read.h"
 #include "plot/page_split.h"
+#include "fuzz_support.h"
 
 namespace {
 
 const std::filesystem::path& Folder() {
-  static const std::filesystem::path folder = [] {
-    auto path = std::filesystem::temp_directory_path() /
-                ("pluvane_fuzz_plot_" + std::to_string(::getpid()));
-    std::filesystem::create_directories(path);
-    return path;
-  }();
+  static const std::filesystem::path folder = pluvane_fuzz::Folder("plot");
   return folder;
 }
 

@@ -3,8 +3,6 @@
 // both keywords of the external rains, then the whole-copy fallback runs.
 #include "simulation/rain_block.h"
 
-#include <unistd.h>
-
 #include <cstddef>
 #include <cstdint>
 #include <filesystem>
@@ -13,14 +11,10 @@
 
 #include "foundation/scripted_ui.h"
 #include "foundation/text.h"
+#include "fuzz_support.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  static const std::filesystem::path folder = [] {
-    auto path = std::filesystem::temp_directory_path() /
-                ("pluvane_fuzz_rain_" + std::to_string(::getpid()));
-    std::filesystem::create_directories(path);
-    return path;
-  }();
+  static const std::filesystem::path folder = pluvane_fuzz::Folder("rain");
   const std::string file = (folder / "in.txt").string();
   const std::string out = (folder / "out.PLU").string();
   std::filesystem::remove(out);

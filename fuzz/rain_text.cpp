@@ -4,8 +4,6 @@
 // key, and a refused import adds nothing.
 #include "rain/rain_text.h"
 
-#include <unistd.h>
-
 #include <cstddef>
 #include <cstdint>
 #include <filesystem>
@@ -19,20 +17,13 @@
 #include "network/network_state.h"
 #include "rain/rain_import.h"
 #include "rain/rain_records.h"
+#include "fuzz_support.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   using namespace pluvane;
-  static const std::filesystem::path folder = [] {
-    auto path = std::filesystem::temp_directory_path() /
-                ("pluvane_fuzz_rain_text_" + std::to_string(::getpid()));
-    std::filesystem::create_directories(path);
-    return path;
-  }();
+  static const std::filesystem::path folder = pluvane_fuzz::Folder("rain_text");
   const std::string file = (folder / "in.plu").string();
-  {
-    std::ofstream stream(file, std::ios::binary);
-    stream.write(reinterpret_cast<const char*>(data), static_cast<std::streamsize>(size));
-  }
+  pluvane_fuzz::WriteBytes(file, data, size);
   std::vector<std::string> lines;
   ReadTextLines(file, lines);
   for (const char* key : {"PR", "CAQ", "PPST", "PPDT", "PPHY", "PRAD"}) {

@@ -2,7 +2,6 @@
 // (.sec) and as a curve (.crb) section file into an empty library. Whatever
 // they made must then export, and that export must import whole into another
 // empty library, section for section.
-#include <unistd.h>
 
 #include <cstddef>
 #include <cstdint>
@@ -18,6 +17,7 @@
 #include "foundation/numbers.h"
 #include "foundation/scripted_ui.h"
 #include "network/network_state.h"
+#include "fuzz_support.h"
 
 namespace {
 
@@ -65,12 +65,7 @@ void Import(const std::string& bytes, const std::string& extension, const std::s
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  static const std::string folder = [] {
-    auto path = std::filesystem::temp_directory_path() /
-                ("pluvane_fuzz_section_" + std::to_string(::getpid()));
-    std::filesystem::create_directories(path);
-    return path.string();
-  }();
+  static const std::string folder = pluvane_fuzz::Folder("section").string();
   const std::string bytes(reinterpret_cast<const char*>(data), size);
   Import(bytes, "sec", folder);
   Import(bytes, "crb", folder);

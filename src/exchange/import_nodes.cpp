@@ -47,21 +47,9 @@ void CalibrateOnExtent(ImportTarget& target, const ImportTable& table,
     any = true;
   }
   if (!any) return;
-  Calibration c = target.state.calibration;
-  const std::int32_t w = target.state.LogicWidth, h = target.state.LogicHeight;
-  const std::int32_t w3 = RoundLong(w / 3.0), h3 = RoundLong(h / 3.0);
-  const std::int32_t w23 = RoundLong(2.0 * w / 3.0), h23 = RoundLong(2.0 * h / 3.0);
-  const auto set = [&c](int i, std::int32_t lx, std::int32_t ly, double ux, double uy) {
-    c.logic_x[i] = lx;
-    c.logic_y[i] = ly;
-    c.user_x[i] = ux;
-    c.user_y[i] = uy;
-  };
-  set(1, w3, h3, x_min, y_max);
-  set(2, w3, h23, x_min, y_min);
-  set(3, w23, h23, x_max, y_min);
   // Data on one line or one point leave the map as it was.
-  if (SolveCalibration(c)) target.state.calibration = c;
+  CalibrateOnExtent(target.state.calibration, target.state.LogicWidth, target.state.LogicHeight,
+                    x_min, y_min, x_max, y_max);
 }
 
 }  // namespace

@@ -94,7 +94,7 @@ bool Uncalibrated(const Calibration& c) {
 
 // Maps the layer's extent to the middle third of the sheet, as the node import
 // of tables does. False when the extent is a point or a line.
-bool CalibrateOnExtent(NetworkState& state, const GisLayer& layer) {
+bool CalibrateOnLayer(NetworkState& state, const GisLayer& layer) {
   double x_min = std::numeric_limits<double>::max(), y_min = x_min;
   double x_max = std::numeric_limits<double>::lowest(), y_max = x_max;
   for (const GisFeature& feature : layer.features) {
@@ -105,26 +105,11 @@ bool CalibrateOnExtent(NetworkState& state, const GisLayer& layer) {
       y_max = std::max(y_max, y);
     }
   }
-  Calibration c = state.calibration;
-  const std::int32_t w = state.LogicWidth, h = state.LogicHeight;
-  const std::int32_t w3 = RoundLong(w / 3.0), h3 = RoundLong(h / 3.0);
-  const std::int32_t w23 = RoundLong(2.0 * w / 3.0), h23 = RoundLong(2.0 * h / 3.0);
   // The same scale on both axes: the larger extent fills its third.
   const double scale = std::max(x_max - x_min, y_max - y_min);
   if (!(scale > 0)) return false;
-  const double x_far = x_min + scale, y_low = y_max - scale;
-  const auto set = [&c](int i, std::int32_t lx, std::int32_t ly, double ux, double uy) {
-    c.logic_x[i] = lx;
-    c.logic_y[i] = ly;
-    c.user_x[i] = ux;
-    c.user_y[i] = uy;
-  };
-  set(1, w3, h3, x_min, y_max);
-  set(2, w3, h23, x_min, y_low);
-  set(3, w23, h23, x_far, y_low);
-  if (!SolveCalibration(c)) return false;
-  state.calibration = c;
-  return true;
+  return CalibrateOnExtent(state.calibration, state.LogicWidth, state.LogicHeight, x_min,
+                           y_max - scale, x_min + scale, y_max);
 }
 
 // The nodes by their map place, in square cells of the tolerance.
@@ -423,7 +408,7 @@ int ImportGisLayer(ImportTarget target, Console& console, const GisImportRequest
                      kGisImportTitle, MessageIcon::kQuestion, true)) {
       return -1;
     }
-    CalibrateOnExtent(state, layer);
+    CalibrateOnLayer(state, layer);
   }
   if (Trim(state.CoordinateSystem).empty()) state.CoordinateSystem = layer_crs;
 

@@ -84,6 +84,19 @@ void DefaultCalibrationFromThirds(Calibration& c, std::int32_t width, std::int32
   SolveCalibration(c);
 }
 
+bool CalibrateOnExtent(Calibration& c, std::int32_t width, std::int32_t height, double x_min,
+                       double y_min, double x_max, double y_max) {
+  const std::int32_t w3 = RoundLong(width / 3.0), h3 = RoundLong(height / 3.0);
+  const std::int32_t w23 = RoundLong(2.0 * width / 3.0), h23 = RoundLong(2.0 * height / 3.0);
+  Calibration solved = c;
+  SetPoint(solved, 1, w3, h3, x_min, y_max);
+  SetPoint(solved, 2, w3, h23, x_min, y_min);
+  SetPoint(solved, 3, w23, h23, x_max, y_min);
+  if (!SolveCalibration(solved)) return false;
+  c = solved;
+  return true;
+}
+
 void DefaultCalibrationFromCorners(Calibration& c, std::int32_t width, std::int32_t height) {
   SetPoint(c, 1, 0, 0, 0, height);
   SetPoint(c, 2, 0, height, 0, 0);

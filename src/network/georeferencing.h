@@ -25,6 +25,11 @@ std::int32_t UserToLogicY(const Calibration& c, double x_user, double y_user);
 // The map of a network without calibration records, from the thirds of the
 // logical extents (at the first load of the main window).
 void DefaultCalibrationFromThirds(Calibration& c, std::int32_t width, std::int32_t height);
+// Maps a map extent (its lower left and upper right corners) to the middle
+// third of the sheet. False, calibration untouched, when the extent is a
+// point or a line.
+bool CalibrateOnExtent(Calibration& c, std::int32_t width, std::int32_t height, double x_min,
+                       double y_min, double x_max, double y_max);
 // The same from the corners of the drawing: X = Xlog, Y = height - Ylog.
 void DefaultCalibrationFromCorners(Calibration& c, std::int32_t width, std::int32_t height);
 

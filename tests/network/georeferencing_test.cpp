@@ -107,5 +107,28 @@ TEST(Georeferencing, ShearedInverseDriftsAsItAlwaysDid) {
   EXPECT_GT(std::abs(UserToLogicX(c, X, Y) - 30000), 1000);
 }
 
+TEST(Georeferencing, AnExtentFillsTheMiddleThirdOfTheSheet) {
+  Calibration c;
+  ASSERT_TRUE(CalibrateOnExtent(c, 90000, 60000, 1000, 2000, 1600, 2300));
+  EXPECT_EQ(c.logic_x[1], 30000);
+  EXPECT_EQ(c.logic_y[1], 20000);
+  EXPECT_EQ(c.logic_x[3], 60000);
+  EXPECT_EQ(c.logic_y[3], 40000);
+  // The top left corner of the extent at the first third, the bottom right at the second.
+  EXPECT_NEAR(LogicToUserX(c, 30000, 20000), 1000, 1e-6);
+  EXPECT_NEAR(LogicToUserY(c, 30000, 20000), 2300, 1e-6);
+  EXPECT_NEAR(LogicToUserX(c, 60000, 40000), 1600, 1e-6);
+  EXPECT_NEAR(LogicToUserY(c, 60000, 40000), 2000, 1e-6);
+}
+
+TEST(Georeferencing, AnExtentOnOneLineLeavesTheCalibration) {
+  Calibration c;
+  c.XORI = 7;
+  c.logic_x[1] = 5;
+  EXPECT_FALSE(CalibrateOnExtent(c, 90000, 60000, 1000, 2000, 1600, 2000));
+  EXPECT_EQ(c.XORI, 7);
+  EXPECT_EQ(c.logic_x[1], 5);
+}
+
 }  // namespace
 }  // namespace pluvane
