@@ -10,6 +10,7 @@
 
 #include "bench/bench_clock.h"
 #include "bench/large_bench.h"
+#include "bench_sheet.h"
 #include "exchange/export_text.h"
 #include "foundation/text.h"
 #include "network/catalogue.h"
@@ -21,8 +22,7 @@ int main(int argc, char** argv) {
   pluvane::Surface& surface = bench.surface;
   pluvane::AppState& state = bench.state;
   const pluvane::LargeNetworkCounts& counts = bench.counts;
-  const std::filesystem::path folder = std::filesystem::path(PLUVANE_BENCH_OUT) / "bench_export";
-  std::filesystem::create_directories(folder);
+  const std::filesystem::path folder = BenchFolder("bench_export");
   state.NetworkFile = (folder / "Large.mtf").string();
   const std::string selection = (folder / "ExportApp_Sel.tmp").string();
   pluvane::WriteTextLines(selection, {"CI : collecteur circulaire", "PF : collecteur fermé",

@@ -11,6 +11,7 @@
 #include <string>
 
 #include "bench/scale_network.h"
+#include "bench_clock.h"
 #include "drawing/surface.h"
 #include "shell/cli.h"
 
@@ -18,11 +19,6 @@ namespace {
 
 namespace fs = std::filesystem;
 using pluvane::Surface;
-
-double Milliseconds(std::chrono::steady_clock::time_point since) {
-  return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - since)
-      .count();
-}
 
 }  // namespace
 

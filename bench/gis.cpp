@@ -9,6 +9,7 @@
 #include <string>
 
 #include "bench/bench_clock.h"
+#include "bench_sheet.h"
 #include "foundation/console.h"
 #include "foundation/numbers.h"
 #include "foundation/scripted_ui.h"
@@ -49,8 +50,7 @@ int main(int argc, char** argv) {
   }
   std::printf("network: %d nodes, %d collectors, %d others\n", counts.nodes, counts.collectors,
               counts.others);
-  const std::filesystem::path folder = std::filesystem::path(PLUVANE_BENCH_OUT) / "bench_gis";
-  std::filesystem::create_directories(folder);
+  const std::filesystem::path folder = BenchFolder("bench_gis");
   const std::string file = (folder / "Large.gpkg").string();
   state.CoordinateSystem = "EPSG:2154";
 

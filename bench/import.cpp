@@ -7,6 +7,7 @@
 #include <string>
 
 #include "bench_clock.h"
+#include "bench_sheet.h"
 #include "drawing/surface.h"
 #include "exchange/fld_file.h"
 #include "exchange/kalder_import.h"
@@ -19,17 +20,10 @@ int main() {
   using namespace pluvane;
   constexpr int kNodes = 5000;
   constexpr int kPerKind = 2000;
-  const std::filesystem::path folder = std::filesystem::path(PLUVANE_BENCH_OUT) / "bench_import";
-  std::filesystem::create_directories(folder);
+  const std::filesystem::path folder = BenchFolder("bench_import");
   Surface surface;
   AppState state;
-  state.AppPath = folder.string();
-  state.WorkDir = folder.string();
-  state.SymbolDir = std::string(PLUVANE_SOURCE_DATA) + "/Symboles";
-  state.LogicWidth = 100000;
-  state.LogicHeight = 100000;
-  state.SymbolSize = 120;
-  surface.SetScale(0, 0, state.LogicWidth, state.LogicHeight, 16384);
+  PrepareSheet(surface, state, folder, 100000);
   // Map units of two logical units: a calibrated network, no pass of its own.
   Calibration& c = state.calibration;
   c.logic_x = {0, 0, 0, 100000};

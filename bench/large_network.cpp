@@ -7,21 +7,13 @@
 #include <filesystem>
 #include <string>
 
+#include "bench_clock.h"
 #include "foundation/numbers.h"
 #include "foundation/scripted_ui.h"
 #include "network/network_summary.h"
 #include "network/persistence.h"
 #include "shell/app_state.h"
 #include "tools/network_builder.h"
-
-namespace {
-
-double Milliseconds(std::chrono::steady_clock::time_point since) {
-  return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - since)
-      .count();
-}
-
-}  // namespace
 
 int main(int argc, char** argv) {
   const int nodes = argc > 1 ? pluvane::ValLong(argv[1]) : 2000;

@@ -9,6 +9,7 @@
 #include <string>
 
 #include "bench_clock.h"
+#include "bench_sheet.h"
 #include "drawing/surface.h"
 #include "foundation/scripted_ui.h"
 
@@ -47,8 +48,7 @@ int main() {
     surface.SetObjTag("IdColl" + std::to_string(i), (i % 2 ? "Caf_" : "Cac_") + std::to_string(i));
     surface.SetObjTag("InameColl" + std::to_string(i), 5 + i % 2);
   }
-  const std::filesystem::path folder = std::filesystem::path(PLUVANE_BENCH_OUT) / "bench_profile";
-  std::filesystem::create_directories(folder);
+  const std::filesystem::path folder = BenchFolder("bench_profile");
   pluvane::ScriptedUi ui;
   double best = 1e9, first = 0;
   for (int run = 0; run < 5; ++run) {

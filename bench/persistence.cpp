@@ -6,6 +6,8 @@
 #include <filesystem>
 #include <string>
 
+#include "bench_clock.h"
+#include "bench_sheet.h"
 #include "drawing/surface.h"
 #include "foundation/numbers.h"
 #include "foundation/scripted_ui.h"
@@ -20,22 +22,11 @@ namespace {
 
 using namespace pluvane;
 
-double Milliseconds(std::chrono::steady_clock::time_point since) {
-  return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - since)
-      .count();
-}
-
 struct Bench {
   explicit Bench(const std::filesystem::path& folder) {
-    state.AppPath = folder.string();
-    state.WorkDir = folder.string();
-    state.LogicWidth = 1000000;
-    state.LogicHeight = 1000000;
-    state.SymbolSize = 120;
+    PrepareSheet(surface, state, folder, 1000000);
     state.LinkThick = 50;
-    surface.SetScale(0, 0, state.LogicWidth, state.LogicHeight, 16384);
     recent.SetIniFile((folder / "pluvane.ini").string());
-    DefaultCalibrationFromCorners(state.calibration, state.LogicWidth, state.LogicHeight);
   }
   NetworkSession Session() { return {surface, state, ui, recent}; }
 

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "bench_clock.h"
+#include "bench_sheet.h"
 #include "drawing/surface.h"
 #include "foundation/fixed_width.h"
 #include "foundation/scripted_ui.h"
@@ -25,17 +26,10 @@ int main() {
   using namespace pluvane;
   constexpr int kGauges = 50;
   constexpr int kRecords = 20000;
-  const std::filesystem::path folder = std::filesystem::path(PLUVANE_BENCH_OUT) / "bench_rain";
-  std::filesystem::create_directories(folder);
+  const std::filesystem::path folder = BenchFolder("bench_rain");
   Surface surface;
   AppState state;
-  state.AppPath = folder.string();
-  state.WorkDir = folder.string();
-  state.LogicWidth = 100000;
-  state.LogicHeight = 100000;
-  state.SymbolSize = 120;
-  surface.SetScale(0, 0, state.LogicWidth, state.LogicHeight, 16384);
-  DefaultCalibrationFromCorners(state.calibration, 100000, 100000);
+  PrepareSheet(surface, state, folder, 100000);
   ScriptedUi ui;
 
   std::vector<std::string> lines = {"PR     'Orage'", PadLong(kGauges, 5) + PadInt(0, 5)};

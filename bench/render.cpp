@@ -10,16 +10,13 @@
 #include <cmath>
 #include <cstdlib>
 
+#include "bench_clock.h"
 #include "drawing/surface.h"
 #include "ui/surface_painter.h"
 
 namespace {
 
 using Clock = std::chrono::steady_clock;
-
-double Milliseconds(Clock::time_point since) {
-  return std::chrono::duration<double, std::milli>(Clock::now() - since).count();
-}
 
 }  // namespace
 

@@ -14,12 +14,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-struct SplitRun {
-  int status = -1;
-  std::string out;
-  std::string err;
-};
-
 // A network of two nodes and a section OV150 of its own, with a tag the
 // example's section lacks.
 const char* const kDestination =
@@ -44,24 +38,18 @@ class CopyRecordsCli : public ::testing::Test {
     EXPECT_EQ(ReadBytes(programs_.Work("Exemples/Demo.mtf")), demo_before_);
   }
 
-  SplitRun Cli(const std::string& arguments) {
-    const ProgramRun run =
-        programs_.Start("pluvane-cli", arguments + " 2>'" + programs_.Work("err.txt") + "' #");
-    return {run.status, run.output, ReadBytes(programs_.Work("err.txt"))};
-  }
-
   ProgramFolder programs_;
   std::string ini_before_;
   std::string demo_before_;
 };
 
 TEST_F(CopyRecordsCli, SectionsOverwriteTheSectionOfTheSameId) {
-  const SplitRun run = Cli("copy-records Exemples/Demo.mtf aval/Aval.mtf --kind 101");
+  const SplitRun run = programs_.Cli("copy-records Exemples/Demo.mtf aval/Aval.mtf --kind 101");
   EXPECT_EQ(run.status, 0) << run.err;
   EXPECT_EQ(run.out,
             "ok 2 obj de type 101 ont été exportés dans " + programs_.Work("aval/Aval.mtf") + "\n");
   EXPECT_EQ(run.err, "");
-  const SplitRun info = Cli("info aval/Aval.mtf");
+  const SplitRun info = programs_.Cli("info aval/Aval.mtf");
   EXPECT_NE(info.out.find("101\t2\t"), std::string::npos) << info.out;
   const std::string written = ReadBytes(programs_.Work("aval/Aval.mtf"));
   // OV150 took the example's tags and kept the one of its own.
@@ -73,7 +61,7 @@ TEST_F(CopyRecordsCli, SectionsOverwriteTheSectionOfTheSameId) {
 }
 
 TEST_F(CopyRecordsCli, AMissingDestinationIsRefusedWithTheFormsMessage) {
-  const SplitRun run = Cli("copy-records Exemples/Demo.mtf aval/Absent.mtf --kind 102");
+  const SplitRun run = programs_.Cli("copy-records Exemples/Demo.mtf aval/Absent.mtf --kind 102");
   EXPECT_EQ(run.status, 1);
   EXPECT_EQ(run.out, "");
   EXPECT_EQ(run.err, "Fichier Mtf introuvable: Un fichier Mtf doit être spécifié !\n");
@@ -81,7 +69,7 @@ TEST_F(CopyRecordsCli, AMissingDestinationIsRefusedWithTheFormsMessage) {
 }
 
 TEST_F(CopyRecordsCli, AKindWithNoRecordIsRefusedAndNothingIsWritten) {
-  const SplitRun run = Cli("copy-records Exemples/Demo.mtf aval/Aval.mtf --kind 109");
+  const SplitRun run = programs_.Cli("copy-records Exemples/Demo.mtf aval/Aval.mtf --kind 109");
   EXPECT_EQ(run.status, 1);
   EXPECT_EQ(run.err, "pluvane-cli: aucun objet de type 109 à copier\n");
   EXPECT_EQ(ReadBytes(programs_.Work("aval/Aval.mtf")), kDestination);
@@ -89,7 +77,7 @@ TEST_F(CopyRecordsCli, AKindWithNoRecordIsRefusedAndNothingIsWritten) {
 
 TEST_F(CopyRecordsCli, AnUnreadableDestinationIsReportedAndKept) {
   WriteBytes(programs_.Work("aval/Abime.mtf"), "abîmé");
-  const SplitRun run = Cli("copy-records Exemples/Demo.mtf aval/Abime.mtf --kind 102");
+  const SplitRun run = programs_.Cli("copy-records Exemples/Demo.mtf aval/Abime.mtf --kind 102");
   EXPECT_EQ(run.status, 1);
   EXPECT_EQ(run.err,
             "Pluvane (erreur n°321, L0): Format de fichier non valide\rfrmExportObjAlpha\n");
@@ -97,10 +85,11 @@ TEST_F(CopyRecordsCli, AnUnreadableDestinationIsReportedAndKept) {
 }
 
 TEST_F(CopyRecordsCli, BadUsageIsStatusTwo) {
-  EXPECT_EQ(Cli("copy-records Exemples/Demo.mtf aval/Aval.mtf").status, 2);
-  EXPECT_EQ(Cli("copy-records Exemples/Demo.mtf aval/Aval.mtf --kind sections").status, 2);
-  EXPECT_EQ(Cli("copy-records Exemples/Demo.mtf --kind 101").status, 2);
-  EXPECT_EQ(Cli("copy-records a.mtf b.mtf c.mtf --kind 101").status, 2);
+  EXPECT_EQ(programs_.Cli("copy-records Exemples/Demo.mtf aval/Aval.mtf").status, 2);
+  EXPECT_EQ(programs_.Cli("copy-records Exemples/Demo.mtf aval/Aval.mtf --kind sections").status,
+            2);
+  EXPECT_EQ(programs_.Cli("copy-records Exemples/Demo.mtf --kind 101").status, 2);
+  EXPECT_EQ(programs_.Cli("copy-records a.mtf b.mtf c.mtf --kind 101").status, 2);
   EXPECT_EQ(ReadBytes(programs_.Work("aval/Aval.mtf")), kDestination);
 }
 

@@ -18,12 +18,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-struct SplitRun {
-  int status = -1;
-  std::string out;
-  std::string err;
-};
-
 std::string Expected(const std::string& name) {
   return ReadBytes(std::string(PLUVANE_TESTS) + "/exchange/data/" + name);
 }
@@ -36,16 +30,6 @@ class ExportCli : public ::testing::Test {
     BuildExportNetwork(surface);
     EXPECT_TRUE(surface.SaveFile(programs_.Work("reseaux/Reseau.mtf"), kNativeFormat));
     before_ = Files(programs_.Work("reseaux"));
-  }
-
-  SplitRun Cli(const std::string& arguments) {
-    const ProgramRun run =
-        programs_.Start("pluvane-cli", arguments + " 2>'" + programs_.Work("err.txt") + "' #");
-    SplitRun split;
-    split.status = run.status;
-    split.out = run.output;
-    split.err = ReadBytes(programs_.Work("err.txt"));
-    return split;
   }
 
   static std::vector<std::string> Files(const std::string& folder) {
@@ -69,12 +53,13 @@ class ExportCli : public ::testing::Test {
 };
 
 TEST_F(ExportCli, NodesGoBesideTheNetworkByDefault) {
-  const SplitRun run = Cli("export nodes reseaux/Reseau.mtf");
+  const SplitRun run = programs_.Cli("export nodes reseaux/Reseau.mtf");
   EXPECT_EQ(run.status, 0) << run.err;
   EXPECT_EQ(run.out, "");
   const std::string file = programs_.Work("reseaux/Reseau_Nod.txt");
   EXPECT_NE(run.err.find("Export de noeuds en fichier: ok, 4 noeuds ont été regénérés dans le "
-                         "fichier \r" + file + "\n"),
+                         "fichier \r" +
+                         file + "\n"),
             std::string::npos)
       << run.err;
   EXPECT_EQ(ReadBytes(file), Expected("Reseau_Nod.txt"));
@@ -82,7 +67,7 @@ TEST_F(ExportCli, NodesGoBesideTheNetworkByDefault) {
 }
 
 TEST_F(ExportCli, SingularitiesIntoAFolderWithTheReportOnTheOutput) {
-  const SplitRun run = Cli("export app reseaux/Reseau.mtf --dir sortie");
+  const SplitRun run = programs_.Cli("export app reseaux/Reseau.mtf --dir sortie");
   EXPECT_EQ(run.status, 0) << run.err;
   EXPECT_EQ(run.out,
             "<<< Export des singularités hydrauliques du reseau = Reseau >>>\n\n"
@@ -103,7 +88,7 @@ TEST_F(ExportCli, SingularitiesIntoAFolderWithTheReportOnTheOutput) {
 }
 
 TEST_F(ExportCli, CollectorsOfTheTypesListedInTheOrderOfTheOffer) {
-  const SplitRun run = Cli("export links reseaux/Reseau.mtf --types po,CI --dir sortie");
+  const SplitRun run = programs_.Cli("export links reseaux/Reseau.mtf --types po,CI --dir sortie");
   EXPECT_EQ(run.status, 0) << run.err;
   EXPECT_EQ(run.out,
             "<<< Export des canalisations du reseau = Reseau >>>\n\n"
@@ -119,7 +104,7 @@ TEST_F(ExportCli, CollectorsOfTheTypesListedInTheOrderOfTheOffer) {
 }
 
 TEST_F(ExportCli, EveryCollectorTypeByDefault) {
-  const SplitRun run = Cli("export links reseaux/Reseau.mtf");
+  const SplitRun run = programs_.Cli("export links reseaux/Reseau.mtf");
   EXPECT_EQ(run.status, 0) << run.err;
   EXPECT_EQ(ReadBytes(programs_.Work("reseaux/Reseau_PF.txt")), Expected("Reseau_PF.txt"));
   ExpectNetworkFolder({"Reseau_CI.txt", "Reseau_PF.txt", "Reseau_PO.txt"});
@@ -131,10 +116,11 @@ TEST_F(ExportCli, TheFolderGivenIsNoQuestion) {
        {std::string("export nodes reseaux/Reseau.mtf"),
         std::string("export app reseaux/Reseau.mtf --dir sortie"),
         std::string("export links reseaux/Reseau.mtf --dir sortie")}) {
-    const SplitRun run = Cli(arguments);
+    const SplitRun run = programs_.Cli(arguments);
     EXPECT_EQ(run.status, 0) << run.err;
     EXPECT_EQ(run.err.find("Sélection du répertoire de destination"), std::string::npos)
-        << arguments << "\n" << run.err;
+        << arguments << "\n"
+        << run.err;
   }
 }
 
@@ -142,7 +128,7 @@ TEST_F(ExportCli, ANetworkWithNothingToOfferIsRefused) {
   WriteBytes(programs_.Work("vide.mtf"),
              "{\"format\":\"pluvane-network\",\"version\":1,"
              "\"page\":{\"logicWidth\":100000,\"logicHeight\":100000},\"objects\":[]}");
-  const SplitRun run = Cli("export app vide.mtf");
+  const SplitRun run = programs_.Cli("export app vide.mtf");
   EXPECT_EQ(run.status, 1);
   EXPECT_EQ(run.out, "");
   EXPECT_NE(run.err.find("choix d'élément à exporter: aucune ligne n'a été cochée !!!\n"),
@@ -153,19 +139,19 @@ TEST_F(ExportCli, ANetworkWithNothingToOfferIsRefused) {
 }
 
 TEST_F(ExportCli, BadUsage) {
-  EXPECT_EQ(Cli("export").status, 2);
-  EXPECT_EQ(Cli("export tout reseaux/Reseau.mtf").status, 2);
-  EXPECT_EQ(Cli("export nodes").status, 2);
-  EXPECT_EQ(Cli("export nodes reseaux/Reseau.mtf --types CI").status, 2);
-  EXPECT_EQ(Cli("export app reseaux/Reseau.mtf --types CI").status, 2);
-  EXPECT_EQ(Cli("export links reseaux/Reseau.mtf --types").status, 2);
-  EXPECT_EQ(Cli("export links reseaux/Reseau.mtf --types CI,,PF").status, 2);
-  EXPECT_EQ(Cli("export links reseaux/Reseau.mtf autre.mtf").status, 2);
+  EXPECT_EQ(programs_.Cli("export").status, 2);
+  EXPECT_EQ(programs_.Cli("export tout reseaux/Reseau.mtf").status, 2);
+  EXPECT_EQ(programs_.Cli("export nodes").status, 2);
+  EXPECT_EQ(programs_.Cli("export nodes reseaux/Reseau.mtf --types CI").status, 2);
+  EXPECT_EQ(programs_.Cli("export app reseaux/Reseau.mtf --types CI").status, 2);
+  EXPECT_EQ(programs_.Cli("export links reseaux/Reseau.mtf --types").status, 2);
+  EXPECT_EQ(programs_.Cli("export links reseaux/Reseau.mtf --types CI,,PF").status, 2);
+  EXPECT_EQ(programs_.Cli("export links reseaux/Reseau.mtf autre.mtf").status, 2);
   ExpectNetworkFolder({});
 }
 
 TEST_F(ExportCli, AMissingNetworkIsRefused) {
-  EXPECT_EQ(Cli("export nodes absent.mtf").status, 1);
+  EXPECT_EQ(programs_.Cli("export nodes absent.mtf").status, 1);
 }
 
 }  // namespace

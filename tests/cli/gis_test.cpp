@@ -20,12 +20,6 @@ namespace {
 namespace fs = std::filesystem;
 using Json = nlohmann::ordered_json;
 
-struct SplitRun {
-  int status = -1;
-  std::string out;
-  std::string err;
-};
-
 std::string TagOf(const Json& object, const std::string& name) {
   for (const Json& tag : object["tags"]) {
     if (tag[0] == name) return tag[1].get<std::string>();
@@ -79,15 +73,9 @@ class GisCli : public ::testing::Test {
     WriteBytes(programs_.Work(name), out.dump());
   }
 
-  SplitRun Cli(const std::string& arguments) {
-    const ProgramRun run =
-        programs_.Start("pluvane-cli", arguments + " 2>'" + programs_.Work("err.txt") + "' #");
-    return {run.status, run.output, ReadBytes(programs_.Work("err.txt"))};
-  }
-
   // The model's files of a network, but its message log, by name.
   std::map<std::string, std::string> Model(const std::string& network) {
-    const SplitRun run = Cli("generate " + network);
+    const SplitRun run = programs_.Cli("generate " + network);
     EXPECT_EQ(run.status, 0) << run.err;
     std::map<std::string, std::string> files;
     std::string folder = run.out;
@@ -110,24 +98,25 @@ TEST_F(GisCli, TheExampleComesBackWithTheSameModelThroughEachFormat) {
     const std::string folder = "rt_" + format;
     fs::create_directories(programs_.Work(folder));
     fs::copy_file(programs_.Work("vide.mtf"), programs_.Work(folder + "/reseau.mtf"));
-    SplitRun run = Cli("gis-export demo.mtf -o " + folder + "/couches." + format);
+    SplitRun run = programs_.Cli("gis-export demo.mtf -o " + folder + "/couches." + format);
     ASSERT_EQ(run.status, 0) << run.err;
-    EXPECT_EQ(run.out, "87 objets écrits dans " + programs_.Work(folder + "/couches." + format) + "\n");
+    EXPECT_EQ(run.out,
+              "87 objets écrits dans " + programs_.Work(folder + "/couches." + format) + "\n");
     const auto source = [&](const std::string& layer) {
       if (format == "gpkg") return folder + "/couches.gpkg";
       if (format == "shp") return folder + "/couches";
       return folder + "/couches_" + layer + ".geojson";
     };
-    run = Cli("gis-import " + folder + "/reseau.mtf " + source("noeuds") +
-              " --layer noeuds --as nodes -o " + folder + "/reseau.mtf");
+    run = programs_.Cli("gis-import " + folder + "/reseau.mtf " + source("noeuds") +
+                        " --layer noeuds --as nodes -o " + folder + "/reseau.mtf");
     ASSERT_EQ(run.status, 0) << run.err;
     EXPECT_EQ(run.out, "30\n");
     EXPECT_EQ(run.err, "");
     const std::map<std::string, std::string> counts = {{"ci", "23"}, {"pf", "4"}, {"po", "4"}};
     for (const auto& [kind, count] : counts) {
-      run = Cli("gis-import " + folder + "/reseau.mtf " + source("collecteurs_" + kind) +
-                " --layer collecteurs_" + kind + " --as " + kind + " --tolerance 0.01 -o " +
-                folder + "/reseau.mtf");
+      run = programs_.Cli("gis-import " + folder + "/reseau.mtf " + source("collecteurs_" + kind) +
+                          " --layer collecteurs_" + kind + " --as " + kind +
+                          " --tolerance 0.01 -o " + folder + "/reseau.mtf");
       ASSERT_EQ(run.status, 0) << run.err;
       EXPECT_EQ(run.out, count + "\n");
     }
@@ -144,23 +133,25 @@ TEST_F(GisCli, OgrinfoReadsTheGeoPackage) {
   if (std::system("command -v ogrinfo >/dev/null 2>&1") != 0) {
     GTEST_SKIP() << "ogrinfo (gdal-bin) is not installed";
   }
-  ASSERT_EQ(Cli("gis-export demo.mtf -o couches.gpkg").status, 0);
+  ASSERT_EQ(programs_.Cli("gis-export demo.mtf -o couches.gpkg").status, 0);
   const ProgramRun info =
       RunCommandLine("ogrinfo -ro -so -al '" + programs_.Work("couches.gpkg") + "' 2>&1");
   ASSERT_EQ(info.status, 0) << info.output;
-  const std::map<std::string, std::string> layers = {
-      {"noeuds", "Point"}, {"bassins_versants", "Point"}, {"collecteurs_ci", "Line String"},
-      {"collecteurs_pf", "Line String"}, {"collecteurs_po", "Line String"},
-      {"elements_singuliers", "Point"}};
-  const std::map<std::string, int> features = {{"noeuds", 30}, {"bassins_versants", 10},
+  const std::map<std::string, std::string> layers = {{"noeuds", "Point"},
+                                                     {"bassins_versants", "Point"},
+                                                     {"collecteurs_ci", "Line String"},
+                                                     {"collecteurs_pf", "Line String"},
+                                                     {"collecteurs_po", "Line String"},
+                                                     {"elements_singuliers", "Point"}};
+  const std::map<std::string, int> features = {{"noeuds", 30},         {"bassins_versants", 10},
                                                {"collecteurs_ci", 23}, {"collecteurs_pf", 4},
-                                               {"collecteurs_po", 4}, {"elements_singuliers", 16}};
+                                               {"collecteurs_po", 4},  {"elements_singuliers", 16}};
   for (const auto& [layer, geometry] : layers) {
     const std::size_t at = info.output.find("Layer name: " + layer + "\n");
     ASSERT_NE(at, std::string::npos) << layer;
     const std::size_t next = info.output.find("Layer name: ", at + 1);
-    const std::string block = info.output.substr(at, next == std::string::npos ? std::string::npos
-                                                                               : next - at);
+    const std::string block =
+        info.output.substr(at, next == std::string::npos ? std::string::npos : next - at);
     EXPECT_NE(block.find("Geometry: " + geometry + "\n"), std::string::npos) << layer;
     EXPECT_NE(block.find("Feature Count: " + std::to_string(features.at(layer)) + "\n"),
               std::string::npos)
@@ -184,13 +175,13 @@ TEST_F(GisCli, TheCollectorsCarryTheCapacityFiguresOfTheScenario) {
   fs::create_directories(programs_.Work("Decennale"));
   WriteBytes(programs_.Work("Decennale/Decennale_demo.Sor"),
              "  Mode de calcul : Diagnostic\r\n\"Cac_1     0.0 0.5 10 1.0 0.4 9 0\r\n");
-  ASSERT_EQ(Cli("gis-export demo.mtf --scenario Decennale -o couches.gpkg").status, 0);
+  ASSERT_EQ(programs_.Cli("gis-export demo.mtf --scenario Decennale -o couches.gpkg").status, 0);
   const ProgramRun info = RunCommandLine("ogrinfo -ro -q '" + programs_.Work("couches.gpkg") +
                                          "' collecteurs_ci -where \"libell='Cac_1'\" 2>&1");
   ASSERT_EQ(info.status, 0) << info.output;
   EXPECT_NE(info.output.find("Taux (Real) = 50\n"), std::string::npos) << info.output;
   // Without results, no figures.
-  ASSERT_EQ(Cli("gis-export demo.mtf --scenario Autre -o sans.gpkg").status, 0);
+  ASSERT_EQ(programs_.Cli("gis-export demo.mtf --scenario Autre -o sans.gpkg").status, 0);
   const ProgramRun none = RunCommandLine("ogrinfo -ro -q '" + programs_.Work("sans.gpkg") +
                                          "' collecteurs_ci -where \"libell='Cac_1'\" 2>&1");
   EXPECT_EQ(none.output.find("Taux"), std::string::npos) << none.output;
@@ -207,30 +198,35 @@ TEST_F(GisCli, DoubtfulElementsArePrintedOneALine) {
              "{\"type\":\"Feature\",\"properties\":{\"Id\":\"Nod_3\"},\"geometry\":{\"type\":"
              "\"Point\",\"coordinates\":[651000,6861000]}}]}");
   const SplitRun run =
-      Cli("gis-import vide.mtf points.geojson --layer points --as nodes -o r.mtf");
+      programs_.Cli("gis-import vide.mtf points.geojson --layer points --as nodes -o r.mtf");
   EXPECT_EQ(run.status, 0) << run.err;
   EXPECT_EQ(run.out, "Nod_2 : à moins de 0.5 m de Nod_1\n3\n");
   EXPECT_TRUE(fs::exists(programs_.Work("r.mtf")));
 }
 
 TEST_F(GisCli, RefusalsAndBadUsage) {
-  SplitRun run = Cli("gis-export demo.mtf -o couches.kml");
+  SplitRun run = programs_.Cli("gis-export demo.mtf -o couches.kml");
   EXPECT_EQ(run.status, 2);
-  EXPECT_EQ(Cli("gis-export demo.mtf").status, 2);
-  ASSERT_EQ(Cli("gis-export demo.mtf -o couches.gpkg").status, 0);
-  EXPECT_EQ(Cli("gis-import vide.mtf couches.gpkg --as nodes -o r.mtf").status, 2);
-  EXPECT_EQ(Cli("gis-import vide.mtf couches.gpkg --layer noeuds --as bv -o r.mtf").status, 2);
+  EXPECT_EQ(programs_.Cli("gis-export demo.mtf").status, 2);
+  ASSERT_EQ(programs_.Cli("gis-export demo.mtf -o couches.gpkg").status, 0);
+  EXPECT_EQ(programs_.Cli("gis-import vide.mtf couches.gpkg --as nodes -o r.mtf").status, 2);
   EXPECT_EQ(
-      Cli("gis-import vide.mtf couches.gpkg --layer noeuds --as nodes --fields Zus -o r.mtf").status,
+      programs_.Cli("gis-import vide.mtf couches.gpkg --layer noeuds --as bv -o r.mtf").status, 2);
+  EXPECT_EQ(
+      programs_
+          .Cli("gis-import vide.mtf couches.gpkg --layer noeuds --as nodes --fields Zus -o r.mtf")
+          .status,
       2);
-  EXPECT_EQ(Cli("gis-import vide.mtf couches.gpkg --layer noeuds --as nodes --tolerance x -o r.mtf")
-                .status,
-            2);
-  run = Cli("gis-import vide.mtf couches.gpkg --layer puits --as nodes -o r.mtf");
+  EXPECT_EQ(
+      programs_
+          .Cli("gis-import vide.mtf couches.gpkg --layer noeuds --as nodes --tolerance x -o r.mtf")
+          .status,
+      2);
+  run = programs_.Cli("gis-import vide.mtf couches.gpkg --layer puits --as nodes -o r.mtf");
   EXPECT_EQ(run.status, 1);
   EXPECT_EQ(run.err, "Import SIG: La couche puits est absente du fichier " +
                          programs_.Work("couches.gpkg") + ".\n");
-  run = Cli("gis-import vide.mtf couches.gpkg --layer noeuds --as ci -o r.mtf");
+  run = programs_.Cli("gis-import vide.mtf couches.gpkg --layer noeuds --as ci -o r.mtf");
   EXPECT_EQ(run.status, 1);
   EXPECT_EQ(run.err, "Import SIG: La couche noeuds du fichier " + programs_.Work("couches.gpkg") +
                          " n'est pas une couche de lignes.\n");

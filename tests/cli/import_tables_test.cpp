@@ -13,12 +13,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-struct SplitRun {
-  int status = -1;
-  std::string out;
-  std::string err;
-};
-
 class ImportCli : public ::testing::Test {
  protected:
   ImportCli() {
@@ -41,12 +35,6 @@ class ImportCli : public ::testing::Test {
   void Write(const std::string& name, const std::string& text) {
     WriteBytes(programs_.Work(name), text);
   }
-  SplitRun Cli(const std::string& arguments) {
-    const ProgramRun run =
-        programs_.Start("pluvane-cli", arguments + " 2>'" + programs_.Work("err.txt") + "' #");
-    return {run.status, run.output, ReadBytes(programs_.Work("err.txt"))};
-  }
-
   ProgramFolder programs_;
 };
 
@@ -57,33 +45,33 @@ const char* const kQuestion =
     "    seront relatives.\n\n";
 
 TEST_F(ImportCli, ANetworkFromTextTables) {
-  SplitRun run = Cli("import nodes vide.mtf tables/noeuds.txt -o r1.mtf");
+  SplitRun run = programs_.Cli("import nodes vide.mtf tables/noeuds.txt -o r1.mtf");
   EXPECT_EQ(run.status, 0) << run.err;
   EXPECT_EQ(run.out, "ok 3 NOD ont été importés.\n");
   EXPECT_EQ(run.err, kQuestion);
-  run = Cli("import bv r1.mtf tables/bv.txt -o r2.mtf");
+  run = programs_.Cli("import bv r1.mtf tables/bv.txt -o r2.mtf");
   EXPECT_EQ(run.status, 0) << run.err;
   EXPECT_EQ(run.out, "ok 1 BV ont été importés.\n");
   EXPECT_EQ(run.err, "");
   for (const char* kind : {"ci", "pf", "po"}) {
-    run = Cli(std::string("import ") + kind +
-              " r2.mtf tables/coll.txt --fields colonnes.Fld -o r2.mtf");
+    run = programs_.Cli(std::string("import ") + kind +
+                        " r2.mtf tables/coll.txt --fields colonnes.Fld -o r2.mtf");
     EXPECT_EQ(run.status, 0) << run.err;
   }
   EXPECT_EQ(run.out, "ok 1 PO ont été importés.\n");
-  const std::string info = "\n" + Cli("info r2.mtf").out;
+  const std::string info = "\n" + programs_.Cli("info r2.mtf").out;
   for (const char* line : {"1\t1\t", "5\t1\t", "6\t1\t", "7\t1\t", "99\t3\t"}) {
     EXPECT_NE(info.find(std::string("\n") + line), std::string::npos) << line << "\n" << info;
   }
   // The network imported into is left as it was.
-  EXPECT_EQ(Cli("info vide.mtf").out.find("99\t"), std::string::npos);
+  EXPECT_EQ(programs_.Cli("info vide.mtf").out.find("99\t"), std::string::npos);
 }
 
 TEST_F(ImportCli, ANodeTableOfMapInfo) {
   Write("tables/points.MIF", "Version 300\r\n");
   Write("tables/points.mid", "\"Regard, 1\",1000,5000,12\r\n\"R2\",2000,5000,11\r\n");
   const SplitRun run =
-      Cli("import nodes vide.mtf tables/points.MIF --fields tables/noeuds.Fld -o m.mtf");
+      programs_.Cli("import nodes vide.mtf tables/points.MIF --fields tables/noeuds.Fld -o m.mtf");
   EXPECT_EQ(run.status, 0) << run.err;
   EXPECT_EQ(run.out, "ok 2 NOD ont été importés.\n");
   EXPECT_EQ(ReadBytes(programs_.Work("tables/points.Txt")),
@@ -92,32 +80,33 @@ TEST_F(ImportCli, ANodeTableOfMapInfo) {
 }
 
 TEST_F(ImportCli, RefusalsWriteNoNetwork) {
-  SplitRun run = Cli("import bv vide.mtf tables/bv.txt -o x.mtf");
+  SplitRun run = programs_.Cli("import bv vide.mtf tables/bv.txt -o x.mtf");
   EXPECT_EQ(run.status, 1);
   EXPECT_EQ(run.err,
             "Import de BV: La présence de noeuds est obligatoire.\nVous devez d'abord importer les "
             "noeuds.\nIl s'agit des noeuds du même réseau que les BV\n");
-  run = Cli("import ci vide.mtf tables/coll.txt -o x.mtf");
+  run = programs_.Cli("import ci vide.mtf tables/coll.txt -o x.mtf");
   EXPECT_EQ(run.status, 1);
   EXPECT_NE(run.err.find("Import de canalisations: La présence de noeuds est obligatoire."),
             std::string::npos);
-  run = Cli("import nodes vide.mtf tables/absent.txt -o x.mtf");
+  run = programs_.Cli("import nodes vide.mtf tables/absent.txt -o x.mtf");
   EXPECT_EQ(run.status, 1);
   EXPECT_EQ(run.err,
             "pluvane-cli: Fichier " + programs_.Work("tables/absent.txt") + " introuvable.\n");
   Write("tables/seul.txt", "A 1 2\r\n");
-  run = Cli("import nodes vide.mtf tables/seul.txt -o x.mtf");
+  run = programs_.Cli("import nodes vide.mtf tables/seul.txt -o x.mtf");
   EXPECT_EQ(run.status, 1);
   EXPECT_EQ(run.err, "pluvane-cli: Fichier des colonnes " + programs_.Work("tables/seul.Fld") +
                          " introuvable.\n");
   Write("tables/seul.Mif", "Version 300\r\n");
-  run = Cli("import bv Exemples/Demo.mtf tables/seul.Mif --fields tables/bv.Fld -o x.mtf");
+  run =
+      programs_.Cli("import bv Exemples/Demo.mtf tables/seul.Mif --fields tables/bv.Fld -o x.mtf");
   EXPECT_EQ(run.status, 1);
   EXPECT_EQ(run.err, "pluvane-cli: Fichier " + programs_.Work("tables/seul.Mid") +
                          " introuvable : la table MapInfo (.Mid) doit se trouver à côté du "
                          "fichier .Mif.\n");
   Write("tables/gros.Fld", " 1 \r\n 5000 \r\n");
-  run = Cli("import nodes vide.mtf tables/noeuds.txt --fields tables/gros.Fld -o x.mtf");
+  run = programs_.Cli("import nodes vide.mtf tables/noeuds.txt --fields tables/gros.Fld -o x.mtf");
   EXPECT_EQ(run.status, 1);
   EXPECT_NE(
       run.err.find("Import: Numéro de colonne 5000 trop grand (au plus 999) dans le fichier " +
@@ -128,10 +117,11 @@ TEST_F(ImportCli, RefusalsWriteNoNetwork) {
 }
 
 TEST_F(ImportCli, BadUsage) {
-  EXPECT_EQ(Cli("import noeuds vide.mtf tables/noeuds.txt -o x.mtf").status, 2);
-  EXPECT_EQ(Cli("import nodes vide.mtf tables/noeuds.txt").status, 2);
-  EXPECT_EQ(Cli("import nodes vide.mtf -o x.mtf").status, 2);
-  EXPECT_EQ(Cli("import nodes vide.mtf tables/noeuds.txt --colonnes a -o x.mtf").status, 2);
+  EXPECT_EQ(programs_.Cli("import noeuds vide.mtf tables/noeuds.txt -o x.mtf").status, 2);
+  EXPECT_EQ(programs_.Cli("import nodes vide.mtf tables/noeuds.txt").status, 2);
+  EXPECT_EQ(programs_.Cli("import nodes vide.mtf -o x.mtf").status, 2);
+  EXPECT_EQ(programs_.Cli("import nodes vide.mtf tables/noeuds.txt --colonnes a -o x.mtf").status,
+            2);
   EXPECT_FALSE(fs::exists(programs_.Work("x.mtf")));
 }
 

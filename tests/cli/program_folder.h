@@ -32,6 +32,13 @@ inline ProgramRun RunCommandLine(const std::string& command) {
   return run;
 }
 
+// A run with standard output and standard error apart.
+struct SplitRun {
+  int status = -1;
+  std::string out;
+  std::string err;
+};
+
 class ProgramFolder {
  public:
   ProgramFolder() {
@@ -44,7 +51,8 @@ class ProgramFolder {
       fs::copy_file(fs::path(PLUVANE_BIN) / program, fs::path(app_.Path()) / program);
     }
     fs::create_directories(work_.File("Exemples"));
-    fs::copy_file(fs::path(PLUVANE_DATA) / "Exemples" / "Demo.mtf", work_.File("Exemples/Demo.mtf"));
+    fs::copy_file(fs::path(PLUVANE_DATA) / "Exemples" / "Demo.mtf",
+                  work_.File("Exemples/Demo.mtf"));
   }
 
   // A stand-in engine program beside the programs.
@@ -58,10 +66,15 @@ class ProgramFolder {
   // display and a home of its own.
   ProgramRun Start(const std::string& program, const std::string& arguments,
                    const std::string& environment = "") const {
-    return RunCommandLine("cd '" + work_.Path() +
-                          "' && env -u DISPLAY -u WAYLAND_DISPLAY -u XDG_CONFIG_HOME HOME='" +
-                          home_.Path() + "' " + environment + " '" + app_.File(program) + "' " +
-                          arguments + " 2>&1");
+    return RunCommandLine(
+        "cd '" + work_.Path() + "' && env -u DISPLAY -u WAYLAND_DISPLAY -u XDG_CONFIG_HOME HOME='" +
+        home_.Path() + "' " + environment + " '" + app_.File(program) + "' " + arguments + " 2>&1");
+  }
+
+  // Starts pluvane-cli from the work folder with `arguments`.
+  SplitRun Cli(const std::string& arguments) const {
+    const ProgramRun run = Start("pluvane-cli", arguments + " 2>'" + Work("err.txt") + "' #");
+    return {run.status, run.output, ReadBytes(Work("err.txt"))};
   }
 
   std::string App(const std::string& name) const { return app_.File(name); }

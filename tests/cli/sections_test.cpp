@@ -15,12 +15,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-struct SplitRun {
-  int status = -1;
-  std::string out;
-  std::string err;
-};
-
 class SectionsCli : public ::testing::Test {
  protected:
   SectionsCli() {
@@ -33,16 +27,6 @@ class SectionsCli : public ::testing::Test {
   ~SectionsCli() override { EXPECT_EQ(ReadBytes(programs_.App("pluvane.ini")), ini_before_); }
 
   // Runs pluvane-cli from the work folder, its two streams apart.
-  SplitRun Cli(const std::string& arguments) {
-    const ProgramRun run =
-        programs_.Start("pluvane-cli", arguments + " 2>'" + programs_.Work("err.txt") + "' #");
-    SplitRun split;
-    split.status = run.status;
-    split.out = run.output;
-    split.err = ReadBytes(programs_.Work("err.txt"));
-    return split;
-  }
-
   ProgramFolder programs_;
   std::string ini_before_;
 };
@@ -56,7 +40,7 @@ const char* const kDemoSections =
     "1 2 3 4\r\n";
 
 TEST_F(SectionsCli, ExportWritesTheLibrary) {
-  const SplitRun run = Cli("export-sections Exemples/Demo.mtf -o sections.sec");
+  const SplitRun run = programs_.Cli("export-sections Exemples/Demo.mtf -o sections.sec");
   EXPECT_EQ(run.status, 0) << run.err;
   EXPECT_EQ(run.out, programs_.Work("sections.sec") + "\n");
   EXPECT_EQ(run.err, "Export des sections: ok 2 sections ont été exportées.\n");
@@ -64,25 +48,25 @@ TEST_F(SectionsCli, ExportWritesTheLibrary) {
 }
 
 TEST_F(SectionsCli, AnExportImportedIntoAnEmptyNetworkGivesTheSameSections) {
-  ASSERT_EQ(Cli("export-sections Exemples/Demo.mtf -o sections.sec").status, 0);
-  const SplitRun run = Cli("import-sections vide.mtf sections.sec -o copie.mtf");
+  ASSERT_EQ(programs_.Cli("export-sections Exemples/Demo.mtf -o sections.sec").status, 0);
+  const SplitRun run = programs_.Cli("import-sections vide.mtf sections.sec -o copie.mtf");
   EXPECT_EQ(run.status, 0) << run.err;
   EXPECT_EQ(run.out, "OV150\t: importé\nFOSSE\t: importé\n\nok 2 sections ont été importées.\n");
   EXPECT_EQ(run.err, "");
   // No report is left beside the file.
   EXPECT_FALSE(fs::exists(programs_.Work("sections.msg")));
   // The network written holds them, and gives the same file again.
-  EXPECT_NE(Cli("info copie.mtf").out.find("101\t2\t"), std::string::npos);
-  ASSERT_EQ(Cli("export-sections copie.mtf -o encore.sec").status, 0);
+  EXPECT_NE(programs_.Cli("info copie.mtf").out.find("101\t2\t"), std::string::npos);
+  ASSERT_EQ(programs_.Cli("export-sections copie.mtf -o encore.sec").status, 0);
   EXPECT_EQ(ReadBytes(programs_.Work("encore.sec")), kDemoSections);
   // The network imported into is left as it was.
-  EXPECT_EQ(Cli("export-sections vide.mtf -o rien.sec").err,
+  EXPECT_EQ(programs_.Cli("export-sections vide.mtf -o rien.sec").err,
             "Export des sections: ok 0 section a été exportée.\n");
 }
 
 TEST_F(SectionsCli, NamesAlreadyInTheLibraryAreReported) {
   WriteBytes(programs_.Work("lot.sec"), kDemoSections + std::string("'Nouvelle'\n0 1\n2 2\n"));
-  const SplitRun run = Cli("import-sections Exemples/Demo.mtf lot.sec -o demo2.mtf");
+  const SplitRun run = programs_.Cli("import-sections Exemples/Demo.mtf lot.sec -o demo2.mtf");
   EXPECT_EQ(run.status, 0) << run.err;
   EXPECT_EQ(run.out,
             "OV150\t: existe déjà dans la BD section\n"
@@ -90,67 +74,67 @@ TEST_F(SectionsCli, NamesAlreadyInTheLibraryAreReported) {
             "Nouvelle\t: importé\n"
             "\n"
             "ok 3 sections ont été importées.\n");
-  EXPECT_NE(Cli("info demo2.mtf").out.find("101\t3\t"), std::string::npos);
+  EXPECT_NE(programs_.Cli("info demo2.mtf").out.find("101\t3\t"), std::string::npos);
 }
 
 TEST_F(SectionsCli, ACurveFileIsReadByItsExtension) {
   WriteBytes(programs_.Work("section.crb"),
              "'Dalot'\r\n     0.000     2.000\r\n     1.000     2.000\r\n");
-  const SplitRun run = Cli("import-sections vide.mtf section.crb -o dalot.mtf");
+  const SplitRun run = programs_.Cli("import-sections vide.mtf section.crb -o dalot.mtf");
   EXPECT_EQ(run.status, 0) << run.err;
   EXPECT_EQ(run.out, "Dalot\t: importé\n\nok 1 section a été importée.\n");
-  ASSERT_EQ(Cli("export-sections dalot.mtf -o dalot.sec").status, 0);
+  ASSERT_EQ(programs_.Cli("export-sections dalot.mtf -o dalot.sec").status, 0);
   EXPECT_EQ(ReadBytes(programs_.Work("dalot.sec")), "'Dalot'\r\n0 1\r\n2 2\r\n");
 }
 
 TEST_F(SectionsCli, HeightsThatDoNotRiseStopTheImport) {
   WriteBytes(programs_.Work("faux.sec"),
              "'Bon'\n0 1\n1 1\n'Plat'\n0 1 1\n1 1 1\n'Apres'\n0 1\n1 1\n");
-  const SplitRun run = Cli("import-sections vide.mtf faux.sec -o faux.mtf");
+  const SplitRun run = programs_.Cli("import-sections vide.mtf faux.sec -o faux.mtf");
   EXPECT_EQ(run.status, 1);
   EXPECT_EQ(run.out,
             "Bon\t: importé\n\nLes hauteurs de la section Plat doivent être croissante.\n"
             "Revoir la section Plat (3e point)\n");
   // The sections made before the fault are kept, as in the program.
-  ASSERT_EQ(Cli("export-sections faux.mtf -o faux2.sec").status, 0);
+  ASSERT_EQ(programs_.Cli("export-sections faux.mtf -o faux2.sec").status, 0);
   EXPECT_EQ(ReadBytes(programs_.Work("faux2.sec")), "'Bon'\r\n0 1\r\n1 1\r\n");
 }
 
 TEST_F(SectionsCli, MalformedFilesNeverBreakTheProgram) {
   WriteBytes(programs_.Work("lettres.sec"), "'A'\nx y z\n\n'B\n");
-  SplitRun run = Cli("import-sections vide.mtf lettres.sec -o a.mtf");
+  SplitRun run = programs_.Cli("import-sections vide.mtf lettres.sec -o a.mtf");
   EXPECT_EQ(run.status, 1);
   EXPECT_EQ(run.out.substr(run.out.rfind("Revoir")), "Revoir la section A (0e point)\n");
   WriteBytes(programs_.Work("nom.sec"), "pas de nom\n1 2 3\n");
-  run = Cli("import-sections vide.mtf nom.sec -o b.mtf");
+  run = programs_.Cli("import-sections vide.mtf nom.sec -o b.mtf");
   EXPECT_EQ(run.status, 0);
   EXPECT_EQ(run.out, "\nok 0 section a été importée.\n");
 }
 
 TEST_F(SectionsCli, Refusals) {
-  SplitRun run = Cli("import-sections vide.mtf absent.sec -o x.mtf");
+  SplitRun run = programs_.Cli("import-sections vide.mtf absent.sec -o x.mtf");
   EXPECT_EQ(run.status, 1);
   EXPECT_EQ(run.err, "pluvane-cli: Fichier " + programs_.Work("absent.sec") + " introuvable!\n");
   EXPECT_FALSE(fs::exists(programs_.Work("x.mtf")));
-  EXPECT_EQ(Cli("import-sections absent.mtf absent.sec -o x.mtf").status, 1);
-  EXPECT_EQ(Cli("export-sections absent.mtf -o x.sec").status, 1);
-  run = Cli("export-sections vide.mtf -o dossier/absent/x.sec");
+  EXPECT_EQ(programs_.Cli("import-sections absent.mtf absent.sec -o x.mtf").status, 1);
+  EXPECT_EQ(programs_.Cli("export-sections absent.mtf -o x.sec").status, 1);
+  run = programs_.Cli("export-sections vide.mtf -o dossier/absent/x.sec");
   EXPECT_EQ(run.status, 1);
   EXPECT_EQ(run.err, "Export des sections: Impossible d'écrire le fichier " +
                          programs_.Work("dossier/absent/x.sec") + "\n");
   // Bad usage.
-  run = Cli("import-sections vide.mtf lot.sec");
+  run = programs_.Cli("import-sections vide.mtf lot.sec");
   EXPECT_EQ(run.status, 2);
   EXPECT_NE(run.err.find("import-sections NETWORK.mtf FILE.sec|FILE.crb -o OUT.mtf"),
             std::string::npos);
-  EXPECT_EQ(Cli("import-sections vide.mtf -o x.mtf").status, 2);
-  EXPECT_EQ(Cli("export-sections vide.mtf").status, 2);
-  EXPECT_EQ(Cli("export-sections vide.mtf -o").status, 2);
-  EXPECT_EQ(Cli("export-sections a.mtf b.mtf -o x.sec").status, 2);
+  EXPECT_EQ(programs_.Cli("import-sections vide.mtf -o x.mtf").status, 2);
+  EXPECT_EQ(programs_.Cli("export-sections vide.mtf").status, 2);
+  EXPECT_EQ(programs_.Cli("export-sections vide.mtf -o").status, 2);
+  EXPECT_EQ(programs_.Cli("export-sections a.mtf b.mtf -o x.sec").status, 2);
 }
 
 TEST_F(SectionsCli, TheHelpNamesBoth) {
-  const SplitRun run = Cli("--help");
+  const SplitRun run = programs_.Cli("--help");
   EXPECT_EQ(run.status, 0);
   EXPECT_NE(run.out.find("  export-sections NETWORK.mtf -o FILE.sec\n"), std::string::npos);
   EXPECT_NE(run.out.find("  import-sections NETWORK.mtf FILE.sec|FILE.crb -o OUT.mtf\n"),

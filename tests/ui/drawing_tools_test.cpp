@@ -8,8 +8,8 @@
 #include <QColorDialog>
 #include <QInputDialog>
 #include <QMenu>
-#include <QPushButton>
 #include <QMouseEvent>
+#include <QPushButton>
 #include <QTest>
 #include <QTimer>
 #include <cmath>
@@ -20,8 +20,8 @@
 #include "drawing/surface_helpers.h"
 #include "foundation/numbers.h"
 #include "foundation/test_files.h"
-#include "ui/main_window.h"
 #include "ui/grid_table_view.h"
+#include "ui/main_window.h"
 #include "ui/main_window_fixture.h"
 #include "ui/test_app.h"
 
@@ -48,19 +48,8 @@ void AnswerNextColour(const QColor& colour) {
   });
 }
 
-class DrawingTools : public ::testing::Test {
+class DrawingTools : public MainWindowTest {
  protected:
-  void SetUp() override {
-    TestApp();
-    window_ = std::make_unique<MainWindow>();
-    window_->resize(1280, 800);
-    ASSERT_TRUE(Open(*window_, app_, "", true));
-    QApplication::processEvents();
-  }
-  void TearDown() override { Quit(*window_); }
-
-  Surface& surface() { return window_->surface(); }
-  SurfaceView* view() { return window_->view(); }
   QWidget* viewport() { return view()->viewport(); }
 
   // The client pixel at the fractions (fx, fy) of the drawing's area.
@@ -103,17 +92,16 @@ class DrawingTools : public ::testing::Test {
     return Box{std::min(a.x, b.x), std::min(a.y, b.y), std::max(a.x, b.x), std::max(a.y, b.y)};
   }
   QString Status() { return window_->panels().Status()->text(); }
-
-  AppFolder app_;
-  std::unique_ptr<MainWindow> window_;
 };
 
 TEST_F(DrawingTools, EachDraggedShapeIsPlacedWhereDraggedAndUndone) {
-  const std::vector<std::pair<const char*, int>> tools = {
-      {"MnuPlaceRectangle", kKindRectangle}, {"MnuPlaceEllipse", kKindEllipse},
-      {"MnuPlaceLine", kKindLine},           {"MnuPlaceArc", kKindArc},
-      {"MnuPlacePie", kKindPie},             {"MnuPlaceChord", kKindChord},
-      {"MnuPlaceCotation", kKindDimension}};
+  const std::vector<std::pair<const char*, int>> tools = {{"MnuPlaceRectangle", kKindRectangle},
+                                                          {"MnuPlaceEllipse", kKindEllipse},
+                                                          {"MnuPlaceLine", kKindLine},
+                                                          {"MnuPlaceArc", kKindArc},
+                                                          {"MnuPlacePie", kKindPie},
+                                                          {"MnuPlaceChord", kKindChord},
+                                                          {"MnuPlaceCotation", kKindDimension}};
   const int before = Count();
   for (const auto& [menu, kind] : tools) {
     window_->RunMenu(menu);
@@ -134,8 +122,8 @@ TEST_F(DrawingTools, EachDraggedShapeIsPlacedWhereDraggedAndUndone) {
     if (kind == kKindLine || kind == kKindDimension) {
       EXPECT_EQ(shape.points, (std::vector<Point>{LogicOf(a), LogicOf(b)})) << menu;
     } else if (kind != kKindRectangle && kind != kKindEllipse) {
-      EXPECT_EQ(shape.points, (std::vector<Point>{LogicOf(a), Point{LogicOf(b).x, LogicOf(a).y},
-                                                  LogicOf(b)}))
+      EXPECT_EQ(shape.points,
+                (std::vector<Point>{LogicOf(a), Point{LogicOf(b).x, LogicOf(a).y}, LogicOf(b)}))
           << menu;
     }
     Key(Qt::Key_Z, Qt::ControlModifier);
@@ -277,7 +265,7 @@ TEST_F(DrawingTools, TheSettingsToolOpensTheNetworksSettingsAndOkWritesThem) {
   const auto duration = [this] {
     CursorKeeper keep(surface());
     return FindObject(surface(), "Id", "ParamReseau") > 0 ? surface().ObjTag("CalcDuree")
-                                                           : std::string("?");
+                                                          : std::string("?");
   };
   const std::string before = duration();
   ASSERT_NE(before, "240");

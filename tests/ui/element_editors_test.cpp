@@ -20,18 +20,10 @@
 namespace pluvane {
 namespace {
 
-class ElementEditors : public ::testing::Test {
+class ElementEditors : public MainWindowTest {
  protected:
-  void SetUp() override {
-    TestApp();
-    window_ = std::make_unique<MainWindow>();
-    window_->resize(1280, 800);
-    ASSERT_TRUE(Open(*window_, app_, app_.Demo(), true));
-    QApplication::processEvents();
-  }
-  void TearDown() override { Quit(*window_); }
+  std::string StartNetwork() const override { return app_.Demo(); }
 
-  Surface& surface() { return window_->surface(); }
   int Element(const std::string& id) { return FindObject(surface(), "Id", id); }
   std::string Tag(const std::string& id, const char* name) {
     CursorKeeper keep(surface());
@@ -63,9 +55,6 @@ class ElementEditors : public ::testing::Test {
     EditOnTheDrawing(id);
     return caption;
   }
-
-  AppFolder app_;
-  std::unique_ptr<MainWindow> window_;
 };
 
 TEST_F(ElementEditors, ACircularCollectorTypedValidatedAndUndone) {
@@ -114,10 +103,11 @@ TEST_F(ElementEditors, TheGeneralEditorTakesABlockPastedFromASpreadsheet) {
   std::vector<QString> tabs;
   OnNextForm([&](FormWindow* form) {
     ASSERT_NE(form->Tabs(), nullptr);
-    for (int tab = 0; tab < form->Tabs()->count(); ++tab) tabs.push_back(form->Tabs()->tabText(tab));
+    for (int tab = 0; tab < form->Tabs()->count(); ++tab)
+      tabs.push_back(form->Tabs()->tabText(tab));
     // The sheet of the circular collectors, its first height chosen.
-    const int cac = static_cast<int>(std::find(tabs.begin(), tabs.end(), "Collecteurs circulaires") -
-                                     tabs.begin());
+    const int cac = static_cast<int>(
+        std::find(tabs.begin(), tabs.end(), "Collecteurs circulaires") - tabs.begin());
     QTest::mouseClick(form->Tabs(), Qt::LeftButton, Qt::NoModifier,
                       form->Tabs()->tabRect(cac).center());
     GridTableView* table = form->Table(cac);

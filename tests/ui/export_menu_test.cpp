@@ -19,21 +19,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// Answers the next file or folder dialog with `path` as soon as it shows.
-void AnswerNextFileDialog(const std::string& path, QString& title) {
-  QTimer::singleShot(0, [path, &title] {
-    auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-    if (!dialog) return AnswerNextFileDialog(path, title);
-    title = dialog->windowTitle();
-    if (dialog->fileMode() == QFileDialog::Directory) {
-      dialog->setDirectory(QString::fromStdString(path));
-    } else {
-      dialog->selectFile(QString::fromStdString(path));
-    }
-    static_cast<QDialog*>(dialog)->accept();
-  });
-}
-
 TEST(ExportMenu, TheDrawingIsWrittenInTheFormatOfItsExtension) {
   AppFolder app;
   MainWindow window;
@@ -106,8 +91,8 @@ TEST(ExportMenu, CollectorsChosenInTheChooserAndReportedInTheConsole) {
   EXPECT_EQ(log->windowTitle(), "Export de canalisation");
   ASSERT_GE(log->List()->count(), 3);
   EXPECT_EQ(log->List()->item(0)->text(), "<<< Export des canalisations du reseau = Demo >>>");
-  EXPECT_TRUE(log->List()->item(2)->text().endsWith(
-      QString::fromStdString("\tont été regénérés dans le fichier " + app.File("sortie/Demo_CI.txt"))));
+  EXPECT_TRUE(log->List()->item(2)->text().endsWith(QString::fromStdString(
+      "\tont été regénérés dans le fichier " + app.File("sortie/Demo_CI.txt"))));
   EXPECT_TRUE(fs::exists(app.File("sortie/Demo_CI.txt")));
   // The report is gone once shown, and so are the chooser's files.
   EXPECT_FALSE(fs::exists(app.File("reseau/ExportApp.msg")));

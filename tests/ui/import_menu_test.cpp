@@ -20,16 +20,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-void AnswerNextFileDialog(const std::string& path, QString& title) {
-  QTimer::singleShot(0, [path, &title] {
-    auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-    if (!dialog) return AnswerNextFileDialog(path, title);
-    title = dialog->windowTitle();
-    dialog->selectFile(QString::fromStdString(path));
-    static_cast<QDialog*>(dialog)->accept();
-  });
-}
-
 void AnswerNextInput(const QString& answer, QString& title, QString& label) {
   QTimer::singleShot(5, [answer, &title, &label] {
     auto* box = qobject_cast<QInputDialog*>(QApplication::activeModalWidget());

@@ -6,12 +6,14 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QFileDialog>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
 #include <filesystem>
 #include <functional>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -67,6 +69,22 @@ inline void AnswerNextMessage(SeenMessage& seen, const QString& button = {}) {
       if (b->text() == button) return b->click();
     }
     box->accept();
+  });
+}
+
+// Answers the next file or folder dialog with `path` as soon as it shows, and
+// keeps its title.
+inline void AnswerNextFileDialog(const std::string& path, QString& title) {
+  QTimer::singleShot(0, [path, &title] {
+    auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+    if (!dialog) return AnswerNextFileDialog(path, title);
+    title = dialog->windowTitle();
+    if (dialog->fileMode() == QFileDialog::Directory) {
+      dialog->setDirectory(QString::fromStdString(path));
+    } else {
+      dialog->selectFile(QString::fromStdString(path));
+    }
+    static_cast<QDialog*>(dialog)->accept();
   });
 }
 
@@ -162,5 +180,30 @@ inline void Quit(MainWindow& window) {
   }
   window.close();
 }
+
+// A main window of 1280 by 800 pixels on a copy of the programs' folder,
+// shown and opened on StartNetwork() (none unless a test says), and quit at
+// the end.
+class MainWindowTest : public ::testing::Test {
+ protected:
+  void SetUp() override { Reopen(StartNetwork()); }
+  void TearDown() override { Quit(*window_); }
+  virtual std::string StartNetwork() const { return ""; }
+
+  // A new window in place of the one standing, opened on `network`.
+  void Reopen(const std::string& network) {
+    if (window_) window_->close();
+    window_ = std::make_unique<MainWindow>();
+    window_->resize(1280, 800);
+    ASSERT_TRUE(Open(*window_, app_, network, true));
+    QApplication::processEvents();
+  }
+
+  Surface& surface() { return window_->surface(); }
+  SurfaceView* view() { return window_->view(); }
+
+  AppFolder app_;
+  std::unique_ptr<MainWindow> window_;
+};
 
 }  // namespace pluvane

@@ -11,11 +11,11 @@
 #include <cmath>
 #include <memory>
 
+#include "drawing/surface_guards.h"
+#include "drawing/surface_helpers.h"
 #include "foundation/numbers.h"
 #include "network/catalogue.h"
 #include "network/georeferencing.h"
-#include "drawing/surface_guards.h"
-#include "drawing/surface_helpers.h"
 #include "network/topology.h"
 #include "ui/main_window.h"
 #include "ui/main_window_fixture.h"
@@ -24,20 +24,8 @@
 namespace pluvane {
 namespace {
 
-class MainWindowModes : public ::testing::Test {
+class MainWindowModes : public MainWindowTest {
  protected:
-  void SetUp() override {
-    TestApp();
-    window_ = std::make_unique<MainWindow>();
-    window_->resize(1280, 800);
-    ASSERT_TRUE(Open(*window_, app_, "", true));
-    QApplication::processEvents();
-  }
-  void TearDown() override { Quit(*window_); }
-
-  Surface& surface() { return window_->surface(); }
-  SurfaceView* view() { return window_->view(); }
-
   // A logical point at the fractions (fx, fy) of the visible area.
   std::pair<double, double> Logic(double fx, double fy) {
     return {surface().ViewLeft() + fx * surface().ViewWidth(),
@@ -112,9 +100,6 @@ class MainWindowModes : public ::testing::Test {
     Key(Qt::Key_Escape);
   }
   QString Status() { return window_->panels().Status()->text(); }
-
-  AppFolder app_;
-  std::unique_ptr<MainWindow> window_;
 };
 
 TEST_F(MainWindowModes, NodesArePlacedWhereTheUserClicks) {
@@ -396,11 +381,7 @@ TEST_F(MainWindowModes, TheArmedToolStandsPressed) {
 }
 
 TEST_F(MainWindowModes, PictureOfTheExampleNetwork) {
-  window_->close();
-  window_ = std::make_unique<MainWindow>();
-  window_->resize(1280, 800);
-  ASSERT_TRUE(Open(*window_, app_, app_.Demo(), true));
-  QApplication::processEvents();
+  Reopen(app_.Demo());
   // The view the example was saved with, as `make run` shows it; the pointer
   // over the node "Église": its map coordinates stand in the status bar.
   const int church = FindObject(surface(), "libell", "Église");
@@ -427,11 +408,7 @@ TEST_F(MainWindowModes, PictureOfTheExampleNetwork) {
 }
 
 TEST_F(MainWindowModes, PictureOfALinkBeingPlaced) {
-  window_->close();
-  window_ = std::make_unique<MainWindow>();
-  window_->resize(1280, 800);
-  ASSERT_TRUE(Open(*window_, app_, app_.Demo(), true));
-  QApplication::processEvents();
+  Reopen(app_.Demo());
   Key(Qt::Key_F4);  // the whole network in view
   // Two new nodes in a free part of the plan, a collector between them, and
   // the next one going from the second toward the pointer.

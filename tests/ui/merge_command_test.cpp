@@ -15,17 +15,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// Answers the next file dialog with `path` as soon as it shows.
-void AnswerNextFileDialog(const std::string& path, QString& title) {
-  QTimer::singleShot(0, [path, &title] {
-    auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-    if (!dialog) return AnswerNextFileDialog(path, title);
-    title = dialog->windowTitle();
-    dialog->selectFile(QString::fromStdString(path));
-    static_cast<QDialog*>(dialog)->accept();
-  });
-}
-
 TEST(MergeCommand, TheChosenNetworkComesBesideTheOpenOne) {
   TestApp();
   AppFolder app;
@@ -58,7 +47,8 @@ TEST(MergeCommand, WithoutAnOpenNetworkItIsRefused) {
   SeenMessage seen;
   AnswerNextMessage(seen);
   window.RunMenu("MnuFi_Import_Mtf");
-  EXPECT_EQ(seen.text, "\rUn réseau d'accueil type Pluvane doit être chargé !\r(Cf. Fichier/Ouvrir...)");
+  EXPECT_EQ(seen.text,
+            "\rUn réseau d'accueil type Pluvane doit être chargé !\r(Cf. Fichier/Ouvrir...)");
   EXPECT_EQ(seen.title, "Import de fichier mtf");
   EXPECT_EQ(seen.icon, QMessageBox::Warning);
   Quit(window);

@@ -19,17 +19,6 @@
 namespace pluvane {
 namespace {
 
-// Answers the next file dialog with `path` as soon as it shows.
-void AnswerNextFileDialog(const std::string& path, QString& title) {
-  QTimer::singleShot(0, [path, &title] {
-    auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-    if (!dialog) return AnswerNextFileDialog(path, title);
-    title = dialog->windowTitle();
-    dialog->selectFile(QString::fromStdString(path));
-    static_cast<QDialog*>(dialog)->accept();
-  });
-}
-
 // Answers Yes to the next question box (the file dialog's "replace it?").
 void ReplaceOnNextQuestion(std::size_t& asked) {
   QTimer::singleShot(5, [&asked] {
