@@ -3,9 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
-#include <QHeaderView>
-#include <QImage>
-#include <QScrollBar>
 #include <filesystem>
 #include <memory>
 
@@ -22,6 +19,7 @@
 #include "simulation/frm_pluie_liste.h"
 #include "simulation/frm_scn_pluie.h"
 #include "simulation/frm_scn_sim_param_select.h"
+#include "ui/form_pictures_fixture.h"
 #include "ui/form_window.h"
 #include "ui/main_window.h"
 #include "ui/main_window_fixture.h"
@@ -30,46 +28,14 @@
 namespace pluvane {
 namespace {
 
-class FormPictures : public ::testing::Test {
+// The whole grid of a form without tabs shows: nothing to scroll sideways
+// (sheets under tabs, as wide as their kind has fields, may scroll on a
+// small screen).
+class FormPictures : public FormPicturesTest {
  protected:
-  void SetUp() override { ASSERT_TRUE(Open(window_, app_, app_.Demo(), true)); }
-  void TearDown() override { Quit(window_); }
-
-  // Shows the form, checks that its heads can be read and its grids fit, and
-  // keeps its picture.
   void Picture(FormController& form, const std::string& name) {
-    FormWindow window(form, &window_);
-    window.show();
-    QApplication::processEvents();
-    for (int t = 0; t < static_cast<int>(form.Grids().size()); ++t) {
-      QTableView* table = window.Table(t);
-      QFont bold = table->horizontalHeader()->font();
-      bold.setBold(true);
-      const QFontMetrics metrics(bold);
-      for (int c = 0; c < table->model()->columnCount(); ++c) {
-        if (table->isColumnHidden(c)) continue;
-        const QString head = table->model()->headerData(c, Qt::Horizontal).toString();
-        EXPECT_GE(2 * table->columnWidth(c), metrics.horizontalAdvance(head))
-            << name << ": " << head.toStdString();
-      }
-      // The whole grid shows: nothing to scroll sideways (sheets under tabs,
-      // as wide as their kind has fields, may scroll on a small screen).
-      if (form.TabCount() == 0) {
-        EXPECT_EQ(table->horizontalScrollBar()->maximum(), 0) << name;
-      }
-    }
-    EXPECT_EQ(window.windowTitle().toStdString(), form.Caption());
-    std::filesystem::create_directories(SnapshotPath("forms"));
-    EXPECT_TRUE(window.grab().toImage().save(
-        QString::fromStdString(SnapshotPath("forms/" + name + ".png"))));
+    FormPicturesTest::Picture(form, name, true);
   }
-
-  Surface& surface() { return window_.surface(); }
-  AppState& state() { return window_.application().state(); }
-
-  AppFolder app_;
-  MainWindow window_;
-  ScriptedUi ui_;
 };
 
 TEST_F(FormPictures, Preferences) {

@@ -3,8 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
-#include <QHeaderView>
-#include <QImage>
 #include <filesystem>
 
 #include "drawing/surface_helpers.h"
@@ -22,6 +20,7 @@
 #include "rain/frm_storm_plus.h"
 #include "rain/rain_records.h"
 #include "rain/storm_libraries.h"
+#include "ui/form_pictures_fixture.h"
 #include "ui/form_window.h"
 #include "ui/main_window.h"
 #include "ui/main_window_fixture.h"
@@ -30,47 +29,14 @@
 namespace pluvane {
 namespace {
 
-class RainFormPictures : public ::testing::Test {
+class RainFormPictures : public FormPicturesTest {
  protected:
-  void SetUp() override { ASSERT_TRUE(Open(window_, app_, app_.Demo(), true)); }
-  void TearDown() override { Quit(window_); }
-
-  Surface& surface() { return window_.surface(); }
-  AppState& state() { return window_.application().state(); }
   EditorContext Context() {
     return EditorContext{surface(), state(), ui_, [](FormController&) {}, viewer_,
                          [](ViewerState&) {}};
   }
   int First(int kind) { return FindObject(surface(), "iName", std::to_string(kind)); }
 
-  // Shows the form, checks that its heads can be read, and keeps its picture.
-  void Picture(FormController& form, const std::string& name) {
-    ASSERT_FALSE(form.Closed()) << name;
-    FormWindow window(form, &window_);
-    window.show();
-    QApplication::processEvents();
-    for (int t = 0; t < static_cast<int>(form.Grids().size()); ++t) {
-      if (!form.Grids()[t]->Visible()) continue;
-      QTableView* table = window.Table(t);
-      QFont bold = table->horizontalHeader()->font();
-      bold.setBold(true);
-      const QFontMetrics metrics(bold);
-      for (int c = 0; c < table->model()->columnCount(); ++c) {
-        if (table->isColumnHidden(c)) continue;
-        const QString head = table->model()->headerData(c, Qt::Horizontal).toString();
-        EXPECT_GE(2 * table->columnWidth(c), metrics.horizontalAdvance(head))
-            << name << ": " << head.toStdString();
-      }
-    }
-    EXPECT_EQ(window.windowTitle().toStdString(), form.Caption());
-    std::filesystem::create_directories(SnapshotPath("forms"));
-    EXPECT_TRUE(window.grab().toImage().save(
-        QString::fromStdString(SnapshotPath("forms/" + name + ".png"))));
-  }
-
-  AppFolder app_;
-  MainWindow window_;
-  ScriptedUi ui_;
   ViewerState viewer_;
 };
 
