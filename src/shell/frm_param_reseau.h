@@ -1,6 +1,6 @@
 // The network's own calculation settings (tool X_PARAM, "Paramétrage..."):
 // the simulation length, the calculation step and the calculation mode that
-// new scenarios start from, kept in the hidden record ParamReseau of the
+// new scenarios start from, and the coordinate system of the map, kept in the hidden record ParamReseau of the
 // drawing. Ok checks them, sets them and writes the record anew.
 #pragma once
 
@@ -17,6 +17,7 @@ class FrmParamReseau : public FormController {
   static constexpr int kRowDuree = 1;
   static constexpr int kRowDt = 2;
   static constexpr int kRowMode = 3;
+  static constexpr int kRowCoordinates = 4;  // EPSG code or WKT, for the GIS layers
 
   FrmParamReseau(Surface& surface, AppState& state, UserInterface& ui);
 

@@ -35,6 +35,8 @@ TEST_F(FrmParamReseauTest, OpensOnTheNetworksSettings) {
   EXPECT_EQ(g.Text(0, 1), "Durée de simulation (mn)");
   EXPECT_EQ(g.Text(0, 2), "Pas de temps de calcul (mn)");
   EXPECT_EQ(g.Text(0, 3), "Mode de calcul");
+  EXPECT_EQ(g.Text(0, 4), "Système de coordonnées (EPSG ou WKT)");
+  EXPECT_EQ(g.Text(1, 4), "");
   EXPECT_EQ(g.Text(1, 1), "120");
   EXPECT_EQ(g.Text(1, 2), "2");
   EXPECT_EQ(g.ListIndex(1, 3), 1);
@@ -70,6 +72,41 @@ TEST_F(FrmParamReseauTest, ValuesThatCannotBeAreRefused) {
   EXPECT_EQ(ui_.Last().text, "Le pas de temps de calcul ne peut dépasser la durée de simulation.");
   EXPECT_EQ(state_.CalcDt, 2);
   EXPECT_EQ(Param("CalcDt"), "?");
+}
+
+TEST_F(FrmParamReseauTest, TheCoordinateSystemIsTypedAndKeptInTheRecord) {
+  state_.CoordinateSystem = "EPSG:2154";
+  FrmParamReseau form(surface_, state_, ui_);
+  EXPECT_EQ(form.grid().Text(1, 4), "EPSG:2154");
+  form.grid().SetText(1, 4, " EPSG:3945 ");
+  form.cmdOk();
+  EXPECT_TRUE(form.Closed());
+  EXPECT_EQ(state_.CoordinateSystem, "EPSG:3945");
+  EXPECT_EQ(Param("SysCoord"), "EPSG:3945");
+  EXPECT_TRUE(ui_.Empty());
+}
+
+TEST_F(FrmParamReseauTest, AnEmptyCoordinateSystemLeavesTheNetworkWithoutOne) {
+  state_.CoordinateSystem = "EPSG:2154";
+  FrmParamReseau form(surface_, state_, ui_);
+  form.grid().SetText(1, 4, "");
+  form.cmdOk();
+  EXPECT_TRUE(form.Closed());
+  EXPECT_EQ(state_.CoordinateSystem, "");
+  EXPECT_EQ(Param("SysCoord"), "");
+}
+
+TEST_F(FrmParamReseauTest, AnUnknownCoordinateSystemIsRefused) {
+  state_.CoordinateSystem = "EPSG:2154";
+  FrmParamReseau form(surface_, state_, ui_);
+  form.grid().SetText(1, 4, "Lambert 93");
+  form.cmdOk();
+  EXPECT_FALSE(form.Closed());
+  EXPECT_EQ(ui_.Last().text, "Le système de coordonnées (Lambert 93) est inconnu.");
+  EXPECT_EQ(ui_.Last().title, "Paramétrage du réseau");
+  EXPECT_EQ(form.grid().ActiveRow(), 4);
+  EXPECT_EQ(state_.CoordinateSystem, "EPSG:2154");
+  EXPECT_EQ(Param("SysCoord"), "?");
 }
 
 TEST_F(FrmParamReseauTest, SetParamRegWritesTheRecordsAsTheyStand) {

@@ -285,6 +285,23 @@ TEST_F(DrawingTools, TheSettingsToolOpensTheNetworksSettingsAndOkWritesThem) {
   EXPECT_EQ(duration(), before);
 }
 
+TEST_F(DrawingTools, TheCoordinateSystemOfTheMapIsTypedInTheNetworkSettings) {
+  QString picture;
+  OnNextForm([&picture](FormWindow* form) {
+    TypeInto(form, 1, 4, "EPSG:2154");
+    std::filesystem::create_directories(SnapshotPath("forms"));
+    picture = QString::fromStdString(SnapshotPath("forms/frmParamReseau.png"));
+    EXPECT_TRUE(form->grab().toImage().save(picture));
+    QTest::mouseClick(form->Button("cmdOk"), Qt::LeftButton);
+  });
+  window_->ToolClicked("X_PARAM");
+  EXPECT_FALSE(picture.isEmpty());
+  EXPECT_EQ(window_->application().state().CoordinateSystem, "EPSG:2154");
+  CursorKeeper keep(surface());
+  ASSERT_GT(FindObject(surface(), "Id", "ParamReseau"), 0);
+  EXPECT_EQ(surface().ObjTag("SysCoord"), "EPSG:2154");
+}
+
 // A small drawing made with the tools, for the user guide.
 TEST_F(DrawingTools, TheRadiusOfActionIsACircleDraggedWithShift) {
   window_->ToolClicked("X_RAYON");
