@@ -38,7 +38,13 @@ void AppendText(std::string& out, std::string_view text) {
     text = decoded;
   }
   out += '"';
-  for (char c : text) {
+  // Runs of characters that need no escape go in whole.
+  std::size_t run = 0;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    const char c = text[i];
+    if (static_cast<unsigned char>(c) >= 0x20 && c != '"' && c != '\\') continue;
+    out.append(text.substr(run, i - run));
+    run = i + 1;
     switch (c) {
       case '"':
         out += "\\\"";
@@ -55,17 +61,15 @@ void AppendText(std::string& out, std::string_view text) {
       case '\t':
         out += "\\t";
         break;
-      default:
-        if (static_cast<unsigned char>(c) < 0x20) {
-          static const char kHex[] = "0123456789abcdef";
-          out += "\\u00";
-          out += kHex[(c >> 4) & 0xF];
-          out += kHex[c & 0xF];
-        } else {
-          out += c;
-        }
+      default: {
+        static const char kHex[] = "0123456789abcdef";
+        out += "\\u00";
+        out += kHex[(c >> 4) & 0xF];
+        out += kHex[c & 0xF];
+      }
     }
   }
+  out.append(text.substr(run));
   out += '"';
 }
 
@@ -1002,16 +1006,6 @@ class ChunkIterator {
 };
 
 }  // namespace
-
-bool ReadNetworkDocument(std::string_view text, TagNames& names, NetworkDocument& document) {
-  try {
-    document.objects.reserve(ExpectedObjects(text));
-    DirectReader reader(names, &document, nullptr);
-    return Parse(text, reader);
-  } catch (const std::exception&) {
-    return false;
-  }
-}
 
 bool ReadNetworkFile(const std::string& path, TagNames& names, NetworkDocument& document) {
   struct stat info {};

@@ -26,12 +26,10 @@ struct NetworkDocument {
   ObjectBatch objects;  // links bound by position
 };
 
-// Reads the text of a network file. False, with `document` unusable, for
-// anything that is not a well-formed network file: bad JSON, missing or
-// mistyped members, unknown kinds, link ends out of range.
-bool ReadNetworkDocument(std::string_view text, TagNames& names, NetworkDocument& document);
 // Reads a network file from disk a piece at a time, so that its text is never
-// held whole; false also when it is not a regular file that can be read.
+// held whole. False, with `document` unusable, for a file that is not a
+// regular file that can be read, or not a well-formed network file: bad JSON,
+// missing or mistyped members, unknown kinds, link ends out of range.
 bool ReadNetworkFile(const std::string& path, TagNames& names, NetworkDocument& document);
 // Reads a clipboard object list; the same rules.
 bool ReadObjectList(std::string_view text, TagNames& names, ObjectBatch& objects);
