@@ -1,9 +1,16 @@
 #include "drawing/network_file.h"
 
+#include <sys/stat.h>
+
 #include <algorithm>
+#include <array>
 #include <charconv>
 #include <cmath>
+#include <cstdio>
+#include <iterator>
 #include <limits>
+#include <memory>
+#include <nlohmann/json.hpp>
 #include <optional>
 
 #include "foundation/numbers.h"
@@ -31,7 +38,13 @@ void AppendText(std::string& out, std::string_view text) {
     text = decoded;
   }
   out += '"';
-  for (char c : text) {
+  // Runs of characters that need no escape go in whole.
+  std::size_t run = 0;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    const char c = text[i];
+    if (static_cast<unsigned char>(c) >= 0x20 && c != '"' && c != '\\') continue;
+    out.append(text.substr(run, i - run));
+    run = i + 1;
     switch (c) {
       case '"':
         out += "\\\"";
@@ -48,17 +61,15 @@ void AppendText(std::string& out, std::string_view text) {
       case '\t':
         out += "\\t";
         break;
-      default:
-        if (static_cast<unsigned char>(c) < 0x20) {
-          static const char kHex[] = "0123456789abcdef";
-          out += "\\u00";
-          out += kHex[(c >> 4) & 0xF];
-          out += kHex[c & 0xF];
-        } else {
-          out += c;
-        }
+      default: {
+        static const char kHex[] = "0123456789abcdef";
+        out += "\\u00";
+        out += kHex[(c >> 4) & 0xF];
+        out += kHex[c & 0xF];
+      }
     }
   }
+  out.append(text.substr(run));
   out += '"';
 }
 
@@ -78,14 +89,17 @@ void AppendKey(std::string& out, const char* key) {
   out += "\":";
 }
 
-void AppendExtra(std::string& out, const Json& extra) {
-  if (!extra.is_object()) return;
+// The members of a record as written back: each `,"name":value`.
+std::string ExtraText(const Json& extra) {
+  std::string out;
+  if (!extra.is_object()) return out;
   for (const auto& [key, value] : extra.items()) {
     out += ',';
     AppendText(out, key);
     out += ':';
     out += value.dump(-1, ' ', false, Json::error_handler_t::replace);
   }
+  return out;
 }
 
 void AppendObjects(std::string& out, const std::vector<const SurfaceObject*>& objects,
@@ -210,13 +224,13 @@ void AppendObject(std::string& out, const SurfaceObject& object, std::int64_t la
   out += ",\"tags\":[";
   for (std::size_t i = 0; i < object.tags.size(); ++i) {
     out += i ? ",[" : "[";
-    AppendText(out, names.Name(object.tags[i].name));
+    AppendText(out, names.Name(object.tags.Name(i)));
     out += ',';
-    AppendText(out, object.tags[i].value);
+    AppendText(out, object.tags.Value(i));
     out += ']';
   }
   out += ']';
-  AppendExtra(out, object.extra);
+  if (object.extra) out += *object.extra;
   out += '}';
 }
 
@@ -341,16 +355,29 @@ bool ReadText(const Json& value, TextFormat& t) {
 }
 
 // Every link must be bound to two other objects of the list, neither a link.
-bool LinksBound(const std::vector<SurfaceObject>& objects) {
-  const auto count = static_cast<std::int64_t>(objects.size());
+template <typename At>
+bool LinksBound(std::size_t size, At at) {
+  const auto count = static_cast<std::int64_t>(size);
   for (std::int64_t i = 0; i < count; ++i) {
-    const SurfaceObject& object = objects[i];
+    const SurfaceObject& object = at(i);
     if (object.shape.kind != kKindLink) continue;
     for (std::int32_t end : object.ends) {
-      if (end < 0 || end >= count || end == i || objects[end].shape.kind == kKindLink) return false;
+      if (end < 0 || end >= count || end == i || at(end).shape.kind == kKindLink) return false;
     }
   }
   return true;
+}
+
+bool LinksBound(const std::vector<SurfaceObject>& objects) {
+  return LinksBound(objects.size(), [&](std::int64_t i) -> const SurfaceObject& {
+    return objects[static_cast<std::size_t>(i)];
+  });
+}
+
+bool LinksBound(const ObjectBatch& objects) {
+  return LinksBound(objects.size(), [&](std::int64_t i) -> const SurfaceObject& {
+    return *objects[static_cast<std::size_t>(i)];
+  });
 }
 
 bool ReadPage(const Json& value, PageState& page, Json& extra) {
@@ -405,7 +432,7 @@ bool ReadPage(const Json& value, PageState& page, Json& extra) {
 class DirectReader {
  public:
   // `document` is null for a clipboard list, whose objects go to `list`.
-  DirectReader(TagNames& names, NetworkDocument* document, std::vector<SurfaceObject>* list)
+  DirectReader(TagNames& names, NetworkDocument* document, ObjectBatch* list)
       : names_(names), document_(document), list_(list) {}
 
   // Whether the text held what was asked for, once the parse succeeded.
@@ -429,11 +456,11 @@ class DirectReader {
     Frame& f = frames_.back();
     if (f.at == At::kTagPair) {
       if (f.count >= 2) return false;
-      std::vector<Tag>& tags = f.object->tags;
       if (f.count++ == 0) {
-        tags.push_back(Tag{NameOf(v, tags.size()), {}});
+        tag_names_.push_back(NameOf(v, tag_names_.size()));
       } else {
-        tags.back().value = std::move(v);
+        tag_text_ += v;
+        tag_ends_.push_back(tag_text_.size());
       }
       return true;
     }
@@ -459,9 +486,19 @@ class DirectReader {
     }
     Frame& f = frames_.back();
     if (f.at == At::kObjects) {
-      f.list->emplace_back();
-      SurfaceObject& object = f.list->back();
-      object.shape.layer = static_cast<std::int64_t>(f.list->size() - 1);
+      SurfaceObject* made = nullptr;
+      std::size_t position = 0;
+      if (f.batch) {
+        position = f.batch->size();
+        f.batch->push_back(std::make_unique<SurfaceObject>());
+        made = f.batch->back().get();
+      } else {
+        position = f.list->size();
+        made = &f.list->emplace_back();
+      }
+      SurfaceObject& object = *made;
+      object.shape.layer = static_cast<std::int64_t>(position);
+      extras_.emplace_back();
       Frame next{At::kObject};
       next.object = &object;
       next.depth = f.depth;
@@ -496,6 +533,7 @@ class DirectReader {
     if (frames_.empty()) return false;
     Frame& f = frames_.back();
     if (f.at == At::kDocument) {
+      document_->document_extra = ExtraText(document_extra_);
       frames_.pop_back();
       return true;
     }
@@ -510,7 +548,7 @@ class DirectReader {
     if (frames_.empty()) {
       if (document_) return false;
       frames_.push_back(Frame{At::kObjects});
-      frames_.back().list = list_;
+      frames_.back().batch = list_;
       return true;
     }
     Frame& f = frames_.back();
@@ -522,7 +560,7 @@ class DirectReader {
         document_->objects.clear();
         has_objects_ = true;
         next.at = At::kObjects;
-        next.list = &document_->objects;
+        next.batch = &document_->objects;
         break;
       case At::kObject:
         switch (key_) {
@@ -540,8 +578,9 @@ class DirectReader {
             break;
           case Key::kTags:
             f.has_tags = true;
-            f.object->tags.clear();
-            f.object->tags.reserve(last_tag_count_);
+            tag_names_.clear();
+            tag_ends_.clear();
+            tag_text_.clear();
             next.at = At::kTags;
             break;
           case Key::kGroup:
@@ -579,7 +618,7 @@ class DirectReader {
     frames_.pop_back();
     switch (f.at) {
       case At::kObjects:
-        if (!LinksBound(*f.list)) return false;
+        if (!(f.batch ? LinksBound(*f.batch) : LinksBound(*f.list))) return false;
         if (frames_.empty()) list_done_ = true;
         return true;
       case At::kBox:
@@ -589,7 +628,11 @@ class DirectReader {
       case At::kTagPair:
         return f.count == 2;
       case At::kTags:
-        last_tag_count_ = std::min<std::size_t>(f.object->tags.size(), 64);
+        f.object->tags.Assign(tag_names_.size(), [this](std::size_t i) {
+          const std::size_t begin = i == 0 ? 0 : tag_ends_[i - 1];
+          return Tag{tag_names_[i],
+                     std::string_view(tag_text_).substr(begin, tag_ends_[i] - begin)};
+        });
         return true;
       case At::kPoints:
         return true;
@@ -611,7 +654,8 @@ class DirectReader {
   struct Frame {
     At at = At::kNone;
     SurfaceObject* object = nullptr;
-    std::vector<SurfaceObject>* list = nullptr;
+    std::vector<SurfaceObject>* list = nullptr;  // a group's objects
+    ObjectBatch* batch = nullptr;                 // or those of the file
     int depth = 0;    // of groups, for an object list and its records
     int count = 0;    // numbers or texts read in a fixed-size list
     bool has_kind = false;
@@ -819,10 +863,11 @@ class DirectReader {
         return false;  // not a list
       } else if (key_text_ == "page") {
         document_->page = PageState{};
-        document_->page_extra = Json();
-        return ReadPage(captured_, document_->page, document_->page_extra);
+        Json extra;
+        if (!ReadPage(captured_, document_->page, extra)) return false;
+        document_->page_extra = ExtraText(extra);
       } else {
-        document_->document_extra[key_text_] = std::move(captured_);
+        document_extra_[key_text_] = std::move(captured_);
       }
       return true;
     }
@@ -854,7 +899,7 @@ class DirectReader {
         s.text = TextFormat{};
         return ReadText(captured_, s.text);
       default:
-        f.object->extra[key_text_] = std::move(captured_);
+        extras_.back()[key_text_] = std::move(captured_);
         return true;
     }
   }
@@ -866,24 +911,27 @@ class DirectReader {
     if (!f.has_kind || !IsKnownKind(object.shape.kind)) return false;
     const bool link = object.shape.kind == kKindLink;
     if (f.has_group && object.shape.kind != kKindGroup) return false;
-    if (link && !f.has_ends && object.extra.is_object()) {
+    Json& extra = extras_.back();
+    if (link && !f.has_ends && extra.is_object()) {
       // The ends came before the kind: they wait among the unknown members.
-      auto ends = object.extra.find("ends");
-      if (ends != object.extra.end()) {
+      auto ends = extra.find("ends");
+      if (ends != extra.end()) {
         if (!(ends->is_array() && ends->size() == 2 && GetInt32((*ends)[0], object.ends[0]) &&
               GetInt32((*ends)[1], object.ends[1])))
           return false;
-        object.extra.erase(ends);
+        extra.erase(ends);
         f.has_ends = true;
       }
     }
-    if (object.extra.is_object() && object.extra.empty()) object.extra = Json();
+    if (extra.is_object() && !extra.empty())
+      object.extra = std::make_shared<const std::string>(ExtraText(extra));
+    extras_.pop_back();
     return f.has_box && f.has_tags && (!link || f.has_ends);
   }
 
   TagNames& names_;
   NetworkDocument* document_;
-  std::vector<SurfaceObject>* list_;
+  ObjectBatch* list_;
   std::vector<Frame> frames_;
   Key key_ = Key::kOther;
   std::string key_text_;
@@ -894,8 +942,14 @@ class DirectReader {
   bool format_ok_ = false;
   bool has_objects_ = false;
   bool list_done_ = false;
-  std::size_t last_tag_count_ = 0;
   std::vector<std::uint32_t> name_hints_;
+  // The tags of the record being read, set on it whole at the end of its list.
+  std::vector<std::uint32_t> tag_names_;
+  std::vector<std::size_t> tag_ends_;
+  std::string tag_text_;
+  // The unknown members of each record being read, innermost last.
+  std::vector<Json> extras_;
+  Json document_extra_;
 };
 
 // Room for the objects of a text, as this program writes them: one a line.
@@ -911,19 +965,68 @@ bool Parse(std::string_view text, DirectReader& reader) {
          reader.Complete();
 }
 
+// A file read a piece at a time, walked by the parser through ChunkIterator.
+class ChunkedFile {
+ public:
+  explicit ChunkedFile(std::FILE* file) : file_(file) { Fill(); }
+  bool Failed() const { return std::ferror(file_) != 0; }
+
+ private:
+  friend class ChunkIterator;
+  void Fill() {
+    size_ = std::fread(buffer_.data(), 1, buffer_.size(), file_);
+    at_ = 0;
+  }
+  std::FILE* file_;
+  std::array<char, 1 << 16> buffer_{};
+  std::size_t size_ = 0;
+  std::size_t at_ = 0;
+};
+
+// The characters of a ChunkedFile; a default one stands for its end.
+class ChunkIterator {
+ public:
+  using iterator_category = std::input_iterator_tag;
+  using value_type = char;
+  using difference_type = std::ptrdiff_t;
+  using pointer = const char*;
+  using reference = const char&;
+  ChunkIterator() = default;
+  explicit ChunkIterator(ChunkedFile* file) : file_(file) {}
+  const char& operator*() const { return file_->buffer_[file_->at_]; }
+  ChunkIterator& operator++() {
+    if (++file_->at_ == file_->size_) file_->Fill();
+    return *this;
+  }
+  bool operator==(const ChunkIterator& other) const { return AtEnd() == other.AtEnd(); }
+
+ private:
+  bool AtEnd() const { return !file_ || file_->at_ >= file_->size_; }
+  ChunkedFile* file_ = nullptr;
+};
+
 }  // namespace
 
-bool ReadNetworkDocument(std::string_view text, TagNames& names, NetworkDocument& document) {
+bool ReadNetworkFile(const std::string& path, TagNames& names, NetworkDocument& document) {
+  struct stat info {};
+  if (::stat(path.c_str(), &info) != 0 || !S_ISREG(info.st_mode)) return false;
+  std::FILE* file = std::fopen(path.c_str(), "rb");
+  if (!file) return false;
+  bool ok = false;
   try {
-    document.objects.reserve(ExpectedObjects(text));
+    ChunkedFile chunks(file);
     DirectReader reader(names, &document, nullptr);
-    return Parse(text, reader);
+    ok = Json::sax_parse(ChunkIterator(&chunks), ChunkIterator(), &reader,
+                         nlohmann::detail::input_format_t::json, true) &&
+         reader.Complete() && !chunks.Failed();
   } catch (const std::exception&) {
-    return false;
+    ok = false;
   }
+  std::fclose(file);
+  return ok;
 }
 
-bool ReadObjectList(std::string_view text, TagNames& names, std::vector<SurfaceObject>& objects) {
+bool ReadObjectList(std::string_view text, TagNames& names, ObjectBatch& objects) {
   try {
     objects.reserve(objects.size() + ExpectedObjects(text));
     DirectReader reader(names, nullptr, &objects);
@@ -934,8 +1037,8 @@ bool ReadObjectList(std::string_view text, TagNames& names, std::vector<SurfaceO
 }
 
 
-std::string WriteNetworkDocument(const PageState& page, const Json& page_extra,
-                                 const Json& document_extra,
+std::string WriteNetworkDocument(const PageState& page, std::string_view page_extra,
+                                 std::string_view document_extra,
                                  const std::vector<const SurfaceObject*>& objects,
                                  const TagNames& names, const EndPosition& end_position) {
   std::string out;
@@ -976,13 +1079,11 @@ std::string WriteNetworkDocument(const PageState& page, const Json& page_extra,
     AppendNumber(out, page.background_scale);
     out += '}';
   }
-  AppendExtra(out, page_extra);
+  out += page_extra;
   out += '}';
-  if (document_extra.is_object() && !document_extra.empty()) {
+  if (!document_extra.empty()) {
     out += ",\n";
-    std::string extra;
-    AppendExtra(extra, document_extra);
-    out.append(extra, 1);  // without its leading comma
+    out += document_extra.substr(1);  // without its leading comma
   }
   out += ",\n\"objects\":[\n";
   AppendObjects(out, objects, names, end_position, ",\n");

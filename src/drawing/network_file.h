@@ -8,7 +8,6 @@
 
 #include <cstdint>
 #include <functional>
-#include <nlohmann/json.hpp>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -20,23 +19,26 @@ namespace pluvane {
 
 struct NetworkDocument {
   PageState page;
-  nlohmann::ordered_json page_extra;
-  nlohmann::ordered_json document_extra;
-  std::vector<SurfaceObject> objects;  // links bound by position
+  // Members of the page and of the document this program does not know, as
+  // they are written back (each `,"name":value`).
+  std::string page_extra;
+  std::string document_extra;
+  ObjectBatch objects;  // links bound by position
 };
 
-// Reads the text of a network file. False, with `document` unusable, for
-// anything that is not a well-formed network file: bad JSON, missing or
-// mistyped members, unknown kinds, link ends out of range.
-bool ReadNetworkDocument(std::string_view text, TagNames& names, NetworkDocument& document);
+// Reads a network file from disk a piece at a time, so that its text is never
+// held whole. False, with `document` unusable, for a file that is not a
+// regular file that can be read, or not a well-formed network file: bad JSON,
+// missing or mistyped members, unknown kinds, link ends out of range.
+bool ReadNetworkFile(const std::string& path, TagNames& names, NetworkDocument& document);
 // Reads a clipboard object list; the same rules.
-bool ReadObjectList(std::string_view text, TagNames& names, std::vector<SurfaceObject>& objects);
+bool ReadObjectList(std::string_view text, TagNames& names, ObjectBatch& objects);
 
 // Gives the position in the written list of a link's end as the object holds it.
 using EndPosition = std::function<std::int32_t(std::int32_t)>;
 
-std::string WriteNetworkDocument(const PageState& page, const nlohmann::ordered_json& page_extra,
-                                 const nlohmann::ordered_json& document_extra,
+std::string WriteNetworkDocument(const PageState& page, std::string_view page_extra,
+                                 std::string_view document_extra,
                                  const std::vector<const SurfaceObject*>& objects,
                                  const TagNames& names, const EndPosition& end_position);
 std::string WriteObjectList(const std::vector<const SurfaceObject*>& objects, const TagNames& names,

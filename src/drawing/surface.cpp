@@ -74,10 +74,12 @@ bool Surface::Fresh(const SurfaceObject& object) const {
 }
 
 void Surface::IndexIds(int number, const SurfaceObject& object, bool add) {
-  const std::string* id = FirstId(object);
+  const auto id = FirstId(object);
   if (!id) return;
   if (add) {
-    auto& numbers = id_index_[*id];
+    auto found = id_index_.find(*id);
+    if (found == id_index_.end()) found = id_index_.emplace(std::string(*id), std::vector<int>()).first;
+    auto& numbers = found->second;
     numbers.insert(std::lower_bound(numbers.begin(), numbers.end(), number), number);
     return;
   }
@@ -89,14 +91,14 @@ void Surface::IndexIds(int number, const SurfaceObject& object, bool add) {
   if (numbers.empty()) id_index_.erase(found);
 }
 
-const std::string* Surface::FirstId(const SurfaceObject& object) const {
-  for (const Tag& tag : object.tags)
-    if (tag.name == id_name_) return &tag.value;
-  return nullptr;
+std::optional<std::string_view> Surface::FirstId(const SurfaceObject& object) const {
+  const std::size_t at = object.tags.Find(id_name_);
+  if (at == object.tags.size()) return std::nullopt;
+  return object.tags.Value(at);
 }
 
 std::optional<std::string> Surface::IdOf(const SurfaceObject& object) const {
-  const std::string* id = FirstId(object);
+  const auto id = FirstId(object);
   return id ? std::optional<std::string>(*id) : std::nullopt;
 }
 
@@ -105,12 +107,12 @@ std::optional<std::string> Surface::IdOf(const SurfaceObject& object) const {
 void Surface::ReindexAround(int number, const std::optional<std::string>& old_id) {
   const SurfaceObject* object = Object(number);
   if (!object) return;
-  const std::string* new_id = FirstId(*object);
+  const auto new_id = FirstId(*object);
   if (old_id && new_id && *old_id == *new_id) return;
   if (!old_id && !new_id) return;
   if (old_id) {
     SurfaceObject ghost;
-    ghost.tags.push_back(Tag{id_name_, *old_id});
+    ghost.tags.Append(id_name_, *old_id);
     IndexIds(number, ghost, false);
   }
   if (new_id) IndexIds(number, *object, true);
@@ -160,6 +162,15 @@ int Surface::InsertNew(SurfaceObject object) {
 }
 
 std::vector<int> Surface::InsertBatch(std::vector<SurfaceObject> objects, bool ends_by_position) {
+  ObjectBatch batch;
+  batch.reserve(objects.size());
+  for (SurfaceObject& object : objects)
+    batch.push_back(std::make_unique<SurfaceObject>(std::move(object)));
+  objects.clear();
+  return InsertBatch(std::move(batch), ends_by_position);
+}
+
+std::vector<int> Surface::InsertBatch(ObjectBatch objects, bool ends_by_position) {
   const int first = base_ + static_cast<int>(slots_.size());
   const int count = static_cast<int>(objects.size());
   slots_.resize(slots_.size() + objects.size());
@@ -168,14 +179,15 @@ std::vector<int> Surface::InsertBatch(std::vector<SurfaceObject> objects, bool e
   std::vector<int> order(objects.size());
   for (int i = 0; i < count; ++i) order[i] = i;
   std::stable_sort(order.begin(), order.end(),
-                   [&](int a, int b) { return objects[a].shape.layer < objects[b].shape.layer; });
-  for (int i : order) objects[i].shape.layer = ++top_layer_;
+                   [&](int a, int b) { return objects[a]->shape.layer < objects[b]->shape.layer; });
+  for (int i : order) objects[i]->shape.layer = ++top_layer_;
   // Ends first, so that every link finds its ends in place (undo detaches in
   // the reverse order, links first).
   std::vector<int> numbers(objects.size());
   for (int pass = 0; pass < 2; ++pass) {
     for (int i = 0; i < count; ++i) {
-      SurfaceObject& object = objects[i];
+      if (!objects[i]) continue;  // placed in the first pass
+      SurfaceObject& object = *objects[i];
       const bool link = object.shape.kind == kKindLink;
       if (link != (pass == 1)) continue;
       if (link && ends_by_position) {
@@ -184,7 +196,7 @@ std::vector<int> Surface::InsertBatch(std::vector<SurfaceObject> objects, bool e
       object.born_step = journal_.OpenId();
       object.links.clear();
       numbers[i] = first + i;
-      Attach(numbers[i], std::make_unique<SurfaceObject>(std::move(object)));
+      Attach(numbers[i], std::move(objects[i]));
       journal_.Add(ExistsRecord{numbers[i], nullptr});
       // A link read without its vertices runs between the centres of its ends.
       if (link && Object(numbers[i])->shape.points.size() < 2) PlaceLinkEnds(numbers[i]);
@@ -201,30 +213,29 @@ void Surface::Remove(int number) {
 void Surface::WriteTag(int number, std::uint32_t name, std::string_view value) {
   SurfaceObject* object = Object(number);
   if (!object) return;
-  for (std::size_t i = 0; i < object->tags.size(); ++i) {
-    if (object->tags[i].name == name) {
-      WriteTagValue(number, i, value);
-      return;
-    }
+  const std::size_t at = object->tags.Find(name);
+  if (at < object->tags.size()) {
+    WriteTagValue(number, at, value);
+    return;
   }
-  std::vector<Tag> tail;
-  tail.push_back(Tag{name, std::string(value)});
+  TagBlock tail;
+  tail.Append(name, value);
   ReplaceTagTail(number, object->tags.size(), std::move(tail));
 }
 
 void Surface::WriteTagValue(int number, std::size_t position, std::string_view value) {
   const SurfaceObject* object = Object(number);
-  if (!object || position >= object->tags.size() || object->tags[position].value == value) return;
+  if (!object || position >= object->tags.size() || object->tags.Value(position) == value) return;
   Commit(TagValueRecord{number, static_cast<std::uint32_t>(position), std::string(value)}, *object);
 }
 
 void Surface::WriteTagName(int number, std::size_t position, std::uint32_t name) {
   const SurfaceObject* object = Object(number);
-  if (!object || position >= object->tags.size() || object->tags[position].name == name) return;
+  if (!object || position >= object->tags.size() || object->tags.Name(position) == name) return;
   Commit(TagNameRecord{number, static_cast<std::uint32_t>(position), name}, *object);
 }
 
-void Surface::ReplaceTagTail(int number, std::size_t position, std::vector<Tag> tail) {
+void Surface::ReplaceTagTail(int number, std::size_t position, TagBlock tail) {
   const SurfaceObject* object = Object(number);
   if (!object || position > object->tags.size()) return;
   Commit(TagTailRecord{number, static_cast<std::uint32_t>(position), std::move(tail)}, *object);
@@ -254,30 +265,30 @@ void Surface::Apply(JournalRecord& record) {
     ++tag_revision_;
     SurfaceObject* object = Object(value->number);
     if (!object || value->position >= object->tags.size()) return;
-    Tag& tag = object->tags[value->position];
-    if (tag.name != id_name_) {
-      std::swap(tag.value, value->value);
-      return;
-    }
-    const auto old_id = IdOf(*object);
-    std::swap(tag.value, value->value);
-    ReindexAround(value->number, old_id);
+    TagBlock& tags = object->tags;
+    const bool id = tags.Name(value->position) == id_name_;
+    const auto old_id = id ? IdOf(*object) : std::nullopt;
+    std::string old(tags.Value(value->position));
+    tags.SetValue(value->position, value->value);
+    value->value = std::move(old);
+    if (id) ReindexAround(value->number, old_id);
   } else if (auto* name = std::get_if<TagNameRecord>(&record)) {
     ++tag_revision_;
     SurfaceObject* object = Object(name->number);
     if (!object || name->position >= object->tags.size()) return;
     const auto old_id = IdOf(*object);
-    std::swap(object->tags[name->position].name, name->name);
+    const std::uint32_t old = object->tags.Name(name->position);
+    object->tags.SetName(name->position, name->name);
+    name->name = old;
     ReindexAround(name->number, old_id);
   } else if (auto* tail = std::get_if<TagTailRecord>(&record)) {
     ++tag_revision_;
     SurfaceObject* object = Object(tail->number);
     if (!object || tail->position > object->tags.size()) return;
     const auto old_id = IdOf(*object);
-    std::vector<Tag> old(std::make_move_iterator(object->tags.begin() + tail->position),
-                         std::make_move_iterator(object->tags.end()));
-    object->tags.resize(tail->position);
-    for (Tag& tag : tail->tail) object->tags.push_back(std::move(tag));
+    TagBlock old = object->tags.Tail(tail->position);
+    object->tags.Truncate(tail->position);
+    object->tags.Extend(tail->tail);
     tail->tail = std::move(old);
     ReindexAround(tail->number, old_id);
   } else if (auto* page = std::get_if<PageRecord>(&record)) {
@@ -320,9 +331,8 @@ std::string Surface::ObjTag(std::string_view name) const {
   if (!object) return {};
   const auto id = names_.Find(name);
   if (!id) return {};
-  for (const Tag& tag : object->tags)
-    if (tag.name == *id) return tag.value;
-  return {};
+  const std::size_t at = object->tags.Find(*id);
+  return at < object->tags.size() ? std::string(object->tags.Value(at)) : std::string();
 }
 
 void Surface::SetObjTag(std::string_view name, std::string_view value) {
@@ -355,21 +365,20 @@ const Surface::TagIndex* Surface::IndexOfTag(std::uint32_t name) {
   for (std::size_t slot = 0; slot < slots_.size(); ++slot) {
     const SurfaceObject* object = slots_[slot].get();
     if (!object) continue;
-    for (const Tag& tag : object->tags) {
-      if (tag.name != name) continue;
-      auto value = std::find_if(index->values.begin(), index->values.end(),
-                                [&tag](const auto& entry) { return entry.first == tag.value; });
-      if (value == index->values.end()) {
-        if (index->values.size() == kMaxValues) {
-          index->values.clear();
-          return nullptr;
-        }
-        index->values.emplace_back(tag.value, std::vector<int>());
-        value = index->values.end() - 1;
+    const std::size_t at = object->tags.Find(name);
+    if (at == object->tags.size()) continue;
+    const std::string_view text = object->tags.Value(at);
+    auto value = std::find_if(index->values.begin(), index->values.end(),
+                              [text](const auto& entry) { return entry.first == text; });
+    if (value == index->values.end()) {
+      if (index->values.size() == kMaxValues) {
+        index->values.clear();
+        return nullptr;
       }
-      value->second.push_back(NumberOfSlot(slot));
-      break;
+      index->values.emplace_back(std::string(text), std::vector<int>());
+      value = index->values.end() - 1;
     }
+    value->second.push_back(NumberOfSlot(slot));
   }
   index->usable = true;
   return &*index;
@@ -394,13 +403,10 @@ int Surface::FindByTag(std::string_view tag_name, const TagMatch& value, bool fi
     for (; slot < slots_.size(); ++slot) {
       const SurfaceObject* object = slots_[slot].get();
       if (!object) continue;
-      for (const Tag& tag : object->tags) {
-        if (tag.name != *id) continue;
-        if (value.Matches(tag.value)) {
-          current_ = NumberOfSlot(slot);
-          return current_;
-        }
-        break;
+      const std::size_t at = object->tags.Find(*id);
+      if (at < object->tags.size() && value.Matches(object->tags.Value(at))) {
+        current_ = NumberOfSlot(slot);
+        return current_;
       }
     }
   }
@@ -409,12 +415,12 @@ int Surface::FindByTag(std::string_view tag_name, const TagMatch& value, bool fi
 }
 
 int Surface::FindById(std::string_view id) const {
-  auto found = id_index_.find(std::string(id));
+  auto found = id_index_.find(id);
   return found == id_index_.end() ? 0 : found->second.front();
 }
 
 int Surface::CountById(std::string_view id) const {
-  auto found = id_index_.find(std::string(id));
+  auto found = id_index_.find(id);
   return found == id_index_.end() ? 0 : static_cast<int>(found->second.size());
 }
 
@@ -479,7 +485,9 @@ void Surface::SetObjTagCount(int count) {
     if (wanted < size) {
       ReplaceTagTail(number, wanted, {});
     } else if (wanted > size) {
-      ReplaceTagTail(number, size, std::vector<Tag>(wanted - size, Tag{blank, {}}));
+      TagBlock tail;
+      tail.Assign(wanted - size, [blank](std::size_t) { return Tag{blank, {}}; });
+      ReplaceTagTail(number, size, std::move(tail));
     }
   }
 }
@@ -487,7 +495,7 @@ void Surface::SetObjTagCount(int count) {
 std::string Surface::ObjTagName(int index) const {
   const SurfaceObject* object = CurrentReal();
   if (!object || index < 0 || static_cast<std::size_t>(index) >= object->tags.size()) return {};
-  return names_.Name(object->tags[index].name);
+  return names_.Name(object->tags.Name(static_cast<std::size_t>(index)));
 }
 
 void Surface::SetObjTagName(int index, std::string_view name) {
@@ -500,7 +508,7 @@ void Surface::SetObjTagName(int index, std::string_view name) {
 std::string Surface::ObjTagValue(int index) const {
   const SurfaceObject* object = CurrentReal();
   if (!object || index < 0 || static_cast<std::size_t>(index) >= object->tags.size()) return {};
-  return object->tags[index].value;
+  return std::string(object->tags.Value(static_cast<std::size_t>(index)));
 }
 
 void Surface::SetObjTagValue(int index, std::string_view value) {
@@ -669,8 +677,8 @@ void Surface::Reset() {
   bottom_layer_ = 0;
   current_ = 0;
   ++shape_revision_;
-  document_extra_ = nullptr;
-  page_extra_ = nullptr;
+  document_extra_.clear();
+  page_extra_.clear();
 }
 
 void Surface::ClearDrawing() {

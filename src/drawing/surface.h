@@ -327,7 +327,7 @@ class Surface {
   void WriteTag(int number, std::uint32_t name, std::string_view value);
   void WriteTagValue(int number, std::size_t position, std::string_view value);
   void WriteTagName(int number, std::size_t position, std::uint32_t name);
-  void ReplaceTagTail(int number, std::size_t position, std::vector<Tag> tail);
+  void ReplaceTagTail(int number, std::size_t position, TagBlock tail);
   void FollowLinks(int number);
   void PlaceLinkEnds(int link);
   void ShiftShape(int number, std::int32_t dx, std::int32_t dy);
@@ -337,8 +337,9 @@ class Surface {
   void Restack(bool to_front);
   // Adds objects, numbered in their order and stacked above what is there.
   // Links are bound by position among them, or by object number.
+  std::vector<int> InsertBatch(ObjectBatch objects, bool ends_by_position);
   std::vector<int> InsertBatch(std::vector<SurfaceObject> objects, bool ends_by_position);
-  int AddObjects(std::vector<SurfaceObject> objects);  // as the new selection
+  int AddObjects(ObjectBatch objects);  // as the new selection
   void Mark(SurfaceObject& object, bool selected);
 
   // Applying a record swaps its content with the drawing's.
@@ -346,7 +347,7 @@ class Surface {
   void Attach(int number, std::unique_ptr<SurfaceObject> object);
   std::unique_ptr<SurfaceObject> Detach(int number);
   void IndexIds(int number, const SurfaceObject& object, bool add);
-  const std::string* FirstId(const SurfaceObject& object) const;
+  std::optional<std::string_view> FirstId(const SurfaceObject& object) const;
   std::optional<std::string> IdOf(const SurfaceObject& object) const;
   void ReindexAround(int number, const std::optional<std::string>& old_id);
   // Applies a change made as a record, and keeps the record for undo unless
@@ -360,7 +361,7 @@ class Surface {
   int base_ = kFirstObjectNumber;
   int live_count_ = 0;
   int selected_count_ = 0;
-  std::unordered_map<std::string, std::vector<int>> id_index_;
+  std::unordered_map<std::string, std::vector<int>, TextHash, std::equal_to<>> id_index_;
   // Values of one tag name and the objects whose first tag of that name holds
   // each (ascending), for the searches of FindByTag. Built when a search of
   // that name comes again with no tag changed in between, and only for names
@@ -397,8 +398,9 @@ class Surface {
   double view_height_ = 100000;
   int auto_scale_ = 0;
   int file_format_ = kNativeFormat;
-  nlohmann::ordered_json document_extra_;
-  nlohmann::ordered_json page_extra_;
+  // Members of the file this program does not know, as written back.
+  std::string document_extra_;
+  std::string page_extra_;
   std::vector<std::pair<int, std::function<void()>>> listeners_;
   int last_listener_ = 0;
 };

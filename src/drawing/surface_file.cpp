@@ -20,12 +20,8 @@ bool Surface::LoadFile(const std::string& path, int mode) {
     return true;
   }
   if (mode != 0 && mode != 2) return false;
-  std::string text;
-  if (!ReadWholeFile(path, text)) return false;
   NetworkDocument document;
-  if (!ReadNetworkDocument(text, names_, document)) return false;
-  text.clear();
-  text.shrink_to_fit();
+  if (!ReadNetworkFile(path, names_, document)) return false;
   if (mode == 2) {
     AddObjects(std::move(document.objects));
     Refresh();
@@ -98,18 +94,18 @@ std::string Surface::CopySelection(int mode) const {
 int Surface::PasteClipboard(std::string_view text) {
   const auto blank = text.find_first_not_of(" \t\r\n");
   if (blank == std::string_view::npos) return 0;
-  std::vector<SurfaceObject> objects;
+  ObjectBatch objects;
   if (!ReadObjectList(text, names_, objects)) return 2;
   AddObjects(std::move(objects));
   Refresh();
   return 1;
 }
 
-int Surface::AddObjects(std::vector<SurfaceObject> objects) {
+int Surface::AddObjects(ObjectBatch objects) {
   Step step(*this);
   for (auto& object : slots_)
     if (object) Mark(*object, false);
-  for (SurfaceObject& object : objects) object.selected = true;
+  for (auto& object : objects) object->selected = true;
   return static_cast<int>(InsertBatch(std::move(objects), true).size());
 }
 

@@ -38,7 +38,7 @@ struct TagNameRecord {
 struct TagTailRecord {
   std::int32_t number = 0;
   std::uint32_t position = 0;
-  std::vector<Tag> tail;
+  TagBlock tail;
 };
 struct PageRecord {
   std::unique_ptr<PageState> page;

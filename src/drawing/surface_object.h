@@ -7,9 +7,11 @@
 
 #include <array>
 #include <cstdint>
+#include <iterator>
 #include <memory>
-#include <nlohmann/json.hpp>
 #include <string>
+#include <string_view>
+#include <utility>
 #include <vector>
 
 namespace pluvane {
@@ -97,19 +99,117 @@ struct Shape {
   std::vector<SurfaceObject> children;  // a group's objects, links bound by position
 };
 
-// A tag: an interned name (see TagNames) and its text.
+// A tag as read: an interned name (see TagNames) and its text, which lives
+// in the list it was read from.
 struct Tag {
   std::uint32_t name = 0;
-  std::string value;
+  std::string_view value;
 };
+
+// The ordered tags of an object in one block: the number of tags, then for
+// each its name and where its text ends, then the texts end to end. An object
+// without tags holds no block. Tags are written far less often than read, so
+// every change builds the block again.
+class TagBlock {
+ public:
+  TagBlock() = default;
+  TagBlock(const TagBlock& other);
+  TagBlock& operator=(const TagBlock& other);
+  TagBlock(TagBlock&&) noexcept = default;
+  TagBlock& operator=(TagBlock&&) noexcept = default;
+  ~TagBlock() = default;
+
+  std::size_t size() const { return block_ ? block_[0] : 0; }
+  bool empty() const { return size() == 0; }
+  std::uint32_t Name(std::size_t i) const { return block_[1 + 2 * i]; }
+  std::string_view Value(std::size_t i) const {
+    const std::uint32_t begin = i == 0 ? 0 : block_[2 + 2 * (i - 1)];
+    return {Text() + begin, block_[2 + 2 * i] - begin};
+  }
+  Tag operator[](std::size_t i) const { return Tag{Name(i), Value(i)}; }
+  // Position of the first tag of that name, size() if none.
+  std::size_t Find(std::uint32_t name) const;
+
+  // Replaces the tags by `count` tags read from `tag(i)`.
+  template <typename Source>
+  void Assign(std::size_t count, Source tag);
+  void Append(std::uint32_t name, std::string_view value);
+  void SetName(std::size_t i, std::uint32_t name) { block_[1 + 2 * i] = name; }
+  void SetValue(std::size_t i, std::string_view value);
+  // Keeps the first `count` tags.
+  void Truncate(std::size_t count);
+  // The tags from `position` on.
+  TagBlock Tail(std::size_t position) const;
+  // Appends every tag of `other`.
+  void Extend(const TagBlock& other);
+
+  class Iterator {
+   public:
+    using iterator_category = std::forward_iterator_tag;
+    using value_type = Tag;
+    using difference_type = std::ptrdiff_t;
+    using pointer = void;
+    using reference = Tag;
+    Iterator(const TagBlock* list, std::size_t i) : list_(list), i_(i) {}
+    Tag operator*() const { return (*list_)[i_]; }
+    Iterator& operator++() {
+      ++i_;
+      return *this;
+    }
+    bool operator==(const Iterator& other) const { return i_ == other.i_; }
+
+   private:
+    const TagBlock* list_;
+    std::size_t i_;
+  };
+  Iterator begin() const { return Iterator(this, 0); }
+  Iterator end() const { return Iterator(this, size()); }
+
+ private:
+  const char* Text() const { return reinterpret_cast<const char*>(block_.get() + 1 + 2 * size()); }
+  std::size_t TextSize() const { return empty() ? 0 : block_[2 * size()]; }
+  std::size_t Words() const { return 1 + 2 * size() + (TextSize() + 3) / 4; }
+  // A block for `count` tags and `text` characters, its count set.
+  static std::unique_ptr<std::uint32_t[]> Allocate(std::size_t count, std::size_t text);
+
+  std::unique_ptr<std::uint32_t[]> block_;
+};
+
+template <typename Source>
+void TagBlock::Assign(std::size_t count, Source tag) {
+  if (count == 0) {
+    block_.reset();
+    return;
+  }
+  std::size_t text = 0;
+  for (std::size_t i = 0; i < count; ++i) text += tag(i).value.size();
+  auto block = Allocate(count, text);
+  char* chars = reinterpret_cast<char*>(block.get() + 1 + 2 * count);
+  std::uint32_t end = 0;
+  for (std::size_t i = 0; i < count; ++i) {
+    const Tag t = tag(i);
+    t.value.copy(chars + end, t.value.size());
+    end += static_cast<std::uint32_t>(t.value.size());
+    block[1 + 2 * i] = t.name;
+    block[2 + 2 * i] = end;
+  }
+  block_ = std::move(block);
+}
+
+struct SurfaceObject;
+// Objects made one by one (read from a file, pasted), placed in the drawing
+// without being moved again.
+using ObjectBatch = std::vector<std::unique_ptr<SurfaceObject>>;
 
 struct SurfaceObject {
   Shape shape;
-  std::vector<Tag> tags;
+  TagBlock tags;
   // For a link: the two end objects. Object numbers in the drawing; positions
   // among the siblings inside a group or in a file being read.
   std::array<std::int32_t, 2> ends = {0, 0};
-  nlohmann::ordered_json extra;  // members of the file we do not know
+  // The members of the file this program does not know, as they are written
+  // back (each `,"name":value`); null when there are none.
+  std::shared_ptr<const std::string> extra;
   // Bookkeeping of the drawing, never saved.
   std::vector<std::int32_t> links;  // links bound to this object, ascending
   std::uint64_t born_step = 0;

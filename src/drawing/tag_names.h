@@ -12,6 +12,14 @@
 
 namespace pluvane {
 
+// Hash of texts that finds a std::string key from a std::string_view.
+struct TextHash {
+  using is_transparent = void;
+  std::size_t operator()(std::string_view text) const noexcept {
+    return std::hash<std::string_view>{}(text);
+  }
+};
+
 class TagNames {
  public:
   // The number of a name, giving it one if it has none yet.
@@ -21,13 +29,7 @@ class TagNames {
   const std::string& Name(std::uint32_t id) const { return names_[id]; }
 
  private:
-  struct Hash {
-    using is_transparent = void;
-    std::size_t operator()(std::string_view text) const noexcept {
-      return std::hash<std::string_view>{}(text);
-    }
-  };
-  std::unordered_map<std::string, std::uint32_t, Hash, std::equal_to<>> ids_;
+  std::unordered_map<std::string, std::uint32_t, TextHash, std::equal_to<>> ids_;
   std::vector<std::string> names_;
 };
 

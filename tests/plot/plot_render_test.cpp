@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cmath>
 
 #include "foundation/expect_message.h"
 #include "foundation/paths.h"
