@@ -12,8 +12,8 @@
 #include "drawing/surface.h"
 #include "drawing/surface_object.h"
 #include "foundation/scripted_ui.h"
-#include "results/capacity_map.h"
 #include "fuzz_support.h"
+#include "results/capacity_map.h"
 
 namespace {
 

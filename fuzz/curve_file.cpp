@@ -11,8 +11,8 @@
 
 #include "foundation/scripted_ui.h"
 #include "foundation/text.h"
-#include "plot/auto_scale.h"
 #include "fuzz_support.h"
+#include "plot/auto_scale.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   static const std::filesystem::path folder = pluvane_fuzz::Folder("curve");

@@ -14,10 +14,10 @@
 #include "drawing/surface_helpers.h"
 #include "foundation/console.h"
 #include "foundation/scripted_ui.h"
+#include "fuzz_support.h"
 #include "gis/gis_import.h"
 #include "network/georeferencing.h"
 #include "network/network_state.h"
-#include "fuzz_support.h"
 
 namespace {
 
@@ -61,7 +61,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   pluvane::GisImportRequest request;
   request.file = file;
   request.tolerance = 1;
-  for (pluvane::GisImportKind kind : {pluvane::GisImportKind::kNodes, pluvane::GisImportKind::kCI}) {
+  for (pluvane::GisImportKind kind :
+       {pluvane::GisImportKind::kNodes, pluvane::GisImportKind::kCI}) {
     request.kind = kind;
     const int before = surface.ObjectCount(pluvane::kAllObjects);
     const int made = pluvane::ImportGisLayer({surface, state, ui}, console, request);

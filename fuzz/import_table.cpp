@@ -17,9 +17,9 @@
 #include "exchange/fld_file.h"
 #include "exchange/kalder_import.h"
 #include "foundation/scripted_ui.h"
+#include "fuzz_support.h"
 #include "network/georeferencing.h"
 #include "network/network_state.h"
-#include "fuzz_support.h"
 
 namespace {
 

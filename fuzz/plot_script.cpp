@@ -12,10 +12,10 @@
 #include "foundation/errors.h"
 #include "foundation/scripted_ui.h"
 #include "foundation/text.h"
+#include "fuzz_support.h"
 #include "plot/ctl_create.h"
 #include "plot/ctl_read.h"
 #include "plot/page_split.h"
-#include "fuzz_support.h"
 
 namespace {
 

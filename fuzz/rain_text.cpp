@@ -14,10 +14,10 @@
 #include "drawing/surface_helpers.h"
 #include "foundation/scripted_ui.h"
 #include "foundation/text.h"
+#include "fuzz_support.h"
 #include "network/network_state.h"
 #include "rain/rain_import.h"
 #include "rain/rain_records.h"
-#include "fuzz_support.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   using namespace pluvane;

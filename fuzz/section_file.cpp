@@ -16,8 +16,8 @@
 #include "editors/section_library.h"
 #include "foundation/numbers.h"
 #include "foundation/scripted_ui.h"
-#include "network/network_state.h"
 #include "fuzz_support.h"
+#include "network/network_state.h"
 
 namespace {
 
