@@ -90,9 +90,7 @@ void Surface::IndexIds(int number, const SurfaceObject& object, bool add) {
 }
 
 const std::string* Surface::FirstId(const SurfaceObject& object) const {
-  for (const Tag& tag : object.tags)
-    if (tag.name == id_name_) return &tag.value;
-  return nullptr;
+  return FirstTag(object, id_name_);
 }
 
 std::optional<std::string> Surface::IdOf(const SurfaceObject& object) const {
@@ -320,9 +318,8 @@ std::string Surface::ObjTag(std::string_view name) const {
   if (!object) return {};
   const auto id = names_.Find(name);
   if (!id) return {};
-  for (const Tag& tag : object->tags)
-    if (tag.name == *id) return tag.value;
-  return {};
+  const std::string* value = FirstTag(*object, *id);
+  return value ? *value : std::string();
 }
 
 void Surface::SetObjTag(std::string_view name, std::string_view value) {
@@ -333,7 +330,7 @@ void Surface::SetObjTag(std::string_view name, std::string_view value) {
 
 void Surface::SetObjTag(std::string_view name, double value) { SetObjTag(name, NumToText(value)); }
 
-const Surface::TagIndex* Surface::IndexOfTag(std::uint32_t name) {
+const Surface::TagIndex* Surface::IndexOfTag(std::uint32_t name) const {
   constexpr std::size_t kMaxValues = 64;
   constexpr std::size_t kMaxNames = 8;
   auto index = std::find_if(tag_indexes_.begin(), tag_indexes_.end(),
@@ -376,36 +373,9 @@ const Surface::TagIndex* Surface::IndexOfTag(std::uint32_t name) {
 }
 
 int Surface::FindByTag(std::string_view tag_name, const TagMatch& value, bool first) {
-  const auto id = names_.Find(tag_name);
-  if (id) {
-    if (const TagIndex* index = IndexOfTag(*id)) {
-      // The first holder of a matching value after the start.
-      const int after = (first || current_ < base_) ? base_ - 1 : current_;
-      int found = 0;
-      for (const auto& [text, numbers] : index->values) {
-        if (!value.Matches(text)) continue;
-        auto at = std::upper_bound(numbers.begin(), numbers.end(), after);
-        if (at != numbers.end() && (found == 0 || *at < found)) found = *at;
-      }
-      current_ = found ? found : kPage;
-      return found;
-    }
-    std::size_t slot = (first || current_ < base_) ? 0 : SlotOf(current_) + 1;
-    for (; slot < slots_.size(); ++slot) {
-      const SurfaceObject* object = slots_[slot].get();
-      if (!object) continue;
-      for (const Tag& tag : object->tags) {
-        if (tag.name != *id) continue;
-        if (value.Matches(tag.value)) {
-          current_ = NumberOfSlot(slot);
-          return current_;
-        }
-        break;
-      }
-    }
-  }
-  current_ = kPage;
-  return 0;
+  const int found = FindByTagFrom(tag_name, value, (first || current_ < base_) ? 0 : current_);
+  current_ = found ? found : kPage;
+  return found;
 }
 
 int Surface::FindById(std::string_view id) const {
