@@ -107,6 +107,8 @@ class Surface {
   // object is missing. The text stays valid until the drawing changes.
   std::string_view TagOf(int number, std::string_view name) const;
   int KindOf(int number) const;
+  // The object at end 0 or 1 of a link; 0 when the number is no link.
+  int LinkEndOf(int number, int end) const;
   // The objects of the drawing in creation order, for a range-for:
   // `for (int n : surface.Objects())`. The drawing must not change meanwhile.
   class ObjectRange;
@@ -117,6 +119,11 @@ class Surface {
   // Every such object in creation order.
   std::vector<int> FindAllByTag(std::string_view name, const TagMatch& value) const;
   int CountByTag(std::string_view name, const TagMatch& value) const;
+  // Every object, in creation order, whose first tag of that name has a value
+  // that `keep` accepts; `keep` is asked once for each distinct value when
+  // the values are few (kinds, groups).
+  std::vector<int> FindAllWhere(std::string_view name,
+                                const std::function<bool(std::string_view)>& keep) const;
 
   // --- Selection ---
   bool Selected() const;

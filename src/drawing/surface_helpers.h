@@ -39,7 +39,7 @@ std::vector<int> SelectedObjects(Surface& surface);
 // kind ("Rsp_4" gives 4); 0 if none, or if that largest is negative.
 int MaxIdNumber(Surface& surface, int i_name);
 // The same for every kind 1 to 99 in one walk of the drawing (index 0 unused).
-std::array<int, 100> MaxIdNumbers(Surface& surface);
+std::array<int, 100> MaxIdNumbers(const Surface& surface);
 // The number after the first underscore of an Id; false when there is none.
 bool IdNumberOf(std::string_view id, int& number);
 // A tag of an object, "" when the object or the tag is missing. The cursor

@@ -28,6 +28,12 @@ int Surface::KindOf(int number) const {
   return object ? object->shape.kind : 0;
 }
 
+int Surface::LinkEndOf(int number, int end) const {
+  const SurfaceObject* object = Object(number);
+  if (!object || object->shape.kind != kKindLink || (end != 0 && end != 1)) return 0;
+  return object->ends[static_cast<std::size_t>(end)];
+}
+
 int Surface::FindByTagFrom(std::string_view name, const TagMatch& value, int after) const {
   const auto id = names_.Find(name);
   if (!id) return 0;
@@ -73,6 +79,29 @@ std::vector<int> Surface::FindAllByTag(std::string_view name, const TagMatch& va
 int Surface::CountByTag(std::string_view name, const TagMatch& value) const {
   if (name == kTagId && !value.numeric()) return CountById(value.text());
   return static_cast<int>(FindAllByTag(name, value).size());
+}
+
+std::vector<int> Surface::FindAllWhere(std::string_view name,
+                                       const std::function<bool(std::string_view)>& keep) const {
+  std::vector<int> numbers;
+  const auto id = names_.Find(name);
+  if (!id) return numbers;
+  // The index is built here at once: this read replaces a walk of the drawing.
+  const TagIndex* index = IndexOfTag(*id);
+  if (!index) index = IndexOfTag(*id);
+  if (index) {
+    for (const auto& [text, holders] : index->values)
+      if (keep(text)) numbers.insert(numbers.end(), holders.begin(), holders.end());
+    std::sort(numbers.begin(), numbers.end());
+    return numbers;
+  }
+  for (std::size_t slot = 0; slot < slots_.size(); ++slot) {
+    const SurfaceObject* object = slots_[slot].get();
+    if (!object) continue;
+    const std::string* text = FirstTag(*object, *id);
+    if (text && keep(*text)) numbers.push_back(NumberOfSlot(slot));
+  }
+  return numbers;
 }
 
 }  // namespace pluvane

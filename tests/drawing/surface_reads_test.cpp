@@ -55,6 +55,20 @@ TEST_F(SurfaceReads, AMissingOrDeletedObjectReadsWithoutTagsAndOfKindZero) {
   EXPECT_TRUE(surface_.Exists(b));
 }
 
+TEST_F(SurfaceReads, LinkEndsAreReadByNumber) {
+  const int a = AddElement(99, "Nod_1");
+  const int b = AddElement(99, "Nod_2");
+  const int link = surface_.AddLink(a, b);
+  surface_.SetCurrentObject(kPage);
+  EXPECT_EQ(surface_.LinkEndOf(link, 0), a);
+  EXPECT_EQ(surface_.LinkEndOf(link, 1), b);
+  EXPECT_EQ(surface_.LinkEndOf(link, 2), 0);
+  EXPECT_EQ(surface_.LinkEndOf(a, 0), 0);  // not a link
+  EXPECT_EQ(surface_.CurrentObject(), kPage);
+  surface_.DeleteObject(link);
+  EXPECT_EQ(surface_.LinkEndOf(link, 0), 0);
+}
+
 TEST_F(SurfaceReads, ARepeatedTagNameAnswersTheFirst) {
   const int a = AddElement(99, "Nod_1");
   surface_.SetCurrentObject(a);
@@ -108,6 +122,38 @@ TEST_F(SurfaceReads, FindsWalkInCreationOrderAndCompareNumbersNumerically) {
     EXPECT_EQ(read.CountByTag("NoSuchTag", "x"), 0);
     EXPECT_TRUE(read.FindAllByTag("NoSuchTag", "x").empty());
   }
+}
+
+TEST_F(SurfaceReads, FindAllWhereAsksOncePerValueAndKeepsCreationOrder) {
+  const int a = AddElement(5, "Cac_1");
+  const int b = AddElement(99, "Nod_1");
+  const int c = AddElement(6, "Caf_1");
+  const int d = AddElement(5, "Cac_2");
+  surface_.AddObject(kKindRectangle, 0, 0, 1, 1);  // no kind at all
+  surface_.SetCurrentObject(d);
+  surface_.SetObjTag("iName", " 5");
+  for (int run = 0; run < 3; ++run) {
+    std::vector<std::string> asked;
+    const auto collectors = surface_.FindAllWhere("iName", [&](std::string_view value) {
+      asked.emplace_back(value);
+      return value.find('5') != std::string_view::npos || value == "6";
+    });
+    EXPECT_EQ(collectors, (std::vector<int>{a, c, d}));
+    EXPECT_EQ(asked.size(), 4U);  // "5", "99", "6", " 5"
+  }
+  EXPECT_EQ(surface_.FindAllWhere("iName", [](std::string_view v) { return v == "99"; }),
+            std::vector<int>{b});
+  EXPECT_TRUE(surface_.FindAllWhere("NoSuchTag", [](std::string_view) { return true; }).empty());
+}
+
+TEST_F(SurfaceReads, FindAllWhereReadsEveryObjectWhenValuesAreMany) {
+  std::vector<int> even;
+  for (int i = 0; i < 100; ++i) {
+    const int n = AddElement(99, "Nod_" + std::to_string(i));
+    if (i % 2 == 0) even.push_back(n);
+  }
+  const auto keep = [](std::string_view id) { return (id.back() - '0') % 2 == 0; };
+  for (int run = 0; run < 3; ++run) EXPECT_EQ(surface_.FindAllWhere("Id", keep), even);
 }
 
 TEST_F(SurfaceReads, IdsAreFoundExactly) {
