@@ -165,11 +165,8 @@ double NodeHalfSize(Surface& surface, double symbol_size) {
   return half >= 1 ? half : symbol_size;
 }
 
-std::string TagOfObject(Surface& surface, int number, std::string_view name) {
-  CursorKeeper keeper(surface);
-  surface.SetCurrentObject(number);
-  if (number < kFirstObjectNumber || surface.CurrentObject() != number) return "";
-  return surface.ObjTag(name);
+std::string TagOfObject(const Surface& surface, int number, std::string_view name) {
+  return std::string(surface.TagOf(number, name));
 }
 
 std::array<Marker, 3> ReadLinkMarkers(const Surface& surface) {

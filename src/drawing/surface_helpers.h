@@ -44,7 +44,7 @@ std::array<int, 100> MaxIdNumbers(const Surface& surface);
 bool IdNumberOf(std::string_view id, int& number);
 // A tag of an object, "" when the object or the tag is missing. The cursor
 // does not move.
-std::string TagOfObject(Surface& surface, int number, std::string_view name);
+std::string TagOfObject(const Surface& surface, int number, std::string_view name);
 // The positions of a link's markers: its two ends, then its middle.
 inline constexpr std::array<int, 3> kLinkMarkerPositions{0, 1, 4};
 // The markers of the current link at those positions, and writing them back.
