@@ -1,8 +1,10 @@
 // The drawing surface: the network's only database. Every element, library
 // record and parameter record is an object of the drawing carrying ordered
-// text tags. All reading and writing goes through one cursor, CurrentObject,
-// which holds an object number (above 10) or a pseudo-object: 1 all objects,
-// 2 the selection, 4 the defaults for new objects, 5 the page.
+// text tags. All writing, and the reading of the cursor API, goes through one
+// cursor, CurrentObject, which holds an object number (above 10) or a
+// pseudo-object: 1 all objects, 2 the selection, 4 the defaults for new
+// objects, 5 the page. The const reads take an object number instead and
+// leave the cursor alone.
 //
 // Object numbers are never reused while the drawing is open, and walks follow
 // the order of creation, which is also the order of the numbers. Every change
