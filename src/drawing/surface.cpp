@@ -92,9 +92,7 @@ void Surface::IndexIds(int number, const SurfaceObject& object, bool add) {
 }
 
 std::optional<std::string_view> Surface::FirstId(const SurfaceObject& object) const {
-  const std::size_t at = object.tags.Find(id_name_);
-  if (at == object.tags.size()) return std::nullopt;
-  return object.tags.Value(at);
+  return FirstTag(object, id_name_);
 }
 
 std::optional<std::string> Surface::IdOf(const SurfaceObject& object) const {
@@ -331,8 +329,8 @@ std::string Surface::ObjTag(std::string_view name) const {
   if (!object) return {};
   const auto id = names_.Find(name);
   if (!id) return {};
-  const std::size_t at = object->tags.Find(*id);
-  return at < object->tags.size() ? std::string(object->tags.Value(at)) : std::string();
+  const auto value = FirstTag(*object, *id);
+  return value ? std::string(*value) : std::string();
 }
 
 void Surface::SetObjTag(std::string_view name, std::string_view value) {
@@ -343,7 +341,7 @@ void Surface::SetObjTag(std::string_view name, std::string_view value) {
 
 void Surface::SetObjTag(std::string_view name, double value) { SetObjTag(name, NumToText(value)); }
 
-const Surface::TagIndex* Surface::IndexOfTag(std::uint32_t name) {
+const Surface::TagIndex* Surface::IndexOfTag(std::uint32_t name) const {
   constexpr std::size_t kMaxValues = 64;
   constexpr std::size_t kMaxNames = 8;
   auto index = std::find_if(tag_indexes_.begin(), tag_indexes_.end(),
@@ -385,33 +383,9 @@ const Surface::TagIndex* Surface::IndexOfTag(std::uint32_t name) {
 }
 
 int Surface::FindByTag(std::string_view tag_name, const TagMatch& value, bool first) {
-  const auto id = names_.Find(tag_name);
-  if (id) {
-    if (const TagIndex* index = IndexOfTag(*id)) {
-      // The first holder of a matching value after the start.
-      const int after = (first || current_ < base_) ? base_ - 1 : current_;
-      int found = 0;
-      for (const auto& [text, numbers] : index->values) {
-        if (!value.Matches(text)) continue;
-        auto at = std::upper_bound(numbers.begin(), numbers.end(), after);
-        if (at != numbers.end() && (found == 0 || *at < found)) found = *at;
-      }
-      current_ = found ? found : kPage;
-      return found;
-    }
-    std::size_t slot = (first || current_ < base_) ? 0 : SlotOf(current_) + 1;
-    for (; slot < slots_.size(); ++slot) {
-      const SurfaceObject* object = slots_[slot].get();
-      if (!object) continue;
-      const std::size_t at = object->tags.Find(*id);
-      if (at < object->tags.size() && value.Matches(object->tags.Value(at))) {
-        current_ = NumberOfSlot(slot);
-        return current_;
-      }
-    }
-  }
-  current_ = kPage;
-  return 0;
+  const int found = FindByTagFrom(tag_name, value, (first || current_ < base_) ? 0 : current_);
+  current_ = found ? found : kPage;
+  return found;
 }
 
 int Surface::FindById(std::string_view id) const {

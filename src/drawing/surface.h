@@ -1,8 +1,10 @@
 // The drawing surface: the network's only database. Every element, library
 // record and parameter record is an object of the drawing carrying ordered
-// text tags. All reading and writing goes through one cursor, CurrentObject,
-// which holds an object number (above 10) or a pseudo-object: 1 all objects,
-// 2 the selection, 4 the defaults for new objects, 5 the page.
+// text tags. All writing, and the reading of the cursor API, goes through one
+// cursor, CurrentObject, which holds an object number (above 10) or a
+// pseudo-object: 1 all objects, 2 the selection, 4 the defaults for new
+// objects, 5 the page. The const reads take an object number instead and
+// leave the cursor alone.
 //
 // Object numbers are never reused while the drawing is open, and walks follow
 // the order of creation, which is also the order of the numbers. Every change
@@ -10,6 +12,7 @@
 // paints it, converts pixels and listens for Refresh.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <memory>
@@ -95,6 +98,34 @@ class Surface {
   int NodeLinkCount() const;
   // The links bound to an object, in creation order.
   std::vector<int> LinksOf(int number) const;
+
+  // --- Const reads ---
+  // Reads by object number beside the cursor API: none of them moves the
+  // cursor, and each answers for the drawing as it stands, an open undo step
+  // included. A number that is no object of the drawing (0, a pseudo-object,
+  // a deleted object) reads as an object without tags, of kind 0.
+  bool Exists(int number) const { return Object(number) != nullptr; }
+  // The value of the first tag of that name; empty when the tag or the
+  // object is missing. The text stays valid until the drawing changes.
+  std::string_view TagOf(int number, std::string_view name) const;
+  int KindOf(int number) const;
+  // The object at end 0 or 1 of a link; 0 when the number is no link.
+  int LinkEndOf(int number, int end) const;
+  // The objects of the drawing in creation order, for a range-for:
+  // `for (int n : surface.Objects())`. The drawing must not change meanwhile.
+  class ObjectRange;
+  ObjectRange Objects() const;
+  // The first object after `after` (0 starts at the first object), in
+  // creation order, whose first tag of that name matches; 0 if none.
+  int FindByTagFrom(std::string_view name, const TagMatch& value, int after = 0) const;
+  // Every such object in creation order.
+  std::vector<int> FindAllByTag(std::string_view name, const TagMatch& value) const;
+  int CountByTag(std::string_view name, const TagMatch& value) const;
+  // Every object, in creation order, whose first tag of that name has a value
+  // that `keep` accepts; `keep` is asked once for each distinct value when
+  // the values are few (kinds, groups).
+  std::vector<int> FindAllWhere(std::string_view name,
+                                const std::function<bool(std::string_view)>& keep) const;
 
   // --- Selection ---
   bool Selected() const;
@@ -313,6 +344,9 @@ class Surface {
   int NumberOfSlot(std::size_t slot) const { return base_ + static_cast<int>(slot); }
   int NextLive(int after) const;  // next object after a number, 0 if none
   int NextSelectedAfter(int after) const;
+  // The value of an object's first tag of that interned name, none if it has no such tag.
+  static std::optional<std::string_view> FirstTag(const SurfaceObject& object,
+                                                  std::uint32_t name);
 
   bool Fresh(const SurfaceObject& object) const;
   // Recorded changes; every change of the drawing goes through these.
@@ -374,10 +408,11 @@ class Surface {
     bool usable = false;
     std::vector<std::pair<std::string, std::vector<int>>> values;
   };
-  const TagIndex* IndexOfTag(std::uint32_t name);
+  const TagIndex* IndexOfTag(std::uint32_t name) const;
   // Grows at every change of tags or of the objects that exist.
   std::uint64_t tag_revision_ = 1;
-  std::vector<TagIndex> tag_indexes_;
+  // A cache of the searches, built by the const ones too.
+  mutable std::vector<TagIndex> tag_indexes_;
   SurfaceObject defaults_;
   PageState page_;
   std::int64_t top_layer_ = 0;
@@ -404,5 +439,40 @@ class Surface {
   std::vector<std::pair<int, std::function<void()>>> listeners_;
   int last_listener_ = 0;
 };
+
+// The live objects in creation order (see Surface::Objects).
+class Surface::ObjectRange {
+ public:
+  class Iterator {
+   public:
+    using value_type = int;
+    using difference_type = std::ptrdiff_t;
+    Iterator() = default;
+    Iterator(const Surface* surface, int number) : surface_(surface), number_(number) {}
+    int operator*() const { return number_; }
+    Iterator& operator++() {
+      number_ = surface_->NextLive(number_);
+      return *this;
+    }
+    Iterator operator++(int) {
+      Iterator before = *this;
+      ++*this;
+      return before;
+    }
+    bool operator==(const Iterator& other) const { return number_ == other.number_; }
+
+   private:
+    const Surface* surface_ = nullptr;
+    int number_ = 0;
+  };
+  explicit ObjectRange(const Surface& surface) : surface_(&surface) {}
+  Iterator begin() const { return {surface_, surface_->NextLive(0)}; }
+  Iterator end() const { return {surface_, 0}; }
+
+ private:
+  const Surface* surface_;
+};
+
+inline Surface::ObjectRange Surface::Objects() const { return ObjectRange(*this); }
 
 }  // namespace pluvane

@@ -87,11 +87,7 @@ void Surface::FollowLinks(int number) {
   for (int link : links) PlaceLinkEnds(link);
 }
 
-int Surface::LinkEndObject(int end) const {
-  const SurfaceObject* object = CurrentReal();
-  if (!object || object->shape.kind != kKindLink || (end != 0 && end != 1)) return 0;
-  return object->ends[end];
-}
+int Surface::LinkEndObject(int end) const { return LinkEndOf(current_, end); }
 
 int Surface::LinkEndMarker(int position) const {
   const int slot = MarkerSlot(position);

@@ -131,18 +131,17 @@ int MaxIdNumber(Surface& surface, int i_name) {
   return largest < 0 ? 0 : largest;
 }
 
-std::array<int, 100> MaxIdNumbers(Surface& surface) {
-  CursorKeeper keeper(surface);
+std::array<int, 100> MaxIdNumbers(const Surface& surface) {
   std::array<int, 100> largest{};
   std::array<bool, 100> any{};
-  for (int n = surface.FirstObject(); n > 0; n = surface.NextObject()) {
+  for (int n : surface.Objects()) {
     double kind = 0;
-    if (!ReadWholeNumber(surface.ObjTag(kTagIName), kind) || kind < 1 || kind > 99 ||
+    if (!ReadWholeNumber(surface.TagOf(n, kTagIName), kind) || kind < 1 || kind > 99 ||
         kind != std::floor(kind)) {
       continue;
     }
     int number = 0;
-    if (!IdNumberOf(surface.ObjTag(kTagId), number)) continue;
+    if (!IdNumberOf(surface.TagOf(n, kTagId), number)) continue;
     const auto i = static_cast<std::size_t>(kind);
     largest[i] = any[i] ? std::max(largest[i], number) : number;
     any[i] = true;
@@ -166,11 +165,8 @@ double NodeHalfSize(Surface& surface, double symbol_size) {
   return half >= 1 ? half : symbol_size;
 }
 
-std::string TagOfObject(Surface& surface, int number, std::string_view name) {
-  CursorKeeper keeper(surface);
-  surface.SetCurrentObject(number);
-  if (number < kFirstObjectNumber || surface.CurrentObject() != number) return "";
-  return surface.ObjTag(name);
+std::string TagOfObject(const Surface& surface, int number, std::string_view name) {
+  return std::string(surface.TagOf(number, name));
 }
 
 std::array<Marker, 3> ReadLinkMarkers(const Surface& surface) {

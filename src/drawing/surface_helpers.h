@@ -39,12 +39,12 @@ std::vector<int> SelectedObjects(Surface& surface);
 // kind ("Rsp_4" gives 4); 0 if none, or if that largest is negative.
 int MaxIdNumber(Surface& surface, int i_name);
 // The same for every kind 1 to 99 in one walk of the drawing (index 0 unused).
-std::array<int, 100> MaxIdNumbers(Surface& surface);
+std::array<int, 100> MaxIdNumbers(const Surface& surface);
 // The number after the first underscore of an Id; false when there is none.
 bool IdNumberOf(std::string_view id, int& number);
 // A tag of an object, "" when the object or the tag is missing. The cursor
 // does not move.
-std::string TagOfObject(Surface& surface, int number, std::string_view name);
+std::string TagOfObject(const Surface& surface, int number, std::string_view name);
 // The positions of a link's markers: its two ends, then its middle.
 inline constexpr std::array<int, 3> kLinkMarkerPositions{0, 1, 4};
 // The markers of the current link at those positions, and writing them back.

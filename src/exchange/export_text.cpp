@@ -22,12 +22,12 @@ namespace pluvane {
 namespace {
 
 // A text field: right aligned in its width, "-" when empty.
-std::string TextField(const std::string& text, int width) {
-  return PadText(Trim(text).empty() ? std::string("-") : text, width, 2);
+std::string TextField(std::string_view text, int width) {
+  return PadText(Trim(text).empty() ? std::string_view("-") : text, width, 2);
 }
 
-std::string Number(const Surface& surface, std::string_view tag, int width, int decimals) {
-  return FormatFixed(Val(surface.ObjTag(tag)), width, decimals);
+std::string Number(const Surface& surface, int n, std::string_view tag, int width, int decimals) {
+  return FormatFixed(Val(surface.TagOf(n, tag)), width, decimals);
 }
 
 // A number column: its tag, width and decimals.
@@ -37,18 +37,18 @@ struct NumberColumn {
   int decimals;
 };
 
-// The number columns of the current object, side by side.
-std::string Numbers(const Surface& surface, std::initializer_list<NumberColumn> columns) {
+// The number columns of object n, side by side.
+std::string Numbers(const Surface& surface, int n, std::initializer_list<NumberColumn> columns) {
   std::string text;
   for (const NumberColumn& column : columns) {
-    text += Number(surface, column.tag, column.width, column.decimals);
+    text += Number(surface, n, column.tag, column.width, column.decimals);
   }
   return text;
 }
 
 // The outflow columns of an outlet or a hydrograph.
-std::string OutflowColumns(const Surface& surface) {
-  return Numbers(surface, {{"Qsec", 10, 3}, {"SR", 10, 2}});
+std::string OutflowColumns(const Surface& surface, int n) {
+  return Numbers(surface, n, {{"Qsec", 10, 3}, {"SR", 10, 2}});
 }
 
 // The lines of a file, built whole before it is written.
@@ -75,40 +75,35 @@ class ExportFile {
   std::string text_;
 };
 
-// Writes the lines of every object of one kind, in surface order, each made
-// current in turn, to `file`. Returns how many; nothing is written for none.
-int WriteEachObject(Surface& surface, int i_name, const std::string& file,
+// Writes the lines of every object of one kind, in surface order, to `file`.
+// Returns how many; nothing is written for none.
+int WriteEachObject(const Surface& surface, int i_name, const std::string& file,
                     const std::function<void(ExportFile& out, int object)>& lines) {
-  CursorKeeper keeper(surface);
-  const std::vector<int> objects = FindObjectList(surface, kTagIName, i_name);
+  const std::vector<int> objects = surface.FindAllByTag(kTagIName, i_name);
   if (objects.empty()) return 0;
   ExportFile out;
-  for (int n : objects) {
-    surface.SetCurrentObject(n);
-    lines(out, n);
-  }
+  for (int n : objects) lines(out, n);
   out.Write(file);
   return static_cast<int>(objects.size());
 }
 
 // The libell (by the export's name rule) of the object whose Id is `id`, "-"
 // when none has it.
-std::string NodeName(Surface& surface, const std::string& id) {
+std::string NodeName(const Surface& surface, std::string_view id) {
   if (Trim(id).empty()) return "-";
   const int node = surface.FindById(id);
   if (node == 0) return "-";
-  surface.SetCurrentObject(node);
-  return ExportName(surface);
+  return ExportName(surface, node);
 }
 
 // The node a hydrograph stands on: the node's UsId, else the Id of its sNodAm.
-std::string ConnectedNode(Surface& surface, const std::string& id) {
+std::string ConnectedNode(const Surface& surface, std::string_view id) {
   const int node = Trim(id).empty() ? 0 : surface.FindById(id);
   if (node != 0) {
-    const std::string us_id = TagOfObject(surface, node, kTagUsId);
-    if (!Trim(us_id).empty()) return us_id;
+    const std::string_view us_id = surface.TagOf(node, kTagUsId);
+    if (!Trim(us_id).empty()) return std::string(us_id);
   }
-  return id;
+  return std::string(id);
 }
 
 const ExportType* FindType(const std::vector<ExportType>& types, const std::string& type) {
@@ -178,31 +173,30 @@ int ExportTypes(Surface& surface, const NetworkState& state, UserInterface& ui,
 
 }  // namespace
 
-std::string ExportName(const Surface& surface) {
-  std::string name = surface.ObjTag("libell");
-  if (Trim(name).empty()) name = surface.ObjTag("Libell");
+std::string ExportName(const Surface& surface, int number) {
+  std::string_view name = surface.TagOf(number, "libell");
+  if (Trim(name).empty()) name = surface.TagOf(number, "Libell");
   if (Trim(name).empty()) name = "-";
-  return name;
+  return std::string(name);
 }
 
-int ExportObjData2TxtFile(UserInterface& ui, const std::string& file, Surface& surface,
+int ExportObjData2TxtFile(UserInterface& ui, const std::string& file, const Surface& surface,
                           int kind) {
-  CursorKeeper keeper(surface);
   try {
     ExportFile out;
     int count = 0;
     const int total = surface.ObjectCount(1);
     int walked = 0, shown = 0;
-    for (int n = surface.FirstObject(); n > 0; n = surface.NextObject()) {
+    for (int n : surface.Objects()) {
       ++walked;
       const int percent = total > 0 ? static_cast<int>(100.0 * walked / total) : 0;
       if (percent != shown) {
         ui.ShowProgress(percent);
         shown = percent;
       }
-      if (ValInt(surface.ObjTag(kTagIName)) != kind) continue;
-      out.Line(PadText(ExportName(surface), 18, 0) + Number(surface, kTagXus, 12, 3) +
-               Number(surface, kTagYus, 12, 3) + Number(surface, "Zus", 12, 2));
+      if (ValInt(surface.TagOf(n, kTagIName)) != kind) continue;
+      out.Line(PadText(ExportName(surface, n), 18, 0) + Number(surface, n, kTagXus, 12, 3) +
+               Number(surface, n, kTagYus, 12, 3) + Number(surface, n, "Zus", 12, 2));
       ++count;
     }
     out.Write(file);
@@ -218,40 +212,41 @@ int ExportObjData2TxtFile(UserInterface& ui, const std::string& file, Surface& s
 
 int ExportBVFile(Surface& surface, const Calibration& calibration, int i_name,
                  const std::string& file) {
+  CursorKeeper keeper(surface);
   return WriteEachObject(surface, i_name, file, [&](ExportFile& out, int n) {
     if (i_name == kINameBV) {
       // A catchment that has been moved since its coordinates were written
       // is put right here.
       const auto [cx, cy] = ObjectCentre(surface, n);
       const double x = RoundLong(cx), y = RoundLong(cy);
+      surface.SetCurrentObject(n);
       surface.SetObjTag(kTagXus, LogicToUserX(calibration, x, y));
       surface.SetObjTag(kTagYus, LogicToUserY(calibration, x, y));
-      out.Line(TextField(ExportName(surface), 20) +
-               Numbers(surface, {{kTagXus, 15, 2},
+      out.Line(TextField(ExportName(surface, n), 20) +
+               Numbers(surface, n, {{kTagXus, 15, 2},
                                  {kTagYus, 15, 2},
                                  {"S", 10, 2},
                                  {"L", 10, 2},
                                  {"m", 10, 6},
                                  {"ci", 10, 3}}));
     } else {
-      out.Line(TextField(ExportName(surface), 20) + OutflowColumns(surface));
+      out.Line(TextField(ExportName(surface, n), 20) + OutflowColumns(surface, n));
     }
     out.Line("");
   });
 }
 
-int ExportHYFile(Surface& surface, int i_name, const std::string& file) {
+int ExportHYFile(const Surface& surface, int i_name, const std::string& file) {
   return WriteEachObject(surface, i_name, file, [&surface](ExportFile& out, int n) {
-    const std::string name = ExportName(surface);
-    const std::string node = ConnectedNode(surface, surface.ObjTag(kTagSNodAm));
-    surface.SetCurrentObject(n);
-    out.Line(TextField(name, 20) + TextField(node, 20) + OutflowColumns(surface));
+    const std::string name = ExportName(surface, n);
+    const std::string node = ConnectedNode(surface, surface.TagOf(n, kTagSNodAm));
+    out.Line(TextField(name, 20) + TextField(node, 20) + OutflowColumns(surface, n));
     // Points with an empty tag are left out, and not counted.
     std::vector<std::string> points;
-    const int declared = ValInt(surface.ObjTag("NbPt"));
+    const int declared = ValInt(surface.TagOf(n, "NbPt"));
     for (int i = 1; i <= declared; ++i) {
-      const std::string x = surface.ObjTag("X" + std::to_string(i));
-      const std::string y = surface.ObjTag("Y" + std::to_string(i));
+      const std::string_view x = surface.TagOf(n, "X" + std::to_string(i));
+      const std::string_view y = surface.TagOf(n, "Y" + std::to_string(i));
       if (Trim(x).empty() || Trim(y).empty()) continue;
       points.push_back(FormatFixed(Val(x), 10, 2) + FormatFixed(Val(y), 10, 2));
     }
@@ -261,22 +256,19 @@ int ExportHYFile(Surface& surface, int i_name, const std::string& file) {
   });
 }
 
-int ExportCanFile(Surface& surface, int i_name, const std::string& file) {
+int ExportCanFile(const Surface& surface, int i_name, const std::string& file) {
   return WriteEachObject(surface, i_name, file, [&surface, i_name](ExportFile& out, int n) {
-    const std::string upstream_id = surface.ObjTag(kTagSNodAm);
-    const std::string downstream_id = surface.ObjTag(kTagSNodAv);
-    const std::string upstream = NodeName(surface, upstream_id);
-    const std::string downstream = NodeName(surface, downstream_id);
-    surface.SetCurrentObject(n);
-    std::string line = TextField(ExportName(surface), 20) + TextField(upstream, 20) +
+    const std::string upstream = NodeName(surface, surface.TagOf(n, kTagSNodAm));
+    const std::string downstream = NodeName(surface, surface.TagOf(n, kTagSNodAv));
+    std::string line = TextField(ExportName(surface, n), 20) + TextField(upstream, 20) +
                        TextField(downstream, 20) +
-                       Numbers(surface, {{"ZRam", 10, 2}, {"ZRav", 10, 2}});
-    line += i_name == kINameCAC ? Number(surface, "Dn", 10, 2)
-                                : TextField(surface.ObjTag("IdSect"), 10);
-    line += Number(surface, "L", 10, 2);
+                       Numbers(surface, n, {{"ZRam", 10, 2}, {"ZRav", 10, 2}});
+    line += i_name == kINameCAC ? Number(surface, n, "Dn", 10, 2)
+                                : TextField(surface.TagOf(n, "IdSect"), 10);
+    line += Number(surface, n, "L", 10, 2);
     line += i_name == kINameCAO
-                ? Numbers(surface, {{"Kmin", 10, 2}, {"Largeur", 10, 2}, {"Kmaj", 10, 2}})
-                : Numbers(surface, {{"K", 10, 2}, {"HD", 10, 2}, {"SR", 10, 2}});
+                ? Numbers(surface, n, {{"Kmin", 10, 2}, {"Largeur", 10, 2}, {"Kmaj", 10, 2}})
+                : Numbers(surface, n, {{"K", 10, 2}, {"HD", 10, 2}, {"SR", 10, 2}});
     out.Line(line);
   });
 }

@@ -14,15 +14,16 @@
 
 namespace pluvane {
 
-// The name under which the current object is exported: its libell, else its
-// tag Libell, else "-".
-std::string ExportName(const Surface& surface);
+// The name under which an object is exported: its libell, else its tag
+// Libell, else "-".
+std::string ExportName(const Surface& surface, int number);
 
 // The node file: one line per object of `kind` in surface order (name 18 on
 // the left, Xus 12.3, Yus 12.3, Zus 12.2). Returns the count of lines; a
 // file that cannot be written is reported through ShowError with the context
 // "ExportObjData2TxtFile" and gives 0. Progress goes to the main bar.
-int ExportObjData2TxtFile(UserInterface& ui, const std::string& file, Surface& surface, int kind);
+int ExportObjData2TxtFile(UserInterface& ui, const std::string& file, const Surface& surface,
+                          int kind);
 
 // The writers of one type. Each returns its count, 0 when the network has no
 // such element (then no file is made), and throws AppError when the file
@@ -32,9 +33,9 @@ int ExportObjData2TxtFile(UserInterface& ui, const std::string& file, Surface& s
 int ExportBVFile(Surface& surface, const Calibration& calibration, int i_name,
                  const std::string& file);
 // Hydrograph injections (iName 4), with their usable points.
-int ExportHYFile(Surface& surface, int i_name, const std::string& file);
+int ExportHYFile(const Surface& surface, int i_name, const std::string& file);
 // Collectors of iName 5 (CI), 6 (PF) or 7 (PO).
-int ExportCanFile(Surface& surface, int i_name, const std::string& file);
+int ExportCanFile(const Surface& surface, int i_name, const std::string& file);
 
 // What a type of the choice lists stands for.
 struct ExportType {

@@ -4,15 +4,13 @@
 #include "foundation/numbers.h"
 #include "network/calibration_points.h"
 #include "network/catalogue.h"
-#include "drawing/surface_guards.h"
 
 namespace pluvane {
 
-std::map<int, int> CountsByIName(Surface& surface) {
-  CursorKeeper keeper(surface);
+std::map<int, int> CountsByIName(const Surface& surface) {
   std::map<int, int> counts;
-  for (int n = surface.FirstObject(); n > 10; n = surface.NextObject()) {
-    const int i_name = ValLong(surface.ObjTag(kTagIName));
+  for (int n : surface.Objects()) {
+    const int i_name = ValLong(surface.TagOf(n, kTagIName));
     if (i_name > 0) ++counts[i_name];
   }
   return counts;

@@ -11,8 +11,7 @@
 namespace pluvane {
 
 // Objects counted by their type number (tag iName), for the types above 0.
-// The cursor is kept.
-std::map<int, int> CountsByIName(Surface& surface);
+std::map<int, int> CountsByIName(const Surface& surface);
 
 // True when the three hidden calibration records Pt1 to Pt3 stand.
 bool IsCalibrated(Surface& surface);

@@ -175,10 +175,9 @@ void RestoreNetworkParameters(NetworkSession& s) {
   // Library records and the parameters stay out of sight.
   const int saved = surface.CurrentObject();
   std::vector<int> hidden;
-  surface.SetCurrentObject(kPage);
-  for (int n = surface.FirstObject(); n > 10; n = surface.NextObject()) {
-    const double i_name = Val(surface.ObjTag(kTagIName));
-    if ((i_name >= kINameReach && i_name <= 999) || surface.ObjTag(kTagId) == kParamReseau) {
+  for (int n : surface.Objects()) {
+    const double i_name = Val(surface.TagOf(n, kTagIName));
+    if ((i_name >= kINameReach && i_name <= 999) || surface.TagOf(n, kTagId) == kParamReseau) {
       hidden.push_back(n);
     }
   }

@@ -10,25 +10,21 @@
 
 namespace pluvane {
 
-bool NetworkBounds(Surface& surface, std::int32_t& left, std::int32_t& top, std::int32_t& right,
-                   std::int32_t& bottom) {
-  const int saved = surface.CurrentObject();
+bool NetworkBounds(const Surface& surface, std::int32_t& left, std::int32_t& top,
+                   std::int32_t& right, std::int32_t& bottom) {
   bool any = false;
-  surface.SetCurrentObject(kPage);
-  for (int n = surface.FirstObject(); n > 10; n = surface.NextObject()) {
-    const double i_name = Val(surface.ObjTag(kTagIName));
+  for (int n : surface.Objects()) {
+    const double i_name = Val(surface.TagOf(n, kTagIName));
     if (i_name <= 0 || i_name >= kINameReach) continue;
-    std::int32_t ol, ot, orr, ob;
-    surface.GetObjectBounds(ol, ot, orr, ob);
+    const Box& box = surface.ObjectShape(n)->box;
     if (!any) {
-      left = ol, top = ot, right = orr, bottom = ob;
+      left = box.left, top = box.top, right = box.right, bottom = box.bottom;
       any = true;
     } else {
-      left = std::min(left, ol), top = std::min(top, ot);
-      right = std::max(right, orr), bottom = std::max(bottom, ob);
+      left = std::min(left, box.left), top = std::min(top, box.top);
+      right = std::max(right, box.right), bottom = std::max(bottom, box.bottom);
     }
   }
-  surface.SetCurrentObject(saved);
   return any;
 }
 

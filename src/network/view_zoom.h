@@ -17,8 +17,8 @@ bool ZoomToBounds(Surface& surface, NetworkState& state);
 
 // The bounds of every element of the network (iName from 1 to 99); false when
 // there is none.
-bool NetworkBounds(Surface& surface, std::int32_t& left, std::int32_t& top, std::int32_t& right,
-                   std::int32_t& bottom);
+bool NetworkBounds(const Surface& surface, std::int32_t& left, std::int32_t& top,
+                   std::int32_t& right, std::int32_t& bottom);
 
 // The first view of a network that brings no view of its own: when an element
 // lies outside the present view, the whole network, centred in the client

@@ -125,7 +125,7 @@ std::vector<std::string> SorTableLines(const std::vector<std::string>& lines) {
   return table;
 }
 
-std::string CapacityToolTip(Surface& map, int object, bool diagnostic) {
+std::string CapacityToolTip(const Surface& map, int object, bool diagnostic) {
   struct Row {
     const char* label;
     const char* tag;
@@ -149,7 +149,7 @@ std::string CapacityToolTip(Surface& map, int object, bool diagnostic) {
       {"Diamètre du collecteur circulaire équivalent (m) = ", "DiamEq"},
       {"Extension de la taille du collecteur = ", "Extens"},
   };
-  auto tag = [&](const char* name) { return Trim(TagOfObject(map, object, name)); };
+  auto tag = [&](const char* name) { return Trim(map.TagOf(object, name)); };
   std::string text;
   auto add = [&](const char* label, const char* name) {
     if (!text.empty()) text += "\r\n";

@@ -62,7 +62,7 @@ std::vector<std::string> SorTableLines(const std::vector<std::string>& lines);
 // The figures of a collector in the tool-tip: "label = value" lines joined by
 // CR LF, in the order of the mode, from the tags of the current object of
 // `map` (which must be a collector).
-std::string CapacityToolTip(Surface& map, int object, bool diagnostic);
+std::string CapacityToolTip(const Surface& map, int object, bool diagnostic);
 
 // What the map was opened on.
 struct CapacityMapInput {

@@ -1,8 +1,10 @@
 // .LI2, one record of 812 bytes for each element in rank order: 203 single
 // precision numbers (indices 1 to 203), or for closed and open collectors a
 // record of their own with the section's name as text.
+#include <algorithm>
 #include <array>
 #include <cerrno>
+#include <charconv>
 #include <cstdint>
 #include <cstring>
 #include <fstream>
@@ -10,7 +12,6 @@
 #include "foundation/errors.h"
 #include "foundation/numbers.h"
 #include "foundation/text.h"
-#include "drawing/surface_guards.h"
 #include "network/catalogue.h"
 #include "simulation/link_files.h"
 #include "simulation/link_ranks.h"
@@ -25,7 +26,12 @@ constexpr int kSectionNameSize = 16;
 
 class Record {
  public:
-  explicit Record(const Surface& surface) : surface_(surface) { bytes_.fill(0); }
+  Record(const Surface& surface, int number) : surface_(surface), number_(number) {
+    bytes_.fill(0);
+  }
+
+  // A tag of the element.
+  std::string_view Read(std::string_view tag) const { return surface_.TagOf(number_, tag); }
 
   // Index i (from 1) holds the single-precision value.
   void Set(int index, double value) {
@@ -36,12 +42,18 @@ class Record {
     for (int b = 0; b < 4; ++b) bytes_[at + b] = static_cast<char>((bits >> (8 * b)) & 0xFF);
   }
   // Index i takes the leading number of the tag.
-  void Tag(int index, const std::string& tag) { Set(index, Val(surface_.ObjTag(tag))); }
+  void Tag(int index, std::string_view tag) { Set(index, Val(Read(tag))); }
   // The same with the tag's name followed by n.
-  void Tag(int index, const char* tag, int n) { Tag(index, tag + std::to_string(n)); }
+  void Tag(int index, const char* tag, int n) {
+    std::array<char, 32> name{};
+    const std::size_t length = std::min(std::strlen(tag), name.size() - 12);
+    std::memcpy(name.data(), tag, length);
+    char* end = std::to_chars(name.data() + length, name.data() + name.size(), n).ptr;
+    Tag(index, std::string_view(name.data(), static_cast<std::size_t>(end - name.data())));
+  }
   // Text in 8-bit characters from index i on, left-aligned in `size` bytes.
-  void Text(int index, const std::string& tag, int size) {
-    std::string text = Utf8ToCp1252(surface_.ObjTag(tag));
+  void Text(int index, std::string_view tag, int size) {
+    std::string text = Utf8ToCp1252(Read(tag));
     text.resize(static_cast<std::size_t>(size), ' ');
     std::memcpy(&bytes_[static_cast<std::size_t>(index - 1) * 4], text.data(), text.size());
   }
@@ -49,6 +61,7 @@ class Record {
 
  private:
   const Surface& surface_;
+  int number_;
   std::array<char, kLi2RecordSize> bytes_{};
 };
 
@@ -76,17 +89,17 @@ void FillTags(Record& r, std::initializer_list<const char*> tags) {
 
 // A curve of kind 9: all ten points from the tags, then, with a count above
 // 0, again up to the count and -999 beyond it.
-void LevelLaw(Record& r, const Surface& surface, const char* count_tag, int first_x,
+void LevelLaw(Record& r, const char* count_tag, int first_x,
               const char* x_tag, const char* y_tag) {
   const std::array<int, 2> first = {first_x, first_x + 10};
   const std::array<const char*, 2> names = {x_tag, y_tag};
   PointTable(r, 10, 10, first, names);
-  const int count = ValRoundInt(surface.ObjTag(count_tag));
+  const int count = ValRoundInt(r.Read(count_tag));
   if (count > 0) PointTable(r, count, 10, first, names);
 }
 
-void FillRecord(Record& r, const Surface& surface, int kind) {
-  const auto nb_pt = [&] { return ValRoundInt(surface.ObjTag("NbPt")); };
+void FillRecord(Record& r, int kind) {
+  const auto nb_pt = [&] { return ValRoundInt(r.Read("NbPt")); };
   switch (kind) {
     case kINameBV:
     case kINameBVS:
@@ -125,10 +138,10 @@ void FillRecord(Record& r, const Surface& surface, int kind) {
       break;
     case kINameDQZ:
       FillTags(r, {"NbDer", "TypeAval", "TypeDer_a", "TypeDer_b", "TypeDer_c"});
-      LevelLaw(r, surface, "NbPtAv", 5, "Xav", "Yav");
-      LevelLaw(r, surface, "NbPtDa", 25, "Xda", "Yda");
-      LevelLaw(r, surface, "NbPtDb", 45, "Xdb", "Ydb");
-      LevelLaw(r, surface, "NbPtDc", 65, "Xdc", "Ydc");
+      LevelLaw(r, "NbPtAv", 5, "Xav", "Yav");
+      LevelLaw(r, "NbPtDa", 25, "Xda", "Yda");
+      LevelLaw(r, "NbPtDb", 45, "Xdb", "Ydb");
+      LevelLaw(r, "NbPtDc", 65, "Xdc", "Ydc");
       break;
     case kINameRS:
       FillTags(r, {"Qf", "Z0"});
@@ -150,17 +163,15 @@ void FillRecord(Record& r, const Surface& surface, int kind) {
 }  // namespace
 
 int GenFicLi2(ModelContext& context, const std::string& path) {
-  Surface& surface = context.surface;
-  CursorKeeper keeper(surface);
+  const Surface& surface = context.surface;
   try {
     const LinkWalk walk(surface);
     errno = 0;
     std::ofstream file(path, std::ios::binary | std::ios::trunc);
     if (!file) throw FileError(errno);
     for (const LinkElement& element : walk.elements()) {
-      surface.SetCurrentObject(element.number);
-      Record record(surface);
-      FillRecord(record, surface, element.kind);
+      Record record(surface, element.number);
+      FillRecord(record, element.kind);
       file.write(record.bytes().data(), kLi2RecordSize);
     }
     file.flush();

@@ -3,7 +3,6 @@
 #include "drawing/object_tags.h"
 #include "foundation/numbers.h"
 #include "foundation/text.h"
-#include "drawing/surface_guards.h"
 #include "network/catalogue.h"
 
 namespace pluvane {
@@ -22,29 +21,64 @@ bool IsLinkElement(int i_name) {
 
 int LinkKindCode(int i_name) { return i_name == kINameMark ? kINamePLU : i_name; }
 
-LinkWalk::LinkWalk(Surface& surface) {
-  CursorKeeper keeper(surface);
+LinkWalk::LinkWalk(const Surface& surface) : surface_(surface) {
   drawing_empty_ = surface.ObjectCount(kAllObjects) == 0;
-  for (int n = surface.FirstObject(); n > 0; n = surface.NextObject()) {
-    const int kind = ValRoundInt(surface.ObjTag(kTagIName));
-    if (!IsLinkElement(kind)) continue;
-    elements_.push_back({n, kind});
-    ranks_.try_emplace(surface.ObjTag("libell"), count());
-  }
+  const auto element = [](std::string_view i_name) { return IsLinkElement(ValRoundInt(i_name)); };
+  for (int n : surface.FindAllWhere(kTagIName, element))
+    elements_.push_back({n, ValRoundInt(surface.TagOf(n, kTagIName))});
 }
 
 int LinkWalk::LinkRankOf(int handle, std::string_view text) const {
   if (Trim(text).empty() || handle < kFirstElementHandle || drawing_empty_) return 0;
-  const auto found = ranks_.find(std::string(text));
+  if (!ranked_) {
+    ranks_.reserve(elements_.size());
+    int rank = 0;
+    for (const LinkElement& element : elements_)
+      ranks_.try_emplace(surface_.TagOf(element.number, "libell"), ++rank);
+    ranked_ = true;
+  }
+  const auto found = ranks_.find(text);
   return found != ranks_.end() ? found->second : count();
+}
+
+namespace {
+
+// An Id as the node numbering compares it: trimmed and in capitals. Most
+// Ids already are, and are then taken as they stand.
+bool IsPlainKey(std::string_view id) {
+  if (id.empty() || id.front() == ' ' || id.back() == ' ') return false;
+  for (char c : id)
+    if ((c >= 'a' && c <= 'z') || static_cast<unsigned char>(c) >= 0x80) return false;
+  return true;
+}
+
+}  // namespace
+
+void NodeNumbering::Add(std::string_view id, int place) {
+  if (IsPlainKey(id)) {
+    if (places_.find(id) == places_.end()) places_.emplace(std::string(id), place);
+    return;
+  }
+  places_.try_emplace(UCase(Trim(id)), place);
 }
 
 NodeNumbering::NodeNumbering(const std::vector<std::string>& ids) {
   int place = 0;
-  for (const std::string& id : ids) places_.try_emplace(UCase(Trim(id)), ++place);
+  for (const std::string& id : ids) Add(id, ++place);
+}
+
+NodeNumbering::NodeNumbering(const Surface& surface) {
+  const std::vector<int> nodes = surface.FindAllByTag(kTagIName, kINameNode);
+  places_.reserve(nodes.size());
+  int place = 0;
+  for (int n : nodes) Add(surface.TagOf(n, kTagId), ++place);
 }
 
 int NodeNumbering::NodIndexOf(std::string_view id) const {
+  if (IsPlainKey(id)) {
+    const auto found = places_.find(id);
+    return found != places_.end() ? found->second : 0;
+  }
   const std::string key = UCase(Trim(id));
   if (key.empty()) return 0;
   const auto found = places_.find(key);

@@ -27,8 +27,9 @@ struct LinkElement {
 // The kept elements in rank order, and the rank of each label.
 class LinkWalk {
  public:
-  // Walks the whole drawing once; the cursor is put back.
-  explicit LinkWalk(Surface& surface);
+  // Walks the whole drawing once. The drawing must not change while the walk
+  // is in use: the labels are read from it.
+  explicit LinkWalk(const Surface& surface);
 
   const std::vector<LinkElement>& elements() const { return elements_; }
   int count() const { return static_cast<int>(elements_.size()); }
@@ -39,8 +40,11 @@ class LinkWalk {
   int LinkRankOf(int handle, std::string_view text) const;
 
  private:
+  const Surface& surface_;
   std::vector<LinkElement> elements_;
-  std::unordered_map<std::string, int> ranks_;
+  // Built at the first look-up: the binary file never asks.
+  mutable std::unordered_map<std::string_view, int> ranks_;
+  mutable bool ranked_ = false;
   bool drawing_empty_ = true;
 };
 
@@ -48,12 +52,21 @@ class LinkWalk {
 class NodeNumbering {
  public:
   explicit NodeNumbering(const std::vector<std::string>& ids);
+  // The same from the nodes of the drawing, in the order of GetTabNodHdle.
+  explicit NodeNumbering(const Surface& surface);
   // The place (from 1) of the first node whose Id equals `id`, both trimmed
   // and in capitals; 0 for a blank Id or an unknown one.
   int NodIndexOf(std::string_view id) const;
 
  private:
-  std::unordered_map<std::string, int> places_;
+  void Add(std::string_view id, int place);
+  struct Hash {
+    using is_transparent = void;
+    std::size_t operator()(std::string_view text) const noexcept {
+      return std::hash<std::string_view>{}(text);
+    }
+  };
+  std::unordered_map<std::string, int, Hash, std::equal_to<>> places_;
 };
 
 }  // namespace pluvane

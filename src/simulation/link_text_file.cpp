@@ -27,28 +27,25 @@ struct LinkTargets {
 
 constexpr std::array<const char*, 3> kBranchTags = {"IdDer_a", "IdDer_b", "IdDer_c"};
 
-LinkTargets TargetsOf(Surface& surface, const LinkElement& element, const LinkWalk& walk,
+LinkTargets TargetsOf(const Surface& surface, const LinkElement& element, const LinkWalk& walk,
                       const NodeNumbering& nodes) {
   LinkTargets t;
   const int handle = element.number;
-  auto node = [&](const char* tag) { return nodes.NodIndexOf(surface.ObjTag(tag)); };
-  auto rank = [&](const char* tag) { return walk.LinkRankOf(handle, surface.ObjTag(tag)); };
+  auto tag = [&](std::string_view name) { return surface.TagOf(handle, name); };
+  auto node = [&](const char* name) { return nodes.NodIndexOf(tag(name)); };
+  auto rank = [&](const char* name) { return walk.LinkRankOf(handle, tag(name)); };
   switch (element.kind) {
     case kINameBV:
     case kINameBVS:
-      t.upstream = ValRoundLong(surface.ObjTag(kTagSNodAm));
+      t.upstream = ValRoundLong(tag(kTagSNodAm));
       break;
     case kINameRout: {
       t.upstream = node(kTagSNodAm);
       t.downstream = node(kTagSNodAv);
       // A routing from a catchment starts at the catchment's own number.
-      const int start = surface.LinkEndObject(0);
-      surface.SetCurrentObject(start);
-      if (surface.CurrentObject() == start && start > 0 &&
-          surface.ObjTag(kTagIName) == std::to_string(kINameBV)) {
-        t.upstream = ValRoundLong(surface.ObjTag(kTagSNodAm));
-      }
-      surface.SetCurrentObject(handle);
+      const int start = surface.LinkEndOf(handle, 0);
+      if (start > 0 && surface.TagOf(start, kTagIName) == std::to_string(kINameBV))
+        t.upstream = ValRoundLong(surface.TagOf(start, kTagSNodAm));
       break;
     }
     case kINameHYBV:
@@ -68,7 +65,7 @@ LinkTargets TargetsOf(Surface& surface, const LinkElement& element, const LinkWa
     case kINameDQZ: {
       t.upstream = node(kTagSNodAm);
       t.ranks[0] = rank("IdAval");
-      const int branches = ValRoundInt(surface.ObjTag("NbDer"));
+      const int branches = ValRoundInt(tag("NbDer"));
       for (int i = 0; i < 3 && i < branches; ++i) t.ranks[i + 1] = rank(kBranchTags[i]);
       break;
     }
@@ -87,20 +84,17 @@ LinkTargets TargetsOf(Surface& surface, const LinkElement& element, const LinkWa
 }  // namespace
 
 int GenFicLi1(ModelContext& context, const std::string& path) {
-  Surface& surface = context.surface;
-  CursorKeeper keeper(surface);
+  const Surface& surface = context.surface;
   try {
     const LinkWalk walk(surface);
-    std::vector<std::string> ids;
-    GetTabNodId(surface, ids);
-    const NodeNumbering nodes(ids);
+    const NodeNumbering nodes(surface);
     ModelTextFile file(path);
     file.Line(PadLong(walk.count(), 5));
     std::int32_t rank = 0;
     for (const LinkElement& element : walk.elements()) {
-      surface.SetCurrentObject(element.number);
-      const std::string name = Trim(surface.ObjTag(element.kind == kINameCAO ? kTagId : "libell"));
-      const std::int32_t group = ValRoundLong(surface.ObjTag(kTagIGroup));
+      const int n = element.number;
+      const std::string name = Trim(surface.TagOf(n, element.kind == kINameCAO ? kTagId : "libell"));
+      const std::int32_t group = ValRoundLong(surface.TagOf(n, kTagIGroup));
       const LinkTargets t = TargetsOf(surface, element, walk, nodes);
       std::string line = PadLong(++rank, 5) + PadText(name, 20, 2) + PadLong(group, 5) +
                          PadLong(LinkKindCode(element.kind), 5) + PadLong(t.upstream, 10) +

@@ -1,5 +1,6 @@
 #include "simulation/model_text_file.h"
 
+#include <algorithm>
 #include <cerrno>
 
 #include "foundation/errors.h"
@@ -14,7 +15,16 @@ ModelTextFile::ModelTextFile(const std::string& path) {
 }
 
 void ModelTextFile::Line(std::string_view text) {
-  out_ << Utf8ToCp1252(text) << "\r\n";
+  // Plain ASCII, most lines, is the same in both encodings.
+  const bool ascii = std::all_of(text.begin(), text.end(),
+                                 [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+  if (ascii) {
+    out_.write(text.data(), static_cast<std::streamsize>(text.size()));
+  } else {
+    const std::string bytes = Utf8ToCp1252(text);
+    out_.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+  }
+  out_.write("\r\n", 2);
   if (!out_) throw FileError(EIO);
 }
 

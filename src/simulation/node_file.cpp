@@ -38,28 +38,24 @@ void Extend(ModelContext& context, const UserPoint& p) {
 // Numbers go through the 32-bit formatter: it writes what the 16-bit one does
 // for every number that fits 16 bits, and keeps counting beyond.
 std::string NodLine(std::int32_t sequence, std::int32_t links, const UserPoint& p, double y_shift,
-                    const std::string& label) {
+                    std::string_view label) {
   return PadLong(sequence, 10) + PadLong(links, 10) + FormatFixed(p.x, 10, 0) +
          FormatFixed(p.y - y_shift, 10, 0) + PadText(label, 20, 2);
 }
 
 }  // namespace
 
-int GetTabNodHdle(Surface& surface, std::vector<int>& handles) {
-  handles = FindObjectList(surface, kTagIName, kINameNode);
+int GetTabNodHdle(const Surface& surface, std::vector<int>& handles) {
+  handles = surface.FindAllByTag(kTagIName, kINameNode);
   return static_cast<int>(handles.size());
 }
 
-int GetTabNodId(Surface& surface, std::vector<std::string>& ids) {
+int GetTabNodId(const Surface& surface, std::vector<std::string>& ids) {
   std::vector<int> handles;
   GetTabNodHdle(surface, handles);
-  CursorKeeper keeper(surface);
   ids.clear();
   ids.reserve(handles.size());
-  for (int n : handles) {
-    surface.SetCurrentObject(n);
-    ids.push_back(surface.ObjTag(kTagId));
-  }
+  for (int n : handles) ids.emplace_back(surface.TagOf(n, kTagId));
   return static_cast<int>(ids.size());
 }
 
@@ -76,15 +72,15 @@ int GenFicNod(ModelContext& context, const std::string& path) {
     Extend(context, node_points.back());
   }
   context.YShift = 0;
-  const std::vector<int> catchments = FindObjectList(surface, kTagIName, std::to_string(kINameBV));
+  const std::vector<int> catchments = surface.FindAllByTag(kTagIName, std::to_string(kINameBV));
 
   ModelTextFile file(path);
   const auto node_count = static_cast<std::int32_t>(nodes.size());
   file.Line(PadLong(node_count, 10) + PadLong(static_cast<std::int32_t>(catchments.size()), 10));
   for (std::int32_t i = 0; i < node_count; ++i) {
-    surface.SetCurrentObject(nodes[i]);
-    file.Line(NodLine(i + 1, ValRoundLong(surface.ObjTag(kTagILink)), node_points[i],
-                      context.YShift, surface.ObjTag("libell")));
+    const int n = nodes[i];
+    file.Line(NodLine(i + 1, ValRoundLong(surface.TagOf(n, kTagILink)), node_points[i],
+                      context.YShift, surface.TagOf(n, "libell")));
   }
   // The catchments' numbers are part of the drawing from now on: one undo
   // step for all of them.
@@ -96,7 +92,7 @@ int GenFicNod(ModelContext& context, const std::string& path) {
     surface.SetObjTag(kTagSNodAm, std::to_string(sequence));
     const UserPoint p = UserCentre(surface, calibration, n);
     Extend(context, p);
-    file.Line(NodLine(sequence, 0, p, context.YShift, surface.ObjTag("libell")));
+    file.Line(NodLine(sequence, 0, p, context.YShift, surface.TagOf(n, "libell")));
   }
   file.Flush();
   return sequence;

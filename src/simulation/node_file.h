@@ -14,8 +14,8 @@ namespace pluvane {
 
 // The nodes in search order: their object numbers, or their Id tags. The
 // place in this list (from 1) is a node's number in every model file.
-int GetTabNodHdle(Surface& surface, std::vector<int>& handles);
-int GetTabNodId(Surface& surface, std::vector<std::string>& ids);
+int GetTabNodHdle(const Surface& surface, std::vector<int>& handles);
+int GetTabNodId(const Surface& surface, std::vector<std::string>& ids);
 
 // Writes the .NOD file at `path` and the catchments' sNodAm; returns the count
 // of lines after the head. Throws AppError when the file cannot be written.

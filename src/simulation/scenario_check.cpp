@@ -27,12 +27,10 @@ std::string ScenarioRain(Surface& surface, std::string_view scenario_name) {
 
 }  // namespace
 
-int FindScenarioObject(Surface& surface, std::string_view scenario_name) {
+int FindScenarioObject(const Surface& surface, std::string_view scenario_name) {
   const std::string wanted = UCase(Trim(scenario_name));
-  CursorKeeper keeper(surface);
-  for (int n : FindObjectList(surface, kTagIName, kINameScenario)) {
-    surface.SetCurrentObject(n);
-    if (UCase(Trim(surface.ObjTag(kTagId))) == wanted) return n;
+  for (int n : surface.FindAllByTag(kTagIName, kINameScenario)) {
+    if (UCase(Trim(surface.TagOf(n, kTagId))) == wanted) return n;
   }
   return 0;
 }

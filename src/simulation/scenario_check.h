@@ -14,7 +14,7 @@ namespace pluvane {
 
 // The first calculation scenario (iName 111) whose Id equals `scenario_name`,
 // both trimmed and in capitals; 0 if none. The cursor does not move.
-int FindScenarioObject(Surface& surface, std::string_view scenario_name);
+int FindScenarioObject(const Surface& surface, std::string_view scenario_name);
 
 // True when the run must stop: a message titled "Contrôle de cohérence" has
 // then told why. The network file is the state's. When all passed, a missing

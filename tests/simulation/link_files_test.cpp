@@ -200,6 +200,25 @@ TEST_F(LinkFiles, RanksAndNodeNumbersFromTheTables) {
   EXPECT_EQ(LinkKindCode(21), 21);
 }
 
+TEST_F(LinkFiles, NodeNumbersFromTheDrawingFollowTheNodeList) {
+  const int a = Node(1000, 1000);
+  const int b = Node(2000, 1000);
+  const int c = Node(3000, 1000);
+  Set(a, {{"Id", "Nod_1"}});
+  Set(b, {{"Id", " Nod_2"}});
+  Set(c, {{"Id", "NOD_1"}});
+  std::vector<std::string> ids;
+  GetTabNodId(surface, ids);
+  const NodeNumbering from_ids(ids);
+  const NodeNumbering from_drawing(surface);
+  for (const char* id : {"Nod_1", "NOD_1", "nod_1 ", "NOD_2", " nod_2", "Nod_3", "", "  "}) {
+    EXPECT_EQ(from_drawing.NodIndexOf(id), from_ids.NodIndexOf(id)) << id;
+  }
+  EXPECT_EQ(from_drawing.NodIndexOf("NOD_1"), 1);
+  EXPECT_EQ(from_drawing.NodIndexOf("NOD_2"), 2);
+  EXPECT_EQ(from_drawing.NodIndexOf("Nod_3"), 0);
+}
+
 TEST_F(LinkFiles, AnEmptyDrawingResolvesNoRank) {
   const LinkWalk walk(surface);
   EXPECT_EQ(walk.LinkRankOf(11, "x"), 0);
