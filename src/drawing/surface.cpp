@@ -78,17 +78,14 @@ void Surface::IndexIds(int number, const SurfaceObject& object, bool add) {
   if (!id) return;
   if (add) {
     auto found = id_index_.find(*id);
-    if (found == id_index_.end()) found = id_index_.emplace(std::string(*id), std::vector<int>()).first;
-    auto& numbers = found->second;
-    numbers.insert(std::lower_bound(numbers.begin(), numbers.end(), number), number);
+    if (found == id_index_.end()) found = id_index_.emplace(std::string(*id), IdHolders()).first;
+    found->second.Insert(number);
     return;
   }
   auto found = id_index_.find(*id);
   if (found == id_index_.end()) return;
-  auto& numbers = found->second;
-  auto at = std::lower_bound(numbers.begin(), numbers.end(), number);
-  if (at != numbers.end() && *at == number) numbers.erase(at);
-  if (numbers.empty()) id_index_.erase(found);
+  found->second.Erase(number);
+  if (found->second.Empty()) id_index_.erase(found);
 }
 
 std::optional<std::string_view> Surface::FirstId(const SurfaceObject& object) const {
@@ -390,12 +387,12 @@ int Surface::FindByTag(std::string_view tag_name, const TagMatch& value, bool fi
 
 int Surface::FindById(std::string_view id) const {
   auto found = id_index_.find(id);
-  return found == id_index_.end() ? 0 : found->second.front();
+  return found == id_index_.end() ? 0 : found->second.Front();
 }
 
 int Surface::CountById(std::string_view id) const {
   auto found = id_index_.find(id);
-  return found == id_index_.end() ? 0 : static_cast<int>(found->second.size());
+  return found == id_index_.end() ? 0 : found->second.Size();
 }
 
 int Surface::FirstObject() {

@@ -27,6 +27,7 @@
 #include "drawing/surface_journal.h"
 #include "drawing/surface_object.h"
 #include "drawing/tag_match.h"
+#include "drawing/id_holders.h"
 #include "drawing/tag_names.h"
 
 namespace pluvane {
@@ -395,7 +396,7 @@ class Surface {
   int base_ = kFirstObjectNumber;
   int live_count_ = 0;
   int selected_count_ = 0;
-  std::unordered_map<std::string, std::vector<int>, TextHash, std::equal_to<>> id_index_;
+  std::unordered_map<std::string, IdHolders, TextHash, std::equal_to<>> id_index_;
   // Values of one tag name and the objects whose first tag of that name holds
   // each (ascending), for the searches of FindByTag. Built when a search of
   // that name comes again with no tag changed in between, and only for names

@@ -60,7 +60,7 @@ std::vector<int> Surface::FindAllByTag(std::string_view name, const TagMatch& va
   // Ids come from their index.
   if (name == kTagId && !value.numeric()) {
     auto found = id_index_.find(value.text());
-    return found == id_index_.end() ? std::vector<int>() : found->second;
+    return found == id_index_.end() ? std::vector<int>() : found->second.Numbers();
   }
   std::vector<int> numbers;
   const auto id = names_.Find(name);

@@ -1,0 +1,48 @@
+// The objects that hold one Id, in ascending order. Nearly every Id has a
+// single holder, kept in place; a vector is made only when there are several.
+#pragma once
+
+#include <algorithm>
+#include <vector>
+
+namespace pluvane {
+
+class IdHolders {
+ public:
+  bool Empty() const { return first_ == 0; }
+  int Front() const { return first_; }
+  int Size() const { return many_.empty() ? (first_ ? 1 : 0) : static_cast<int>(many_.size()); }
+  std::vector<int> Numbers() const {
+    if (!many_.empty()) return many_;
+    return first_ ? std::vector<int>{first_} : std::vector<int>();
+  }
+
+  // Object numbers are above zero.
+  void Insert(int number) {
+    if (first_ == 0) {
+      first_ = number;
+      return;
+    }
+    if (many_.empty()) many_.push_back(first_);
+    many_.insert(std::lower_bound(many_.begin(), many_.end(), number), number);
+    first_ = many_.front();
+  }
+
+  void Erase(int number) {
+    if (many_.empty()) {
+      if (first_ == number) first_ = 0;
+      return;
+    }
+    auto at = std::lower_bound(many_.begin(), many_.end(), number);
+    if (at == many_.end() || *at != number) return;
+    many_.erase(at);
+    first_ = many_.front();
+    if (many_.size() == 1) std::vector<int>().swap(many_);
+  }
+
+ private:
+  int first_ = 0;          // the lowest holder, 0 when none
+  std::vector<int> many_;  // every holder, when there are several
+};
+
+}  // namespace pluvane
