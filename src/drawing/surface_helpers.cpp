@@ -92,13 +92,16 @@ int DeleteByTagId(Surface& surface, std::string_view id) {
 
 int FindObject2(Surface& surface, std::string_view tag1, const TagMatch& value1,
                 std::string_view tag2, const TagMatch& value2) {
-  CursorKeeper keeper(surface);
-  for (int n = surface.FindByTag(tag1, value1, true); n > 0;
-       n = surface.FindByTag(tag1, value1, false)) {
-    if (value2.Matches(surface.ObjTag(tag2))) {
-      keeper.Release();
-      return n;
-    }
+  const int found = FindFirstWithBoth(surface, tag1, value1, tag2, value2);
+  if (found) surface.SetCurrentObject(found);
+  return found;
+}
+
+int FindFirstWithBoth(const Surface& surface, std::string_view tag1, const TagMatch& value1,
+                      std::string_view tag2, const TagMatch& value2) {
+  for (int n = surface.FindByTagFrom(tag1, value1, 0); n > 0;
+       n = surface.FindByTagFrom(tag1, value1, n)) {
+    if (value2.Matches(surface.TagOf(n, tag2))) return n;
   }
   return 0;
 }

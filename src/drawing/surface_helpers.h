@@ -33,6 +33,9 @@ int DeleteByTagId(Surface& surface, std::string_view id);
 // First object with both values; it stays current. 0 if none.
 int FindObject2(Surface& surface, std::string_view tag1, const TagMatch& value1,
                 std::string_view tag2, const TagMatch& value2);
+// The same without the cursor.
+int FindFirstWithBoth(const Surface& surface, std::string_view tag1, const TagMatch& value1,
+                      std::string_view tag2, const TagMatch& value2);
 // The selected objects in creation order.
 std::vector<int> SelectedObjects(Surface& surface);
 // The largest number after the first underscore of Id over the objects of the

@@ -12,7 +12,6 @@
 #include "foundation/paths.h"
 #include "foundation/processes.h"
 #include "foundation/text.h"
-#include "drawing/surface_guards.h"
 #include "drawing/surface_helpers.h"
 #include "simulation/scenario_records.h"
 
@@ -23,16 +22,19 @@ namespace {
 // Writes the lines of the report for one drawing.
 class RecapWriter {
  public:
-  RecapWriter(Surface& surface, const SimulationState& state) : s_(surface), state_(state) {}
+  RecapWriter(const Surface& surface, const SimulationState& state) : s_(surface), state_(state) {}
 
   std::vector<std::string> lines;
+
+  // A tag of the element being written.
+  std::string Tag(const std::string& tag) const { return std::string(s_.TagOf(at_, tag)); }
 
   void Line(const std::string& text) { lines.push_back(text); }
   // A data line: a tab, the label, the value.
   void Data(const std::string& label, const std::string& value) { Line("\t" + label + value); }
   // The number a tag holds, in the plain form.
-  std::string Num(const std::string& tag) const { return NumToText(Val(s_.ObjTag(tag))); }
-  std::string Text(const std::string& tag) const { return Trim(s_.ObjTag(tag)); }
+  std::string Num(const std::string& tag) const { return NumToText(Val(Tag(tag))); }
+  std::string Text(const std::string& tag) const { return Trim(Tag(tag)); }
   void Field(const std::string& label, const std::string& tag) { Data(label, Num(tag)); }
   void TextField(const std::string& label, const std::string& tag) { Data(label, Text(tag)); }
   // A table of numbered tags: its head, then one row per point.
@@ -41,7 +43,7 @@ class RecapWriter {
     std::string head;
     for (const auto& h : heads) head += "\t" + h;
     Line(head);
-    const int count = ValRoundLong(s_.ObjTag(count_tag));
+    const int count = ValRoundLong(Tag(count_tag));
     for (int i = 1; i <= count; ++i) {
       std::string row;
       for (std::size_t k = 0; k < prefixes.size(); ++k) {
@@ -61,10 +63,9 @@ class RecapWriter {
   // One section: skipped when the kind has no element.
   void Section(std::vector<int> i_names, const std::string& title, const std::string& id_label,
                const std::function<void()>& fields, bool one_line = false) {
-    CursorKeeper keeper(s_);
     std::vector<int> elements;
     for (int i_name : i_names) {
-      for (int n : FindObjectList(s_, kTagIName, i_name)) elements.push_back(n);
+      for (int n : s_.FindAllByTag(kTagIName, i_name)) elements.push_back(n);
     }
     // Search order is creation order.
     std::sort(elements.begin(), elements.end());
@@ -73,12 +74,12 @@ class RecapWriter {
     Line(title + std::to_string(elements.size()));
     Line("");
     for (int element : elements) {
-      s_.SetCurrentObject(element);
+      at_ = element;
       if (one_line) {
         fields();
         continue;
       }
-      Data(id_label, Text("libell") + " (" + s_.ObjTag(kTagId) + ")");
+      Data(id_label, Text("libell") + " (" + Tag(kTagId) + ")");
       fields();
       Line("");
     }
@@ -86,18 +87,20 @@ class RecapWriter {
 
  private:
   void Rain() {
-    CursorKeeper keeper(s_);
-    const int scenario = FindObject2(s_, kTagIName, kINameScenario, kTagId, state_.ScenarioName);
-    const int kind = scenario > 10 ? ValRoundLong(s_.ObjTag("iPluie")) : 0;
-    const std::string rain_id = scenario > 10 ? Trim(s_.ObjTag("IdPluie")) : "";
-    const std::string radar_name = scenario > 10 ? s_.ObjTag("UsIdPluie") : "";
+    const int scenario =
+        FindFirstWithBoth(s_, kTagIName, kINameScenario, kTagId, state_.ScenarioName);
+    at_ = scenario;
+    const int kind = scenario > 10 ? ValRoundLong(Tag("iPluie")) : 0;
+    const std::string rain_id = scenario > 10 ? Trim(Tag("IdPluie")) : "";
+    const std::string radar_name = scenario > 10 ? Tag("UsIdPluie") : "";
     // The rain is found as the rain file finds it: Id trimmed, in any case.
-    const int rain = kind > 0 ? FindRecord(s_, kind, rain_id) : 0;
+    const int rain = kind > 0 ? FindRecordIn(s_, kind, rain_id) : 0;
+    if (rain) at_ = rain;
     if (rain < 11 && kind != kINameRadar) {
       Line("Scénario de pluie non renseigné.");
       return;
     }
-    auto name = [&] { return Text("Design") + " (" + s_.ObjTag(kTagId) + ")"; };
+    auto name = [&] { return Text("Design") + " (" + Tag(kTagId) + ")"; };
     auto pair = [&](const char* a, const char* b) { return Num(a) + ", " + Num(b); };
     switch (kind) {
       case kINameCaquot:
@@ -125,7 +128,7 @@ class RecapWriter {
       case kINameSynthetic: {
         Line("Hyétogramme PPHYE");
         Line("Temps (mn)\tI (mm/h)");
-        const int count = ValRoundLong(s_.ObjTag("NbPt"));
+        const int count = ValRoundLong(Tag("NbPt"));
         for (int i = 1; i <= count; ++i) {
           Line(Num("X" + std::to_string(i)) + "\t" + Num("Y" + std::to_string(i)));
         }
@@ -140,45 +143,49 @@ class RecapWriter {
         break;
       default:
         // Rains imported from outside show their designation.
-        Line(Text("Design") + " (" + s_.ObjTag(kTagId) + ")");
+        Line(Text("Design") + " (" + Tag(kTagId) + ")");
         break;
     }
   }
 
   void Recorded() {
-    const int event = s_.CurrentObject();
-    Line("Désignation de l'événement : " + Text("Design") + " (" + s_.ObjTag(kTagId) + ")");
-    Line(ValRoundLong(s_.ObjTag("iModePluie")) == 2 ? "Méthode d'abattement : distance pondérée"
+    const int event = at_;
+    Line("Désignation de l'événement : " + Text("Design") + " (" + Tag(kTagId) + ")");
+    Line(ValRoundLong(Tag("iModePluie")) == 2 ? "Méthode d'abattement : distance pondérée"
                                               : "Méthode d'abattement : Thiessen");
-    const std::vector<int> gauges = FindObjectList(s_, kTagIName, kINamePLU);
+    const std::vector<int> gauges = s_.FindAllByTag(kTagIName, kINamePLU);
     Line("Nombre de pluviographes = " + std::to_string(gauges.size()));
     for (int gauge : gauges) {
-      s_.SetCurrentObject(gauge);
+      at_ = gauge;
       Line("Id. Pluviographe : " + Text("libell"));
       Line("Coord. X,Y = " + Num(kTagXus) + ", " + Num(kTagYus));
     }
-    s_.SetCurrentObject(event);
+    at_ = event;
     Line("Temps (mn)\tHauteur cumulée (mm)");
-    const int rows = ValRoundLong(s_.ObjTag("NbPt"));
-    for (int i = 2; i <= rows; ++i) Line(s_.ObjTag("Pt" + std::to_string(i)));
+    const int rows = ValRoundLong(Tag("NbPt"));
+    for (int i = 2; i <= rows; ++i) Line(Tag("Pt" + std::to_string(i)));
   }
 
   // Where a design storm falls: the radius of action, when one stands.
   void Place() {
-    CursorKeeper keeper(s_);
-    if (FindObject2(s_, kTagIName, kINameRayon, kTagId, "Rayon") > 10) {
+    const int radius = FindFirstWithBoth(s_, kTagIName, kINameRayon, kTagId, "Rayon");
+    if (radius > 10) {
+      const int storm = at_;
+      at_ = radius;
       Line("X,Y de l'épicentre = " + Num(kTagXus) + ", " + Num(kTagYus));
       Line("Rayon d'action (m) = " + Num("Rayon"));
+      at_ = storm;
     } else {
       Line("Rayon d'action non renseigné");
     }
   }
 
-  Surface& s_;
+  const Surface& s_;
   const SimulationState& state_;
+  int at_ = 0;  // the element being written
 };
 
-void Catchment(RecapWriter& w, Surface& s) {
+void Catchment(RecapWriter& w) {
   w.Field("  Superficie (ha)                          = ", "S");
   w.Field("  Longueur de cheminnement (m)             = ", "L");
   w.Field("  Pente moyenne (m/m)                      = ", "m");
@@ -191,7 +198,7 @@ void Catchment(RecapWriter& w, Surface& s) {
        "  Vitesse d'infiltration à sec          A(mm/h) = ",
        "  Capacité de Stockage potentiel du sol   T(mm) = "},
       {"  Capacité d'interception     J(mm) = ", "  Temps de ressuyage du sol (jours) = "}};
-  const int function = ValRoundLong(s.ObjTag("Fpluie"));
+  const int function = ValRoundLong(w.Tag("Fpluie"));
   if (function >= 1 && function <= 4) {
     const auto& labels = kParameters[function - 1];
     for (std::size_t k = 0; k < labels.size(); ++k) {
@@ -215,9 +222,9 @@ void RoadHeight(RecapWriter& w) {
 }
 
 // The parameters of one outlet of a QZ divider, by its type.
-void QzOutlet(RecapWriter& w, Surface& s, const std::string& type_tag, const std::string& x,
+void QzOutlet(RecapWriter& w, const std::string& type_tag, const std::string& x,
               const std::string& y, const std::string& count, bool branch) {
-  switch (ValRoundLong(s.ObjTag(type_tag))) {
+  switch (ValRoundLong(w.Tag(type_tag))) {
     case 1:
       w.Field("  Cote du seuil     (m) = ", x + "1");
       w.Field("  Largeur du seuil  (m) = ", x + "2");
@@ -242,12 +249,12 @@ void QzOutlet(RecapWriter& w, Surface& s, const std::string& type_tag, const std
   }
 }
 
-void QzDivider(RecapWriter& w, Surface& s) {
+void QzDivider(RecapWriter& w) {
   w.TextField("  Identifiant de l'élément aval = ", "IdAval");
   w.TextField("  Type de l'élément aval        = ", "TypeAval");
-  QzOutlet(w, s, "TypeAval", "Xav", "Yav", "NbPtAv", false);
+  QzOutlet(w, "TypeAval", "Xav", "Yav", "NbPtAv", false);
   w.Field("  Nombre de dérivation          = ", "NbDer");
-  const int branches = ValRoundLong(s.ObjTag("NbDer"));
+  const int branches = ValRoundLong(w.Tag("NbDer"));
   const char letters[] = {'a', 'b', 'c'};
   const char* prefixes[] = {"da", "db", "dc"};
   const char* counts[] = {"NbPtDa", "NbPtDb", "NbPtDc"};
@@ -255,17 +262,17 @@ void QzDivider(RecapWriter& w, Surface& s) {
     const std::string letter(1, letters[b]);
     w.TextField("  Identif. de la dérivation " + letter + "   = ", "IdDer_" + letter);
     w.TextField("  Type de la dérivation " + letter + "       = ", "TypeDer_" + letter);
-    QzOutlet(w, s, "TypeDer_" + letter, std::string("X") + prefixes[b],
+    QzOutlet(w, "TypeDer_" + letter, std::string("X") + prefixes[b],
              std::string("Y") + prefixes[b], counts[b], true);
   }
 }
 
-void WriteSections(RecapWriter& w, Surface& s, UserInterface& ui) {
+void WriteSections(RecapWriter& w, UserInterface& ui) {
   const std::vector<std::function<void()>> sections = {
       // Catchments standing on a node are catchments too.
       [&] {
         w.Section({kINameBV, kINameBVS}, "BASSINS VERSANTS : ",
-                  "* Id. bassin versant ..................... = ", [&] { Catchment(w, s); });
+                  "* Id. bassin versant ..................... = ", [&] { Catchment(w); });
       },
       [&] {
         const char* id_label = "* Id. Routage ...................... = ";
@@ -333,7 +340,7 @@ void WriteSections(RecapWriter& w, Surface& s, UserInterface& ui) {
       },
       [&] {
         w.Section({kINameDQZ}, "DEVERSOIRS DE TYPE QZ : ", "* Id. Déversoir ............... = ",
-                  [&] { QzDivider(w, s); });
+                  [&] { QzDivider(w); });
       },
       [&] {
         w.Section({kINameRS}, "BASSINS DE STOCKAGE A DEBIT DE FUITE CONSTANT : ",
@@ -357,18 +364,18 @@ void WriteSections(RecapWriter& w, Surface& s, UserInterface& ui) {
       },
       [&] {
         w.Section({kINameCLAV}, "EXTREMITES AVAL DE RESEAU : ", "",
-                  [&] { w.Line("\t* " + s.ObjTag(kTagId)); }, true);
+                  [&] { w.Line("\t* " + w.Tag(kTagId)); }, true);
       },
       [&] {
         w.Section({kINameMark}, "MARQUAGES DE SORTIE : ", "",
-                  [&] { w.Line("\t* " + w.Text("libell") + " (" + s.ObjTag(kTagId) + ")"); },
+                  [&] { w.Line("\t* " + w.Text("libell") + " (" + w.Tag(kTagId) + ")"); },
                   true);
       },
       [&] {
         w.Section({kINameReach}, "BIEFS DE COLLECTEUR : ", "", [&] {
-          w.Line("\t* Bief " + s.ObjTag(kTagId));
-          const int count = ValRoundLong(s.ObjTag("NbColl"));
-          for (int i = 1; i <= count; ++i) w.Line("\t  " + s.ObjTag("IdColl" + std::to_string(i)));
+          w.Line("\t* Bief " + w.Tag(kTagId));
+          const int count = ValRoundLong(w.Tag("NbColl"));
+          for (int i = 1; i <= count; ++i) w.Line("\t  " + w.Tag("IdColl" + std::to_string(i)));
           w.Line("");
         }, true);
       },
@@ -382,19 +389,19 @@ void WriteSections(RecapWriter& w, Surface& s, UserInterface& ui) {
 
 }  // namespace
 
-std::string WriteDataRecap(Surface& surface, SimulationState& state, UserInterface& ui) {
+std::string WriteDataRecap(const Surface& surface, SimulationState& state, UserInterface& ui) {
   if (Trim(state.ScenarioName).empty() || Trim(state.NetworkBase).empty()) return {};
   state.ModelName = state.ScenarioName + "_" + state.NetworkBase;
   const std::string path = JoinPath(state.ModelFolder, state.ModelName + ".Txt");
   std::remove(path.c_str());
   RecapWriter writer(surface, state);
   writer.Head(state.NetworkBase);
-  WriteSections(writer, surface, ui);
+  WriteSections(writer, ui);
   if (!WriteTextLines(path, writer.lines)) return {};
   return path;
 }
 
-void mnuExploit_RecapData(Surface& surface, SimulationState& state, UserInterface& ui) {
+void mnuExploit_RecapData(const Surface& surface, SimulationState& state, UserInterface& ui) {
   const std::string path = WriteDataRecap(surface, state, ui);
   if (!path.empty()) EditFile(ui, path, state.AppPath);
 }

@@ -14,9 +14,9 @@ namespace pluvane {
 
 // Writes the report and returns its path; empty, with nothing written, when
 // the scenario or the network's base name is missing.
-std::string WriteDataRecap(Surface& surface, SimulationState& state, UserInterface& ui);
+std::string WriteDataRecap(const Surface& surface, SimulationState& state, UserInterface& ui);
 
 // The command mnuExploit_RecapData: writes the report and opens it.
-void mnuExploit_RecapData(Surface& surface, SimulationState& state, UserInterface& ui);
+void mnuExploit_RecapData(const Surface& surface, SimulationState& state, UserInterface& ui);
 
 }  // namespace pluvane

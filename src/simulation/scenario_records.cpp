@@ -18,14 +18,15 @@ std::int16_t CalcModeValue(const std::string& calc_mode) {
 }
 
 int FindRecord(Surface& surface, int i_name, const std::string& id) {
+  const int found = FindRecordIn(surface, i_name, id);
+  if (found) surface.SetCurrentObject(found);
+  return found;
+}
+
+int FindRecordIn(const Surface& surface, int i_name, const std::string& id) {
   const std::string wanted = UCase(Trim(id));
-  CursorKeeper keeper(surface);
-  for (int number : FindObjectList(surface, kTagIName, i_name)) {
-    surface.SetCurrentObject(number);
-    if (UCase(Trim(surface.ObjTag(kTagId))) == wanted) {
-      keeper.Release();
-      return number;
-    }
+  for (int number : surface.FindAllByTag(kTagIName, i_name)) {
+    if (UCase(Trim(surface.TagOf(number, kTagId))) == wanted) return number;
   }
   return 0;
 }

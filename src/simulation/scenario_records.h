@@ -32,6 +32,8 @@ std::int16_t CalcModeValue(const std::string& calc_mode);
 // The first record of the kind whose Id equals `id`, both trimmed and compared
 // in capitals. It is left current; 0 when none (the cursor is put back).
 int FindRecord(Surface& surface, int i_name, const std::string& id);
+// The same without the cursor.
+int FindRecordIn(const Surface& surface, int i_name, const std::string& id);
 
 // Writes iGroup -1, iName 111, Id and UsId on the current object.
 void WriteScenarioHead(Surface& surface, const std::string& id, const std::string& title);

@@ -103,6 +103,17 @@ TEST_F(SurfaceHelpers, FindObject2NeedsBothValues) {
   EXPECT_EQ(surface_.CurrentObject(), kPage);
 }
 
+TEST_F(SurfaceHelpers, FindFirstWithBothLeavesTheCursor) {
+  Add(5, "Cac_1", "A");
+  const int b = Add(6, "Caf_1", "A");
+  surface_.SetCurrentObject(kPage);
+  const Surface& drawing = surface_;
+  EXPECT_EQ(FindFirstWithBoth(drawing, "libell", "A", "iName", 6), b);
+  EXPECT_EQ(FindFirstWithBoth(drawing, "libell", "A", "iName", 7), 0);
+  EXPECT_EQ(FindFirstWithBoth(drawing, "libell", "B", "iName", 6), 0);
+  EXPECT_EQ(surface_.CurrentObject(), kPage);
+}
+
 TEST_F(SurfaceHelpers, MaxIdNumberReadsAfterTheFirstUnderscore) {
   Add(11, "Rsp_4", "R4");
   Add(11, "Rsp_2", "R2");

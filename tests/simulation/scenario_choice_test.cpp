@@ -126,6 +126,16 @@ TEST_F(ScenarioChoiceTest, FindRecordIsTrimmedAndCaseBlind) {
   EXPECT_EQ(surface_.CurrentObject(), kPage);
 }
 
+TEST_F(ScenarioChoiceTest, FindRecordInLeavesTheCursor) {
+  const int n = AddRecord(104, " Caq_1 ");
+  AddRecord(105, "CAQ_1");
+  surface_.SetCurrentObject(kPage);
+  const Surface& drawing = surface_;
+  EXPECT_EQ(FindRecordIn(drawing, 104, "caq_1"), n);
+  EXPECT_EQ(FindRecordIn(drawing, 105, "caq_2"), 0);
+  EXPECT_EQ(surface_.CurrentObject(), kPage);
+}
+
 // --- The older rain scenario --------------------------------------------------
 
 TEST_F(ScenarioChoiceTest, RainScenarioListsTheRainsAndSavesTheChoice) {
