@@ -13,6 +13,7 @@
 #include <nlohmann/json.hpp>
 #include <optional>
 
+#include "drawing/stacking_order.h"
 #include "foundation/numbers.h"
 #include "foundation/text.h"
 
@@ -238,11 +239,8 @@ void AppendObject(std::string& out, const SurfaceObject& object, std::int64_t la
 // that order.
 void AppendObjects(std::string& out, const std::vector<const SurfaceObject*>& objects,
                    const TagNames& names, const EndPosition& end_position, const char* separator) {
-  std::vector<std::size_t> by_layer(objects.size());
-  for (std::size_t i = 0; i < objects.size(); ++i) by_layer[i] = i;
-  std::stable_sort(by_layer.begin(), by_layer.end(), [&](std::size_t a, std::size_t b) {
-    return objects[a]->shape.layer < objects[b]->shape.layer;
-  });
+  const std::vector<std::size_t> by_layer =
+      StackingOrder(objects.size(), [&](std::size_t at) { return objects[at]->shape.layer; });
   std::vector<std::int64_t> rank(objects.size());
   for (std::size_t r = 0; r < by_layer.size(); ++r)
     rank[by_layer[r]] = static_cast<std::int64_t>(r);

@@ -1,8 +1,10 @@
 #include "drawing/surface.h"
 
 #include <algorithm>
+#include <array>
 
 #include "drawing/object_tags.h"
+#include "drawing/stacking_order.h"
 #include "foundation/numbers.h"
 #include "drawing/surface_edits.h"
 
@@ -77,9 +79,8 @@ void Surface::IndexIds(int number, const SurfaceObject& object, bool add) {
   const auto id = FirstId(object);
   if (!id) return;
   if (add) {
-    auto found = id_index_.find(*id);
-    if (found == id_index_.end()) found = id_index_.emplace(std::string(*id), IdHolders()).first;
-    found->second.Insert(number);
+    // One look-up; an Id is short enough to need no allocation of its own.
+    id_index_.try_emplace(std::string(*id)).first->second.Insert(number);
     return;
   }
   auto found = id_index_.find(*id);
@@ -113,7 +114,7 @@ void Surface::ReindexAround(int number, const std::optional<std::string>& old_id
   if (new_id) IndexIds(number, *object, true);
 }
 
-void Surface::Attach(int number, std::unique_ptr<SurfaceObject> object) {
+void Surface::Attach(int number, std::unique_ptr<SurfaceObject> object, bool bind_ends) {
   ++shape_revision_;
   ++tag_revision_;
   SurfaceObject& placed = *object;
@@ -121,7 +122,7 @@ void Surface::Attach(int number, std::unique_ptr<SurfaceObject> object) {
   ++live_count_;
   if (placed.selected) ++selected_count_;
   IndexIds(number, placed, true);
-  if (placed.shape.kind == kKindLink) {
+  if (bind_ends && placed.shape.kind == kKindLink) {
     for (int end : placed.ends) {
       if (SurfaceObject* end_object = Object(end)) {
         auto& links = end_object->links;
@@ -129,6 +130,46 @@ void Surface::Attach(int number, std::unique_ptr<SurfaceObject> object) {
         if (at == links.end() || *at != number) links.insert(at, number);
       }
     }
+  }
+}
+
+// Binds the links of the batch numbered from `first` to their ends, which are
+// in the batch too. The ends are walked in order, each given its links in one
+// piece, rather than jumping from end to end across a large drawing.
+void Surface::BindBatchLinks(int first, int count) {
+  const auto position = [&](int number) { return static_cast<std::size_t>(number - first); };
+  const auto ends_of = [&](const SurfaceObject& link) {
+    std::array<int, 2> ends{link.ends[0], link.ends[1]};
+    if (ends[1] == ends[0]) ends[1] = -1;
+    for (int& end : ends) {
+      const SurfaceObject* object = end < first || end >= first + count ? nullptr : Object(end);
+      if (!object || object->shape.kind == kKindLink) end = -1;
+    }
+    return ends;
+  };
+  std::vector<int> start(static_cast<std::size_t>(count) + 1, 0);
+  for (int number = first; number < first + count; ++number) {
+    const SurfaceObject* link = Object(number);
+    if (!link || link->shape.kind != kKindLink) continue;
+    for (int end : ends_of(*link))
+      if (end >= 0) ++start[position(end) + 1];
+  }
+  for (std::size_t i = 1; i < start.size(); ++i) start[i] += start[i - 1];
+  std::vector<int> bound(static_cast<std::size_t>(start.back()));
+  std::vector<int> filled(start.begin(), start.end() - 1);
+  for (int number = first; number < first + count; ++number) {
+    const SurfaceObject* link = Object(number);
+    if (!link || link->shape.kind != kKindLink) continue;
+    for (int end : ends_of(*link))
+      if (end >= 0) bound[static_cast<std::size_t>(filled[position(end)]++)] = number;
+  }
+  for (int number = first; number < first + count; ++number) {
+    const std::size_t at = position(number);
+    if (start[at] == start[at + 1]) continue;
+    // Numbers of the batch are above every number already bound, so the
+    // links stay ascending.
+    auto& links = Object(number)->links;
+    links.insert(links.end(), bound.begin() + start[at], bound.begin() + start[at + 1]);
   }
 }
 
@@ -171,11 +212,9 @@ std::vector<int> Surface::InsertBatch(ObjectBatch objects, bool ends_by_position
   slots_.resize(slots_.size() + objects.size());
   id_index_.reserve(id_index_.size() + objects.size());
   // Stacked above everything, keeping the order of their own layers.
-  std::vector<int> order(objects.size());
-  for (int i = 0; i < count; ++i) order[i] = i;
-  std::stable_sort(order.begin(), order.end(),
-                   [&](int a, int b) { return objects[a]->shape.layer < objects[b]->shape.layer; });
-  for (int i : order) objects[i]->shape.layer = ++top_layer_;
+  for (std::size_t i : StackingOrder(objects.size(),
+                                     [&](std::size_t at) { return objects[at]->shape.layer; }))
+    objects[i]->shape.layer = ++top_layer_;
   // Ends first, so that every link finds its ends in place (undo detaches in
   // the reverse order, links first).
   std::vector<int> numbers(objects.size());
@@ -191,12 +230,13 @@ std::vector<int> Surface::InsertBatch(ObjectBatch objects, bool ends_by_position
       object.born_step = journal_.OpenId();
       object.links.clear();
       numbers[i] = first + i;
-      Attach(numbers[i], std::move(objects[i]));
+      Attach(numbers[i], std::move(objects[i]), !ends_by_position);
       journal_.Add(ExistsRecord{numbers[i], nullptr});
       // A link read without its vertices runs between the centres of its ends.
       if (link && Object(numbers[i])->shape.points.size() < 2) PlaceLinkEnds(numbers[i]);
     }
   }
+  if (ends_by_position) BindBatchLinks(first, count);
   return numbers;
 }
 

@@ -379,7 +379,10 @@ class Surface {
 
   // Applying a record swaps its content with the drawing's.
   void Apply(JournalRecord& record);
-  void Attach(int number, std::unique_ptr<SurfaceObject> object);
+  // Places an object; a link is also bound to its ends unless `bind_ends` is
+  // false (BindBatchLinks then binds a whole batch at once).
+  void Attach(int number, std::unique_ptr<SurfaceObject> object, bool bind_ends = true);
+  void BindBatchLinks(int first, int count);
   std::unique_ptr<SurfaceObject> Detach(int number);
   void IndexIds(int number, const SurfaceObject& object, bool add);
   std::optional<std::string_view> FirstId(const SurfaceObject& object) const;

@@ -12,10 +12,14 @@
 
 namespace pluvane {
 
-// Hash of texts that finds a std::string key from a std::string_view.
+// Hash of texts that finds a std::string key from a std::string_view. Not
+// noexcept on purpose: the standard library then keeps each key's hash in its
+// node, as it does for std::hash<std::string>, instead of hashing the keys of
+// a bucket again at every look-up (which made the Id index of a large network
+// slow to fill).
 struct TextHash {
   using is_transparent = void;
-  std::size_t operator()(std::string_view text) const noexcept {
+  std::size_t operator()(std::string_view text) const {
     return std::hash<std::string_view>{}(text);
   }
 };

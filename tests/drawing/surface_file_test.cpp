@@ -306,6 +306,37 @@ TEST_F(SurfaceFile, MembersAreReadInAnyOrder) {
   EXPECT_NE(saved.find(R"("ruler":1})"), std::string::npos);
 }
 
+TEST_F(SurfaceFile, EachEndKnowsItsLinksInOrderAfterLoading) {
+  // Two nodes, three links between them, one of them a loop on A, and a
+  // fourth node with none.
+  WriteAll(Path("x.mtf"),
+           R"({"format":"pluvane-network","version":1,"objects":[)"
+           R"({"kind":2,"box":[0,0,1,1],"tags":[["Id","A"]]},)"
+           R"({"kind":21,"ends":[0,2],"box":[0,0,5,5],"tags":[]},)"
+           R"({"kind":2,"box":[5,5,6,6],"tags":[["Id","B"]]},)"
+           R"({"kind":21,"ends":[2,0],"box":[0,0,5,5],"tags":[]},)"
+           R"({"kind":21,"ends":[0,0],"box":[0,0,1,1],"tags":[]},)"
+           R"({"kind":2,"box":[9,9,10,10],"tags":[["Id","C"]]}]})");
+  ASSERT_TRUE(surface_.LoadFile(Path("x.mtf"), 0));
+  const int a = surface_.FindById("A");
+  const int b = surface_.FindById("B");
+  EXPECT_EQ(surface_.LinksOf(a), (std::vector<int>{a + 1, a + 3, a + 4}));
+  EXPECT_EQ(surface_.LinksOf(b), (std::vector<int>{a + 1, a + 3}));
+  EXPECT_TRUE(surface_.LinksOf(surface_.FindById("C")).empty());
+  // Pasted again, the copies are bound among themselves only.
+  const std::string copy = surface_.CopySelection(1);
+  ASSERT_EQ(surface_.PasteClipboard(copy), 1);
+  EXPECT_EQ(surface_.ObjectCount(kPage), 12);
+  const int a2 = a + 6;
+  EXPECT_EQ(surface_.LinksOf(a2), (std::vector<int>{a2 + 1, a2 + 3, a2 + 4}));
+  EXPECT_EQ(surface_.LinksOf(a), (std::vector<int>{a + 1, a + 3, a + 4}));
+  // Undoing the paste unbinds them.
+  ASSERT_TRUE(surface_.CanUndo());
+  surface_.Undo();
+  EXPECT_EQ(surface_.ObjectCount(kPage), 6);
+  EXPECT_EQ(surface_.LinksOf(b), (std::vector<int>{a + 1, a + 3}));
+}
+
 TEST_F(SurfaceFile, KnownMembersOfTheWrongFormAreRefused) {
   const std::string head = R"({"format":"pluvane-network","objects":[)";
   for (const std::string object :
