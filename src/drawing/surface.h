@@ -110,6 +110,9 @@ class Surface {
   // object is missing. The text stays valid until the drawing changes.
   std::string_view TagOf(int number, std::string_view name) const;
   int KindOf(int number) const;
+  // Each tag of an object in its order, as name and value.
+  void ForEachTagOf(int number,
+                    const std::function<void(std::string_view, std::string_view)>& visit) const;
   // The object at end 0 or 1 of a link; 0 when the number is no link.
   int LinkEndOf(int number, int end) const;
   // The objects of the drawing in creation order, for a range-for:

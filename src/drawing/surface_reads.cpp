@@ -28,6 +28,14 @@ int Surface::KindOf(int number) const {
   return object ? object->shape.kind : 0;
 }
 
+void Surface::ForEachTagOf(
+    int number, const std::function<void(std::string_view, std::string_view)>& visit) const {
+  const SurfaceObject* object = Object(number);
+  if (!object) return;
+  for (std::size_t i = 0; i < object->tags.size(); ++i)
+    visit(names_.Name(object->tags.Name(i)), object->tags.Value(i));
+}
+
 int Surface::LinkEndOf(int number, int end) const {
   const SurfaceObject* object = Object(number);
   if (!object || object->shape.kind != kKindLink || (end != 0 && end != 1)) return 0;

@@ -23,8 +23,8 @@ std::string RainKeyword(int i_pluie);
 // gives its radius (tag Rayon) and its centre (Xlog, Ylog on the map);
 // without one the storm is centred on the middle of the logical extent with
 // the radius 9999999. X and Y are map coordinates.
-void LocateRainCentre(Surface& surface, const Calibration& calibration, int radius_kind, double& x,
-                      double& y, double& r);
+void LocateRainCentre(const Surface& surface, const Calibration& calibration, int radius_kind,
+                      double& x, double& y, double& r);
 
 // Writes the .Scn file: the scenario's Id, then its Design. False when the
 // file cannot be written.
@@ -36,7 +36,7 @@ bool GenFicScn(const std::string& path, const std::string& id, const std::string
 // and returns 1, even when the rain is missing (the .PLU is then empty).
 // `y_shift` is taken off every ordinate. An external rain whose file cannot
 // be read throws AppError (the driver's handler ends the generation).
-int GenFicPlu(Surface& surface, UserInterface& ui, const Calibration& calibration,
+int GenFicPlu(const Surface& surface, UserInterface& ui, const Calibration& calibration,
               const std::string& scenario_name, const std::string& scn_path,
               const std::string& plu_path, double y_shift = 0);
 

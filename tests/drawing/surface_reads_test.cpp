@@ -83,6 +83,28 @@ TEST_F(SurfaceReads, ARepeatedTagNameAnswersTheFirst) {
   EXPECT_EQ(surface_.FindByTagFrom("libell", "Nod_1"), a);
 }
 
+TEST_F(SurfaceReads, EachTagOfAnObjectIsVisitedInOrder) {
+  const int a = surface_.AddObject(kKindRectangle, 0, 0, 10, 10);
+  surface_.SetCurrentObject(a);
+  surface_.SetObjTag("Pt2", "b");
+  surface_.SetObjTag("NbPt", "2");
+  surface_.SetObjTag("Pt1", "a");
+  const int b = AddElement(99, "Nod_1");
+  surface_.SetCurrentObject(b);
+  std::vector<std::pair<std::string, std::string>> seen;
+  std::as_const(surface_).ForEachTagOf(a, [&](std::string_view name, std::string_view value) {
+    seen.emplace_back(name, value);
+  });
+  using Tags = std::vector<std::pair<std::string, std::string>>;
+  EXPECT_EQ(seen, (Tags{{"Pt2", "b"}, {"NbPt", "2"}, {"Pt1", "a"}}));
+  EXPECT_EQ(surface_.CurrentObject(), b);
+  seen.clear();
+  surface_.ForEachTagOf(0, [&](std::string_view name, std::string_view value) {
+    seen.emplace_back(name, value);
+  });
+  EXPECT_TRUE(seen.empty());
+}
+
 TEST_F(SurfaceReads, ObjectsRunInCreationOrderAndSkipTheDeleted) {
   EXPECT_TRUE(Walk().empty());
   const int a = AddElement(1, "Bv_1");
