@@ -14,15 +14,6 @@ namespace {
 
 constexpr int kNodeKind = 99;
 
-// Calls `visit` on every match in creation order, with the match current.
-template <typename Visit>
-void ForEachMatch(Surface& surface, std::string_view tag_name, const TagMatch& value, Visit visit) {
-  for (int n = surface.FindByTag(tag_name, value, true); n > 0;
-       n = surface.FindByTag(tag_name, value, false)) {
-    visit(n);
-  }
-}
-
 }  // namespace
 
 int FindObject(Surface& surface, std::string_view tag_name, const TagMatch& value) {
@@ -38,44 +29,35 @@ int FindObject(Surface& surface, std::string_view tag_name, const TagMatch& valu
   return std::max(found, 0);
 }
 
-std::vector<int> FindObjectList(Surface& surface, std::string_view tag_name,
+std::vector<int> FindObjectList(const Surface& surface, std::string_view tag_name,
                                 const TagMatch& value) {
-  CursorKeeper keeper(surface);
-  std::vector<int> numbers;
-  ForEachMatch(surface, tag_name, value, [&](int n) { numbers.push_back(n); });
-  return numbers;
+  return surface.FindAllByTag(tag_name, value);
 }
 
-int CountByTag(Surface& surface, std::string_view tag_name, const TagMatch& value) {
-  // Ids are counted from the index: creating an element asks this each time.
-  if (tag_name == kTagId && !value.numeric()) return surface.CountById(value.text());
-  CursorKeeper keeper(surface);
-  surface.SetCurrentObject(kAllObjects);
-  int count = 0;
-  ForEachMatch(surface, tag_name, value, [&](int) { ++count; });
-  return count;
+int CountByTag(const Surface& surface, std::string_view tag_name, const TagMatch& value) {
+  return surface.CountByTag(tag_name, value);
 }
 
-int CountByName(Surface& surface, int i_name) { return CountByTag(surface, kTagIName, i_name); }
+int CountByName(const Surface& surface, int i_name) {
+  return CountByTag(surface, kTagIName, i_name);
+}
 
-int CountLabel(Surface& surface, int i_name, std::string_view label) {
-  CursorKeeper keeper(surface);
+int CountLabel(const Surface& surface, int i_name, std::string_view label) {
   int count = 0;
-  ForEachMatch(surface, kTagIName, i_name, [&](int) {
-    if (EqualsNoCase(surface.ObjTag("libell"), label)) ++count;
-  });
+  for (int n : surface.FindAllByTag(kTagIName, i_name))
+    if (EqualsNoCase(surface.TagOf(n, "libell"), label)) ++count;
   return count;
 }
 
 int SelectByTag(Surface& surface, std::string_view tag_name, const TagMatch& value) {
   CursorKeeper keeper(surface);
   surface.DeselectAll();
-  int count = 0;
-  ForEachMatch(surface, tag_name, value, [&](int) {
+  const std::vector<int> matches = surface.FindAllByTag(tag_name, value);
+  for (int n : matches) {
+    surface.SetCurrentObject(n);
     surface.SetSelected(true);
-    ++count;
-  });
-  return count;
+  }
+  return static_cast<int>(matches.size());
 }
 
 int DeleteByTagId(Surface& surface, std::string_view id) {
@@ -121,16 +103,15 @@ bool IdNumberOf(std::string_view id, int& number) {
   return true;
 }
 
-int MaxIdNumber(Surface& surface, int i_name) {
-  CursorKeeper keeper(surface);
+int MaxIdNumber(const Surface& surface, int i_name) {
   int largest = 0;
   bool any = false;
-  ForEachMatch(surface, kTagIName, i_name, [&](int) {
+  for (int n : surface.FindAllByTag(kTagIName, i_name)) {
     int number = 0;
-    if (!IdNumberOf(surface.ObjTag(kTagId), number)) return;
+    if (!IdNumberOf(surface.TagOf(n, kTagId), number)) continue;
     largest = any ? std::max(largest, number) : number;
     any = true;
-  });
+  }
   return largest < 0 ? 0 : largest;
 }
 

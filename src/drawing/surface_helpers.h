@@ -20,12 +20,14 @@ namespace pluvane {
 // 0 if none, and the cursor is put back. Searches on "Id" go through the index.
 int FindObject(Surface& surface, std::string_view tag_name, const TagMatch& value);
 // The numbers of all such objects (their count is the size).
-std::vector<int> FindObjectList(Surface& surface, std::string_view tag_name, const TagMatch& value);
-int CountByTag(Surface& surface, std::string_view tag_name, const TagMatch& value);
+// These, and the counts, leave the cursor alone.
+std::vector<int> FindObjectList(const Surface& surface, std::string_view tag_name,
+                                const TagMatch& value);
+int CountByTag(const Surface& surface, std::string_view tag_name, const TagMatch& value);
 // Objects of a kind of element (tag iName).
-int CountByName(Surface& surface, int i_name);
+int CountByName(const Surface& surface, int i_name);
 // Objects of the kind whose libell is `label`, compared without regard to case.
-int CountLabel(Surface& surface, int i_name, std::string_view label);
+int CountLabel(const Surface& surface, int i_name, std::string_view label);
 // Replaces the selection by every match; returns how many.
 int SelectByTag(Surface& surface, std::string_view tag_name, const TagMatch& value);
 // Deletes every object whose Id is `id` (with its links); returns how many.
@@ -40,7 +42,7 @@ int FindFirstWithBoth(const Surface& surface, std::string_view tag1, const TagMa
 std::vector<int> SelectedObjects(Surface& surface);
 // The largest number after the first underscore of Id over the objects of the
 // kind ("Rsp_4" gives 4); 0 if none, or if that largest is negative.
-int MaxIdNumber(Surface& surface, int i_name);
+int MaxIdNumber(const Surface& surface, int i_name);
 // The same for every kind 1 to 99 in one walk of the drawing (index 0 unused).
 std::array<int, 100> MaxIdNumbers(const Surface& surface);
 // The number after the first underscore of an Id; false when there is none.
