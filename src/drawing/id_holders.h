@@ -17,6 +17,13 @@ class IdHolders {
     return first_ ? std::vector<int>{first_} : std::vector<int>();
   }
 
+  // The first holder above `number`, 0 if none.
+  int After(int number) const {
+    if (many_.empty()) return first_ > number ? first_ : 0;
+    auto at = std::upper_bound(many_.begin(), many_.end(), number);
+    return at == many_.end() ? 0 : *at;
+  }
+
   // Object numbers are above zero.
   void Insert(int number) {
     if (first_ == 0) {

@@ -43,6 +43,10 @@ int Surface::LinkEndOf(int number, int end) const {
 }
 
 int Surface::FindByTagFrom(std::string_view name, const TagMatch& value, int after) const {
+  if (name == kTagId && !value.numeric()) {
+    const auto found = id_index_.find(value.text());
+    return found == id_index_.end() ? 0 : found->second.After(after);
+  }
   const auto id = names_.Find(name);
   if (!id) return 0;
   if (const TagIndex* index = IndexOfTag(*id)) {

@@ -55,11 +55,7 @@ bool IsPlainKey(std::string_view id) {
 }  // namespace
 
 void NodeNumbering::Add(std::string_view id, int place) {
-  if (IsPlainKey(id)) {
-    if (places_.find(id) == places_.end()) places_.emplace(std::string(id), place);
-    return;
-  }
-  places_.try_emplace(UCase(Trim(id)), place);
+  places_.try_emplace(IsPlainKey(id) ? std::string(id) : UCase(Trim(id)), place);
 }
 
 NodeNumbering::NodeNumbering(const std::vector<std::string>& ids) {

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "drawing/surface.h"
+#include "drawing/tag_names.h"
 
 namespace pluvane {
 
@@ -60,13 +61,7 @@ class NodeNumbering {
 
  private:
   void Add(std::string_view id, int place);
-  struct Hash {
-    using is_transparent = void;
-    std::size_t operator()(std::string_view text) const noexcept {
-      return std::hash<std::string_view>{}(text);
-    }
-  };
-  std::unordered_map<std::string, int, Hash, std::equal_to<>> places_;
+  std::unordered_map<std::string, int, TextHash, std::equal_to<>> places_;
 };
 
 }  // namespace pluvane

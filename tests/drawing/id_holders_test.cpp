@@ -48,5 +48,19 @@ TEST(IdHolders, SeveralHoldersStayInAscendingOrder) {
   EXPECT_TRUE(holders.Empty());
 }
 
+TEST(IdHolders, TheHolderAfterANumberIsTheNextAboveIt) {
+  IdHolders holders;
+  EXPECT_EQ(holders.After(0), 0);
+  holders.Insert(12);
+  EXPECT_EQ(holders.After(0), 12);
+  EXPECT_EQ(holders.After(12), 0);
+  holders.Insert(30);
+  holders.Insert(25);
+  EXPECT_EQ(holders.After(0), 12);
+  EXPECT_EQ(holders.After(12), 25);
+  EXPECT_EQ(holders.After(26), 30);
+  EXPECT_EQ(holders.After(30), 0);
+}
+
 }  // namespace
 }  // namespace pluvane

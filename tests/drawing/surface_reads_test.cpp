@@ -185,7 +185,17 @@ TEST_F(SurfaceReads, IdsAreFoundExactly) {
   EXPECT_EQ(surface_.FindAllByTag("Id", "Nod_1"), (std::vector<int>{a, c}));
   EXPECT_EQ(surface_.CountByTag("Id", "Nod_1"), 2);
   EXPECT_EQ(surface_.CountByTag("Id", "nod_1"), 0);
+  EXPECT_EQ(surface_.FindByTagFrom("Id", "Nod_1"), a);
   EXPECT_EQ(surface_.FindByTagFrom("Id", "Nod_1", a), c);
+  EXPECT_EQ(surface_.FindByTagFrom("Id", "Nod_1", c), 0);
+  EXPECT_EQ(surface_.FindByTagFrom("Id", "nod_1"), 0);
+  // Only the first Id of an object counts, as for every tag.
+  surface_.SetCurrentObject(a);
+  const int count = surface_.ObjTagCount();
+  surface_.SetObjTagCount(count + 1);
+  surface_.SetObjTagName(count, "Id");
+  surface_.SetObjTagValue(count, "Nod_2");
+  EXPECT_EQ(surface_.FindByTagFrom("Id", "Nod_2"), a + 1);
 }
 
 TEST_F(SurfaceReads, FindsSeeEveryChangeBetweenThem) {
