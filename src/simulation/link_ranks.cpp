@@ -34,7 +34,7 @@ int LinkWalk::LinkRankOf(int handle, std::string_view text) const {
     ranks_.reserve(elements_.size());
     int rank = 0;
     for (const LinkElement& element : elements_)
-      ranks_.try_emplace(surface_.TagOf(element.number, "libell"), ++rank);
+      ranks_.try_emplace(std::string(surface_.TagOf(element.number, "libell")), ++rank);
     ranked_ = true;
   }
   const auto found = ranks_.find(text);

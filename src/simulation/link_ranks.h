@@ -43,8 +43,10 @@ class LinkWalk {
  private:
   const Surface& surface_;
   std::vector<LinkElement> elements_;
-  // Built at the first look-up: the binary file never asks.
-  mutable std::unordered_map<std::string_view, int> ranks_;
+  // Built at the first look-up: the binary file never asks. The labels are
+  // copied, so that a look-up compares within the table rather than reaching
+  // back into the drawing.
+  mutable std::unordered_map<std::string, int, TextHash, std::equal_to<>> ranks_;
   mutable bool ranked_ = false;
   bool drawing_empty_ = true;
 };
