@@ -7,7 +7,7 @@
 set -euo pipefail
 packages=(cmake ninja-build g++ clang clang-tidy make pkg-config
           qt6-base-dev libqt6svg6-dev libgl-dev
-          nlohmann-json3-dev libgtest-dev libgmock-dev libgdal-dev gdal-bin
+          nlohmann-json3-dev libabsl-dev libgtest-dev libgmock-dev libgdal-dev gdal-bin
           fonts-dejavu-core poppler-utils
           xvfb x11-utils locales)
 missing=()

@@ -297,10 +297,10 @@ void Surface::Apply(JournalRecord& record) {
     if (object) std::swap(object->shape, *shape->shape);
     ++shape_revision_;
   } else if (auto* value = std::get_if<TagValueRecord>(&record)) {
-    ++tag_revision_;
     SurfaceObject* object = Object(value->number);
     if (!object || value->position >= object->tags.size()) return;
     TagBlock& tags = object->tags;
+    TagsChanged(tags.Name(value->position));
     const bool id = tags.Name(value->position) == id_name_;
     const auto old_id = id ? IdOf(*object) : std::nullopt;
     std::string old(tags.Value(value->position));
@@ -308,20 +308,22 @@ void Surface::Apply(JournalRecord& record) {
     value->value = std::move(old);
     if (id) ReindexAround(value->number, old_id);
   } else if (auto* name = std::get_if<TagNameRecord>(&record)) {
-    ++tag_revision_;
     SurfaceObject* object = Object(name->number);
     if (!object || name->position >= object->tags.size()) return;
     const auto old_id = IdOf(*object);
     const std::uint32_t old = object->tags.Name(name->position);
+    TagsChanged(old);
+    TagsChanged(name->name);
     object->tags.SetName(name->position, name->name);
     name->name = old;
     ReindexAround(name->number, old_id);
   } else if (auto* tail = std::get_if<TagTailRecord>(&record)) {
-    ++tag_revision_;
     SurfaceObject* object = Object(tail->number);
     if (!object || tail->position > object->tags.size()) return;
     const auto old_id = IdOf(*object);
     TagBlock old = object->tags.Tail(tail->position);
+    for (const Tag tag : old) TagsChanged(tag.name);
+    for (const Tag tag : tail->tail) TagsChanged(tag.name);
     object->tags.Truncate(tail->position);
     object->tags.Extend(tail->tail);
     tail->tail = std::move(old);
@@ -377,6 +379,16 @@ void Surface::SetObjTag(std::string_view name, std::string_view value) {
 }
 
 void Surface::SetObjTag(std::string_view name, double value) { SetObjTag(name, NumToText(value)); }
+
+void Surface::TagsChanged(std::uint32_t name) {
+  for (TagIndex& index : tag_indexes_)
+    if (index.name == name) index.asked = index.built = 0;
+}
+
+const Surface::TagIndex* Surface::IndexOfTagNow(std::uint32_t name) const {
+  const TagIndex* index = IndexOfTag(name);
+  return index ? index : IndexOfTag(name);
+}
 
 const Surface::TagIndex* Surface::IndexOfTag(std::uint32_t name) const {
   constexpr std::size_t kMaxValues = 64;

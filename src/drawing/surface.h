@@ -19,9 +19,10 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <utility>
 #include <vector>
+
+#include <absl/container/flat_hash_map.h>
 
 #include "drawing/edit_modes.h"
 #include "drawing/surface_journal.h"
@@ -130,6 +131,10 @@ class Surface {
   // the values are few (kinds, groups).
   std::vector<int> FindAllWhere(std::string_view name,
                                 const std::function<bool(std::string_view)>& keep) const;
+  // The same, each object with that value (which lives as long as the
+  // drawing does not change).
+  std::vector<std::pair<int, std::string_view>> FindAllWhereWithValues(
+      std::string_view name, const std::function<bool(std::string_view)>& keep) const;
 
   // --- Selection ---
   bool Selected() const;
@@ -402,7 +407,7 @@ class Surface {
   int base_ = kFirstObjectNumber;
   int live_count_ = 0;
   int selected_count_ = 0;
-  std::unordered_map<std::string, IdHolders, TextHash, std::equal_to<>> id_index_;
+  absl::flat_hash_map<std::string, IdHolders, TextHash, std::equal_to<>> id_index_;
   // Values of one tag name and the objects whose first tag of that name holds
   // each (ascending), for the searches of FindByTag. Built when a search of
   // that name comes again with no tag changed in between, and only for names
@@ -416,7 +421,13 @@ class Surface {
     std::vector<std::pair<std::string, std::vector<int>>> values;
   };
   const TagIndex* IndexOfTag(std::uint32_t name) const;
-  // Grows at every change of tags or of the objects that exist.
+  // The same built at once, for the reads that would otherwise walk the
+  // whole drawing.
+  const TagIndex* IndexOfTagNow(std::uint32_t name) const;
+  // A tag of that name was written, added, renamed or taken away: its index
+  // goes stale, those of other names stay.
+  void TagsChanged(std::uint32_t name);
+  // Grows at every change of the objects that exist.
   std::uint64_t tag_revision_ = 1;
   // A cache of the searches, built by the const ones too.
   mutable std::vector<TagIndex> tag_indexes_;

@@ -77,7 +77,7 @@ std::vector<int> Surface::FindAllByTag(std::string_view name, const TagMatch& va
   std::vector<int> numbers;
   const auto id = names_.Find(name);
   if (!id) return numbers;
-  if (const TagIndex* index = IndexOfTag(*id)) {
+  if (const TagIndex* index = IndexOfTagNow(*id)) {
     for (const auto& [text, holders] : index->values)
       if (value.Matches(text)) numbers.insert(numbers.end(), holders.begin(), holders.end());
     std::sort(numbers.begin(), numbers.end());
@@ -95,25 +95,32 @@ int Surface::CountByTag(std::string_view name, const TagMatch& value) const {
 
 std::vector<int> Surface::FindAllWhere(std::string_view name,
                                        const std::function<bool(std::string_view)>& keep) const {
-  std::vector<int> numbers;
+  const auto found = FindAllWhereWithValues(name, keep);
+  std::vector<int> numbers(found.size());
+  std::transform(found.begin(), found.end(), numbers.begin(), [](auto& f) { return f.first; });
+  return numbers;
+}
+
+std::vector<std::pair<int, std::string_view>> Surface::FindAllWhereWithValues(
+    std::string_view name, const std::function<bool(std::string_view)>& keep) const {
+  std::vector<std::pair<int, std::string_view>> found;
   const auto id = names_.Find(name);
-  if (!id) return numbers;
-  // The index is built here at once: this read replaces a walk of the drawing.
-  const TagIndex* index = IndexOfTag(*id);
-  if (!index) index = IndexOfTag(*id);
-  if (index) {
+  if (!id) return found;
+  if (const TagIndex* index = IndexOfTagNow(*id)) {
     for (const auto& [text, holders] : index->values)
-      if (keep(text)) numbers.insert(numbers.end(), holders.begin(), holders.end());
-    std::sort(numbers.begin(), numbers.end());
-    return numbers;
+      if (keep(text))
+        for (int n : holders) found.emplace_back(n, text);
+    std::sort(found.begin(), found.end(),
+              [](const auto& a, const auto& b) { return a.first < b.first; });
+    return found;
   }
   for (std::size_t slot = 0; slot < slots_.size(); ++slot) {
     const SurfaceObject* object = slots_[slot].get();
     if (!object) continue;
     const auto text = FirstTag(*object, *id);
-    if (text && keep(*text)) numbers.push_back(NumberOfSlot(slot));
+    if (text && keep(*text)) found.emplace_back(NumberOfSlot(slot), *text);
   }
-  return numbers;
+  return found;
 }
 
 }  // namespace pluvane

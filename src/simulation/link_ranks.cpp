@@ -21,24 +21,64 @@ bool IsLinkElement(int i_name) {
 
 int LinkKindCode(int i_name) { return i_name == kINameMark ? kINamePLU : i_name; }
 
+const std::vector<const char*>& RankTagsOf(int kind) {
+  static const std::vector<const char*> divider = {"IdAval", "IdDer_a", "IdDer_b", "IdDer_c"};
+  static const std::vector<const char*> basin = {"IdAval", "IdSurv"};
+  static const std::vector<const char*> none;
+  switch (kind) {
+    case kINameDQQ:
+    case kINameDQZ:
+      return divider;
+    case kINameRS:
+    case kINameRSP:
+      return basin;
+    default:
+      return none;
+  }
+}
+
 LinkWalk::LinkWalk(const Surface& surface) : surface_(surface) {
   drawing_empty_ = surface.ObjectCount(kAllObjects) == 0;
   const auto element = [](std::string_view i_name) { return IsLinkElement(ValRoundInt(i_name)); };
-  for (int n : surface.FindAllWhere(kTagIName, element))
-    elements_.push_back({n, ValRoundInt(surface.TagOf(n, kTagIName))});
+  for (const auto& [n, i_name] : surface.FindAllWhereWithValues(kTagIName, element))
+    elements_.push_back({n, ValRoundInt(i_name)});
 }
 
 int LinkWalk::LinkRankOf(int handle, std::string_view text) const {
   if (Trim(text).empty() || handle < kFirstElementHandle || drawing_empty_) return 0;
-  if (!ranked_) {
-    ranks_.reserve(elements_.size());
-    int rank = 0;
-    for (const LinkElement& element : elements_)
-      ranks_.try_emplace(std::string(surface_.TagOf(element.number, "libell")), ++rank);
-    ranked_ = true;
+  if (!ranked_) RankAskedLabels();
+  auto found = ranks_.find(text);
+  if (found == ranks_.end()) found = ranks_.try_emplace(std::string(text), FirstRankOf(text)).first;
+  return found->second > 0 ? found->second : count();
+}
+
+void LinkWalk::RankAskedLabels() const {
+  ranked_ = true;
+  for (const LinkElement& element : elements_)
+    for (const char* tag : RankTagsOf(element.kind)) {
+      const std::string_view label = surface_.TagOf(element.number, tag);
+      if (!Trim(label).empty()) ranks_.try_emplace(std::string(label), 0);
+    }
+  std::size_t left = ranks_.size();
+  int rank = 0;
+  for (const LinkElement& element : elements_) {
+    if (left == 0) break;
+    ++rank;
+    const auto found = ranks_.find(surface_.TagOf(element.number, "libell"));
+    if (found != ranks_.end() && found->second == 0) {
+      found->second = rank;
+      --left;
+    }
   }
-  const auto found = ranks_.find(text);
-  return found != ranks_.end() ? found->second : count();
+}
+
+int LinkWalk::FirstRankOf(std::string_view label) const {
+  int rank = 0;
+  for (const LinkElement& element : elements_) {
+    ++rank;
+    if (surface_.TagOf(element.number, "libell") == label) return rank;
+  }
+  return 0;
 }
 
 namespace {

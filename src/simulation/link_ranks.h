@@ -6,8 +6,9 @@
 
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
+
+#include <absl/container/flat_hash_map.h>
 
 #include "drawing/surface.h"
 #include "drawing/tag_names.h"
@@ -19,6 +20,12 @@ namespace pluvane {
 bool IsLinkElement(int i_name);
 // The kind written in .LI1: the iName, except a mark (16), written as 12.
 int LinkKindCode(int i_name);
+
+// The tags through which an element of that kind names other elements by
+// their label, in the order of its ranks in .LI1: a divider's downstream
+// element then its three branches (as many as its NbDer), a basin's
+// downstream element then its overflow. Empty for the other kinds.
+const std::vector<const char*>& RankTagsOf(int kind);
 
 struct LinkElement {
   int number = 0;  // object number
@@ -41,12 +48,17 @@ class LinkWalk {
   int LinkRankOf(int handle, std::string_view text) const;
 
  private:
+  // The first rank of each label the elements ask for (RankTagsOf), found
+  // in one read of the labels that stops when all are found.
+  void RankAskedLabels() const;
+  // The first rank of a label, 0 when no element has it.
+  int FirstRankOf(std::string_view label) const;
+
   const Surface& surface_;
   std::vector<LinkElement> elements_;
-  // Built at the first look-up: the binary file never asks. The labels are
-  // copied, so that a look-up compares within the table rather than reaching
-  // back into the drawing.
-  mutable std::unordered_map<std::string, int, TextHash, std::equal_to<>> ranks_;
+  // Built at the first look-up: the binary file never asks. Labels asked
+  // later are added as they come.
+  mutable absl::flat_hash_map<std::string, int, TextHash, std::equal_to<>> ranks_;
   mutable bool ranked_ = false;
   bool drawing_empty_ = true;
 };
@@ -63,7 +75,7 @@ class NodeNumbering {
 
  private:
   void Add(std::string_view id, int place);
-  std::unordered_map<std::string, int, TextHash, std::equal_to<>> places_;
+  absl::flat_hash_map<std::string, int, TextHash, std::equal_to<>> places_;
 };
 
 }  // namespace pluvane

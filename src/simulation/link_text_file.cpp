@@ -1,4 +1,5 @@
 // .LI1, one line for each element in rank order.
+#include <algorithm>
 #include <array>
 
 #include "foundation/errors.h"
@@ -24,8 +25,6 @@ struct LinkTargets {
   // The downstream element, then the three branches (or the overflow).
   std::array<std::int32_t, 4> ranks{};
 };
-
-constexpr std::array<const char*, 3> kBranchTags = {"IdDer_a", "IdDer_b", "IdDer_c"};
 
 LinkTargets TargetsOf(const Surface& surface, const LinkElement& element, const LinkWalk& walk,
                       const NodeNumbering& nodes) {
@@ -62,19 +61,19 @@ LinkTargets TargetsOf(const Surface& surface, const LinkElement& element, const 
       t.downstream = node(kTagSNodAv);
       break;
     case kINameDQQ:
-    case kINameDQZ: {
+    case kINameDQZ:
+    case kINameRS:
+    case kINameRSP: {
       t.upstream = node(kTagSNodAm);
-      t.ranks[0] = rank("IdAval");
-      const int branches = ValRoundInt(tag("NbDer"));
-      for (int i = 0; i < 3 && i < branches; ++i) t.ranks[i + 1] = rank(kBranchTags[i]);
+      const std::vector<const char*>& targets = RankTagsOf(element.kind);
+      // A divider names its downstream element, then as many branches as it has.
+      const bool divider = element.kind == kINameDQQ || element.kind == kINameDQZ;
+      const std::size_t asked =
+          divider ? 1 + static_cast<std::size_t>(std::clamp<int>(ValRoundInt(tag("NbDer")), 0, 3))
+                  : targets.size();
+      for (std::size_t i = 0; i < asked; ++i) t.ranks[i] = rank(targets[i]);
       break;
     }
-    case kINameRS:
-    case kINameRSP:
-      t.upstream = node(kTagSNodAm);
-      t.ranks[0] = rank("IdAval");
-      t.ranks[1] = rank("IdSurv");
-      break;
     default:
       break;
   }

@@ -178,6 +178,51 @@ TEST_F(SurfaceReads, FindAllWhereReadsEveryObjectWhenValuesAreMany) {
   for (int run = 0; run < 3; ++run) EXPECT_EQ(surface_.FindAllWhere("Id", keep), even);
 }
 
+TEST_F(SurfaceReads, FindAllWhereWithValuesGivesEachObjectItsValue) {
+  const int a = AddElement(5, "Cac_1");
+  AddElement(99, "Nod_1");
+  const int c = AddElement(6, "Caf_1");
+  const int d = AddElement(5, "Cac_2");
+  using Found = std::vector<std::pair<int, std::string_view>>;
+  const auto collectors = [](std::string_view value) { return value != "99"; };
+  for (int run = 0; run < 3; ++run)  // read from the objects, then from the index of values
+    EXPECT_EQ(surface_.FindAllWhereWithValues("iName", collectors),
+              (Found{{a, "5"}, {c, "6"}, {d, "5"}}));
+  const auto even = [](std::string_view id) { return id.back() == '2'; };
+  EXPECT_EQ(surface_.FindAllWhereWithValues("Id", even), (Found{{d, "Cac_2"}}));
+  EXPECT_TRUE(surface_.FindAllWhereWithValues("NoSuchTag", collectors).empty());
+}
+
+TEST_F(SurfaceReads, KindSearchesSeeEveryChangeOfKindsAndNoneOfOtherTags) {
+  const int a = AddElement(5, "Cac_1");
+  const int b = AddElement(99, "Nod_1");
+  const int c = surface_.AddObject(kKindRectangle, 0, 0, 1, 1);  // no kind yet
+  const auto collectors = [&] { return surface_.FindAllByTag("iName", 5); };
+  for (int run = 0; run < 3; ++run) EXPECT_EQ(collectors(), std::vector<int>{a});
+  // Another tag changes: the kinds stay as they were.
+  surface_.SetCurrentObject(b);
+  surface_.SetObjTag("libell", "Noeud 1");
+  EXPECT_EQ(collectors(), std::vector<int>{a});
+  EXPECT_EQ(collectors(), std::vector<int>{a});
+  // A kind changes value.
+  surface_.SetObjTag("iName", "5");
+  for (int run = 0; run < 3; ++run) EXPECT_EQ(collectors(), (std::vector<int>{a, b}));
+  // A kind is added at the end of an object's tags.
+  surface_.SetCurrentObject(c);
+  surface_.SetObjTag("iName", "5");
+  for (int run = 0; run < 3; ++run) EXPECT_EQ(collectors(), (std::vector<int>{a, b, c}));
+  // A tag is renamed away from the kind, then back by undo.
+  surface_.SetCurrentObject(a);
+  surface_.SetObjTagName(0, "Ancien");
+  ASSERT_EQ(surface_.TagOf(a, "iName"), "");
+  for (int run = 0; run < 3; ++run) EXPECT_EQ(collectors(), (std::vector<int>{b, c}));
+  ASSERT_TRUE(surface_.Undo());
+  for (int run = 0; run < 3; ++run) EXPECT_EQ(collectors(), (std::vector<int>{a, b, c}));
+  // Undoing the added kind takes it away again.
+  ASSERT_TRUE(surface_.Undo());
+  for (int run = 0; run < 3; ++run) EXPECT_EQ(collectors(), (std::vector<int>{a, b}));
+}
+
 TEST_F(SurfaceReads, IdsAreFoundExactly) {
   const int a = AddElement(99, "Nod_1");
   AddElement(99, "Nod_2");

@@ -97,6 +97,26 @@ TEST_F(LinkFiles, AnUnknownOrMiscasedTargetIsTheLastElement) {
   EXPECT_EQ(Targets(3), "         1         0         4         1         0         0");
 }
 
+TEST_F(LinkFiles, TargetsAfterTheAskingElementAreRankedToo) {
+  const int node = Node(1000, 1000);
+  Set(Symbol("X_DQQ", 0, 0, node), {{"NbDer", "1"}, {"IdAval", "Aval"}, {"IdDer_a", "Branche"}});
+  Set(Link("X_CAC", node, Node(2000, 1000)), {{"libell", "Branche"}});
+  Set(Link("X_CAC", node, Node(3000, 1000)), {{"libell", "Aval"}});
+  const int last = Link("X_CAC", node, Node(4000, 1000));
+  Set(last, {{"libell", "Aval"}});
+  Set(Link("X_CAC", node, Node(5000, 1000)), {{"libell", "Dernier"}});
+  Generate();
+  EXPECT_EQ(Targets(1), "         1         0         3         2         0         0");
+  // A label no element asks for is found as well, and found again the same.
+  const LinkWalk walk(surface);
+  EXPECT_EQ(walk.LinkRankOf(last, "Aval"), 3);
+  EXPECT_EQ(walk.LinkRankOf(last, "Dernier"), 5);
+  EXPECT_EQ(walk.LinkRankOf(last, "Dernier"), 5);
+  EXPECT_EQ(walk.LinkRankOf(last, "Branche"), 2);
+  EXPECT_EQ(walk.LinkRankOf(last, "Personne"), 5);
+  EXPECT_EQ(walk.LinkRankOf(last, "Personne"), 5);
+}
+
 TEST_F(LinkFiles, NodeIdsMatchInAnyCase) {
   const int a = Node(1000, 1000), b = Node(2000, 1000);
   Set(Link("X_CAC", a, b), {{"sNodAm", " NOD_2"}, {"sNodAv", "nod_1  "}});
