@@ -25,8 +25,9 @@ set(CPACK_STRIP_FILES ON)
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION science)
-# The Qt 6 libraries the programs link, GDAL (the GIS layers), and the C++ runtime.
+# The Qt 6 libraries the programs link, GDAL (the GIS layers), abseil (the
+# hash maps of the big tables), and the C++ runtime.
 set(CPACK_DEBIAN_PACKAGE_DEPENDS
-    "libqt6core6 (>= 6.4), libqt6gui6 (>= 6.4), libqt6widgets6 (>= 6.4), libqt6svg6 (>= 6.4), libqt6printsupport6 (>= 6.4), libgdal32 (>= 3.6), libstdc++6 (>= 12), libc6 (>= 2.36)")
+    "libqt6core6 (>= 6.4), libqt6gui6 (>= 6.4), libqt6widgets6 (>= 6.4), libqt6svg6 (>= 6.4), libqt6printsupport6 (>= 6.4), libgdal32 (>= 3.6), libabsl20220623, libstdc++6 (>= 12), libc6 (>= 2.36)")
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "xdg-utils, shared-mime-info, desktop-file-utils")
 include(CPack)

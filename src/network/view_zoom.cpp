@@ -13,9 +13,12 @@ namespace pluvane {
 bool NetworkBounds(const Surface& surface, std::int32_t& left, std::int32_t& top,
                    std::int32_t& right, std::int32_t& bottom) {
   bool any = false;
-  for (int n : surface.Objects()) {
-    const double i_name = Val(surface.TagOf(n, kTagIName));
-    if (i_name <= 0 || i_name >= kINameReach) continue;
+  const auto element = [](std::string_view i_name) {
+    const double kind = Val(i_name);
+    return kind > 0 && kind < kINameReach;
+  };
+  // Through the index of kinds, which the model writers then find built.
+  for (const int n : surface.FindAllWhere(kTagIName, element)) {
     const Box& box = surface.ObjectShape(n)->box;
     if (!any) {
       left = box.left, top = box.top, right = box.right, bottom = box.bottom;
