@@ -28,7 +28,7 @@ std::unique_ptr<std::uint32_t[]> TagBlock::Allocate(std::size_t count, std::size
 std::size_t TagBlock::Find(std::uint32_t name) const {
   const std::size_t count = size();
   for (std::size_t i = 0; i < count; ++i)
-    if (block_[1 + 2 * i] == name) return i;
+    if (block_[1 + i] == name) return i;
   return count;
 }
 

@@ -106,10 +106,11 @@ struct Tag {
   std::string_view value;
 };
 
-// The ordered tags of an object in one block: the number of tags, then for
-// each its name and where its text ends, then the texts end to end. An object
-// without tags holds no block. Tags are written far less often than read, so
-// every change builds the block again.
+// The ordered tags of an object in one block: the number of tags, their
+// names, where the text of each ends, then the texts end to end. The names
+// side by side keep a search short in memory. An object without tags holds no
+// block. Tags are written far less often than read, so every change builds
+// the block again.
 class TagBlock {
  public:
   TagBlock() = default;
@@ -121,10 +122,11 @@ class TagBlock {
 
   std::size_t size() const { return block_ ? block_[0] : 0; }
   bool empty() const { return size() == 0; }
-  std::uint32_t Name(std::size_t i) const { return block_[1 + 2 * i]; }
+  std::uint32_t Name(std::size_t i) const { return block_[1 + i]; }
   std::string_view Value(std::size_t i) const {
-    const std::uint32_t begin = i == 0 ? 0 : block_[2 + 2 * (i - 1)];
-    return {Text() + begin, block_[2 + 2 * i] - begin};
+    const std::uint32_t* ends = Ends();
+    const std::uint32_t begin = i == 0 ? 0 : ends[i - 1];
+    return {Text() + begin, ends[i] - begin};
   }
   Tag operator[](std::size_t i) const { return Tag{Name(i), Value(i)}; }
   // Position of the first tag of that name, size() if none.
@@ -134,7 +136,7 @@ class TagBlock {
   template <typename Source>
   void Assign(std::size_t count, Source tag);
   void Append(std::uint32_t name, std::string_view value);
-  void SetName(std::size_t i, std::uint32_t name) { block_[1 + 2 * i] = name; }
+  void SetName(std::size_t i, std::uint32_t name) { block_[1 + i] = name; }
   void SetValue(std::size_t i, std::string_view value);
   // Keeps the first `count` tags.
   void Truncate(std::size_t count);
@@ -166,7 +168,9 @@ class TagBlock {
   Iterator end() const { return Iterator(this, size()); }
 
  private:
+  const std::uint32_t* Ends() const { return block_.get() + 1 + size(); }
   const char* Text() const { return reinterpret_cast<const char*>(block_.get() + 1 + 2 * size()); }
+  // The end of the last text, the word before the texts.
   std::size_t TextSize() const { return empty() ? 0 : block_[2 * size()]; }
   std::size_t Words() const { return 1 + 2 * size() + (TextSize() + 3) / 4; }
   // A block for `count` tags and `text` characters, its count set.
@@ -190,8 +194,8 @@ void TagBlock::Assign(std::size_t count, Source tag) {
     const Tag t = tag(i);
     t.value.copy(chars + end, t.value.size());
     end += static_cast<std::uint32_t>(t.value.size());
-    block[1 + 2 * i] = t.name;
-    block[2 + 2 * i] = end;
+    block[1 + i] = t.name;
+    block[1 + count + i] = end;
   }
   block_ = std::move(block);
 }

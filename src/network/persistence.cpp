@@ -145,7 +145,10 @@ bool OpenNetwork(NetworkSession& s, bool direct, const std::string& path) {
 
   s.state.ScenarioName.clear();
   s.ui.ShowPanel("sbrSCN", "");
-  if (FindObject(s.surface, kTagIName, kINameCurrentScenario) > 10) {
+  // Through the index of kinds, which the bounds of the network need next.
+  const std::vector<int> current = s.surface.FindAllByTag(kTagIName, kINameCurrentScenario);
+  if (!current.empty() && current.front() > 10) {
+    s.surface.SetCurrentObject(current.front());
     s.state.ScenarioName = Trim(s.surface.ObjTag(kTagId));
     s.ui.ShowPanel("sbrSCN",
                    s.state.ScenarioName + ScenarioModeText(s.surface, s.state.ScenarioName));
