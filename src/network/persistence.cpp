@@ -1,5 +1,6 @@
 #include "network/persistence.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <cmath>
 
@@ -177,13 +178,14 @@ void RestoreNetworkParameters(NetworkSession& s) {
 
   // Library records and the parameters stay out of sight.
   const int saved = surface.CurrentObject();
-  std::vector<int> hidden;
-  for (int n : surface.Objects()) {
-    const double i_name = Val(surface.TagOf(n, kTagIName));
-    if ((i_name >= kINameReach && i_name <= 999) || surface.TagOf(n, kTagId) == kParamReseau) {
-      hidden.push_back(n);
-    }
-  }
+  // Found through the indexes of kinds and Ids rather than by a walk of the drawing.
+  std::vector<int> hidden = surface.FindAllWhere(kTagIName, [](std::string_view i_name) {
+    const double kind = Val(i_name);
+    return kind >= kINameReach && kind <= 999;
+  });
+  for (int n : surface.FindAllByTag(kTagId, kParamReseau)) hidden.push_back(n);
+  std::sort(hidden.begin(), hidden.end());
+  hidden.erase(std::unique(hidden.begin(), hidden.end()), hidden.end());
   for (int n : hidden) HideRecord(surface, state, n);
   surface.SetCurrentObject(saved);
 

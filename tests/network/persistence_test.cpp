@@ -232,6 +232,21 @@ TEST_F(PersistenceTest, LibraryRecordsAndParametersAreHiddenAfterOpening) {
   EXPECT_FALSE(surface_.ObjectVisible());
 }
 
+TEST_F(PersistenceTest, OnlyKindsFrom100To999AndTheParametersAreHidden) {
+  AddElement(99, "Nod_1", 500, 500);
+  AddElement(999, "Dernier", 500, 500);
+  AddElement(1000, "Au-dela", 500, 500);
+  const std::string path = SaveAndClear("bornes.mtf");
+  NetworkSession s = Session();
+  ASSERT_TRUE(OpenNetwork(s, true, path));
+  ASSERT_GT(FindObject(surface_, "Id", "Nod_1"), 10);
+  EXPECT_TRUE(surface_.ObjectVisible());
+  ASSERT_GT(FindObject(surface_, "Id", "Dernier"), 10);
+  EXPECT_FALSE(surface_.ObjectVisible());
+  ASSERT_GT(FindObject(surface_, "Id", "Au-dela"), 10);
+  EXPECT_TRUE(surface_.ObjectVisible());
+}
+
 TEST_F(PersistenceTest, TheCurrentScenarioIsShownWithItsMode) {
   AddElement(99, "Nod_1");
   AddElement(111, "Crue");
