@@ -48,7 +48,11 @@ int LinkWalk::LinkRankOf(int handle, std::string_view text) const {
   if (Trim(text).empty() || handle < kFirstElementHandle || drawing_empty_) return 0;
   if (!ranked_) RankAskedLabels();
   auto found = ranks_.find(text);
-  if (found == ranks_.end()) found = ranks_.try_emplace(std::string(text), FirstRankOf(text)).first;
+  if (found == ranks_.end()) {
+    LabelRanks one{{std::string(text), 0}};
+    RankLabels(one);
+    found = ranks_.insert(*one.begin()).first;
+  }
   return found->second > 0 ? found->second : count();
 }
 
@@ -59,26 +63,22 @@ void LinkWalk::RankAskedLabels() const {
       const std::string_view label = surface_.TagOf(element.number, tag);
       if (!Trim(label).empty()) ranks_.try_emplace(std::string(label), 0);
     }
-  std::size_t left = ranks_.size();
+  RankLabels(ranks_);
+}
+
+void LinkWalk::RankLabels(LabelRanks& ranks) const {
+  std::size_t left = 0;
+  for (const auto& [label, rank] : ranks) left += rank == 0 ? 1 : 0;
   int rank = 0;
   for (const LinkElement& element : elements_) {
     if (left == 0) break;
     ++rank;
-    const auto found = ranks_.find(surface_.TagOf(element.number, "libell"));
-    if (found != ranks_.end() && found->second == 0) {
+    const auto found = ranks.find(surface_.TagOf(element.number, "libell"));
+    if (found != ranks.end() && found->second == 0) {
       found->second = rank;
       --left;
     }
   }
-}
-
-int LinkWalk::FirstRankOf(std::string_view label) const {
-  int rank = 0;
-  for (const LinkElement& element : elements_) {
-    ++rank;
-    if (surface_.TagOf(element.number, "libell") == label) return rank;
-  }
-  return 0;
 }
 
 namespace {

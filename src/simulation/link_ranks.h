@@ -48,17 +48,19 @@ class LinkWalk {
   int LinkRankOf(int handle, std::string_view text) const;
 
  private:
-  // The first rank of each label the elements ask for (RankTagsOf), found
-  // in one read of the labels that stops when all are found.
+  using LabelRanks = absl::flat_hash_map<std::string, int, TextHash, std::equal_to<>>;
+  // The first rank of each label the elements ask for (RankTagsOf).
   void RankAskedLabels() const;
-  // The first rank of a label, 0 when no element has it.
-  int FirstRankOf(std::string_view label) const;
+  // Gives each label of `ranks` at 0 the rank of the first element that has
+  // it, in one read of the labels that stops when all are found; a label no
+  // element has stays at 0.
+  void RankLabels(LabelRanks& ranks) const;
 
   const Surface& surface_;
   std::vector<LinkElement> elements_;
   // Built at the first look-up: the binary file never asks. Labels asked
   // later are added as they come.
-  mutable absl::flat_hash_map<std::string, int, TextHash, std::equal_to<>> ranks_;
+  mutable LabelRanks ranks_;
   mutable bool ranked_ = false;
   bool drawing_empty_ = true;
 };
