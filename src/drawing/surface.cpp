@@ -134,34 +134,45 @@ void Surface::Attach(int number, std::unique_ptr<SurfaceObject> object, bool bin
 }
 
 // Binds the links of the batch numbered from `first` to their ends, which are
-// in the batch too. The ends are walked in order, each given its links in one
-// piece, rather than jumping from end to end across a large drawing.
+// in the batch too. The batch is read once in order (which objects can be
+// ends, and each link's ends), and the ends are then given their links in
+// order, each in one piece: nothing jumps from end to end across a large
+// drawing.
 void Surface::BindBatchLinks(int first, int count) {
   const auto position = [&](int number) { return static_cast<std::size_t>(number - first); };
-  const auto ends_of = [&](const SurfaceObject& link) {
-    std::array<int, 2> ends{link.ends[0], link.ends[1]};
-    if (ends[1] == ends[0]) ends[1] = -1;
-    for (int& end : ends) {
-      const SurfaceObject* object = end < first || end >= first + count ? nullptr : Object(end);
-      if (!object || object->shape.kind == kKindLink) end = -1;
-    }
-    return ends;
+  std::vector<char> can_end(static_cast<std::size_t>(count), 0);
+  struct LinkEnds {
+    int number;
+    std::array<int, 2> ends;
   };
-  std::vector<int> start(static_cast<std::size_t>(count) + 1, 0);
+  std::vector<LinkEnds> batch_links;
   for (int number = first; number < first + count; ++number) {
-    const SurfaceObject* link = Object(number);
-    if (!link || link->shape.kind != kKindLink) continue;
-    for (int end : ends_of(*link))
-      if (end >= 0) ++start[position(end) + 1];
+    const SurfaceObject* object = Object(number);
+    if (!object) continue;
+    if (object->shape.kind != kKindLink) {
+      can_end[position(number)] = 1;
+      continue;
+    }
+    std::array<int, 2> ends{object->ends[0], object->ends[1]};
+    if (ends[1] == ends[0]) ends[1] = -1;
+    batch_links.push_back({number, ends});
+  }
+  std::vector<int> start(static_cast<std::size_t>(count) + 1, 0);
+  for (LinkEnds& link : batch_links) {
+    for (int& end : link.ends) {
+      if (end < first || end >= first + count || !can_end[position(end)]) {
+        end = -1;
+      } else {
+        ++start[position(end) + 1];
+      }
+    }
   }
   for (std::size_t i = 1; i < start.size(); ++i) start[i] += start[i - 1];
   std::vector<int> bound(static_cast<std::size_t>(start.back()));
   std::vector<int> filled(start.begin(), start.end() - 1);
-  for (int number = first; number < first + count; ++number) {
-    const SurfaceObject* link = Object(number);
-    if (!link || link->shape.kind != kKindLink) continue;
-    for (int end : ends_of(*link))
-      if (end >= 0) bound[static_cast<std::size_t>(filled[position(end)]++)] = number;
+  for (const LinkEnds& link : batch_links) {
+    for (int end : link.ends)
+      if (end >= 0) bound[static_cast<std::size_t>(filled[position(end)]++)] = link.number;
   }
   for (int number = first; number < first + count; ++number) {
     const std::size_t at = position(number);
