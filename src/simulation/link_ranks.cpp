@@ -1,5 +1,8 @@
 #include "simulation/link_ranks.h"
 
+#include <algorithm>
+#include <array>
+
 #include "drawing/object_tags.h"
 #include "foundation/numbers.h"
 #include "foundation/text.h"
@@ -21,19 +24,21 @@ bool IsLinkElement(int i_name) {
 
 int LinkKindCode(int i_name) { return i_name == kINameMark ? kINamePLU : i_name; }
 
-const std::vector<const char*>& RankTagsOf(int kind) {
-  static const std::vector<const char*> divider = {"IdAval", "IdDer_a", "IdDer_b", "IdDer_c"};
-  static const std::vector<const char*> basin = {"IdAval", "IdSurv"};
-  static const std::vector<const char*> none;
-  switch (kind) {
+std::span<const char* const> RankTagsOf(const Surface& surface, const LinkElement& element) {
+  static constexpr std::array<const char*, 4> kDivider = {"IdAval", "IdDer_a", "IdDer_b",
+                                                          "IdDer_c"};
+  static constexpr std::array<const char*, 2> kBasin = {"IdAval", "IdSurv"};
+  switch (element.kind) {
     case kINameDQQ:
-    case kINameDQZ:
-      return divider;
+    case kINameDQZ: {
+      const int branches = std::clamp<int>(ValRoundInt(surface.TagOf(element.number, "NbDer")), 0, 3);
+      return std::span(kDivider).first(1 + static_cast<std::size_t>(branches));
+    }
     case kINameRS:
     case kINameRSP:
-      return basin;
+      return kBasin;
     default:
-      return none;
+      return {};
   }
 }
 
@@ -59,7 +64,7 @@ int LinkWalk::LinkRankOf(int handle, std::string_view text) const {
 void LinkWalk::RankAskedLabels() const {
   ranked_ = true;
   for (const LinkElement& element : elements_)
-    for (const char* tag : RankTagsOf(element.kind)) {
+    for (const char* tag : RankTagsOf(surface_, element)) {
       const std::string_view label = surface_.TagOf(element.number, tag);
       if (!Trim(label).empty()) ranks_.try_emplace(std::string(label), 0);
     }

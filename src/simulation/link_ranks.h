@@ -4,6 +4,7 @@
 // are built once per file, so each look-up is immediate.
 #pragma once
 
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -21,16 +22,16 @@ bool IsLinkElement(int i_name);
 // The kind written in .LI1: the iName, except a mark (16), written as 12.
 int LinkKindCode(int i_name);
 
-// The tags through which an element of that kind names other elements by
-// their label, in the order of its ranks in .LI1: a divider's downstream
-// element then its three branches (as many as its NbDer), a basin's
-// downstream element then its overflow. Empty for the other kinds.
-const std::vector<const char*>& RankTagsOf(int kind);
-
 struct LinkElement {
   int number = 0;  // object number
   int kind = 0;    // iName as a 16-bit leading number
 };
+
+// The tags through which an element names other elements by their label, in
+// the order of its ranks in .LI1: a divider's downstream element then as many
+// of its three branches as its NbDer, a basin's downstream element then its
+// overflow. Empty for the other kinds.
+std::span<const char* const> RankTagsOf(const Surface& surface, const LinkElement& element);
 
 // The kept elements in rank order, and the rank of each label.
 class LinkWalk {

@@ -1,5 +1,4 @@
 // .LI1, one line for each element in rank order.
-#include <algorithm>
 #include <array>
 
 #include "foundation/errors.h"
@@ -65,13 +64,8 @@ LinkTargets TargetsOf(const Surface& surface, const LinkElement& element, const 
     case kINameRS:
     case kINameRSP: {
       t.upstream = node(kTagSNodAm);
-      const std::vector<const char*>& targets = RankTagsOf(element.kind);
-      // A divider names its downstream element, then as many branches as it has.
-      const bool divider = element.kind == kINameDQQ || element.kind == kINameDQZ;
-      const std::size_t asked =
-          divider ? 1 + static_cast<std::size_t>(std::clamp<int>(ValRoundInt(tag("NbDer")), 0, 3))
-                  : targets.size();
-      for (std::size_t i = 0; i < asked; ++i) t.ranks[i] = rank(targets[i]);
+      const auto targets = RankTagsOf(surface, element);
+      for (std::size_t i = 0; i < targets.size(); ++i) t.ranks[i] = rank(targets[i]);
       break;
     }
     default:
